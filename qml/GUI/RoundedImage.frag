@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+//
+// A picture with rounded corners. _rX and _rY: corner radius as a fraction of the picture's width and height.
+#ifdef GL_ES
+#ifdef GL_FRAGMENT_PRECISION_HIGH
+precision highp float;
+#else
+precision mediump float;
+#endif
+#else
+#define lowp
+#define mediump
+#define highp
+#endif
+
+varying vec2 qt_TexCoord0;
+uniform sampler2D _image;
+uniform lowp float qt_Opacity;
+uniform float _rX;
+uniform float _rY;
+
+float sq(float value)
+{
+    return value * value;
+}
+
+bool isCutOff(vec2 point)
+{
+    float dx = max(max(_rX - point.x, point.x - (1.0 - _rX)), 0.0);
+    float dy = max(max(_rY - point.y, point.y - (1.0 - _rY)), 0.0);
+    return dx > 0.0 && dy > 0.0 && sq(dx) / sq(_rX) + sq(dy) / sq(_rY) > 1.0;
+}
+
+void main()
+{
+    float opacity = isCutOff(qt_TexCoord0) ? 0.0 : qt_Opacity;
+    gl_FragColor = texture2D(_image, qt_TexCoord0) * opacity;
+}
