@@ -143,7 +143,7 @@ static_assert(std::size(variables) == 91);
 
 QVariant valueOf(const Variable& variable, const QQmlPropertyMap& theme)
 {
-    const QVariant source = theme.value(QLatin1String(variable.source));
+    QVariant source = theme.value(QLatin1String(variable.source));
     const float base = theme.value(QStringLiteral("font-size-base")).toFloat();
     switch (variable.rule) {
     case Rule::Color:
