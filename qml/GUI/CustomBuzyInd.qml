@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "."
+import "private"
+
+// A busy indicator with its text, over the whole parent, which takes no presses meanwhile. It can end with a message
+// that stays for a moment. Shown while `running` or while such a message stands.
+Item {
+    id: indicator
+
+    property bool running: false
+    property string text
+    // 0 to 1 shows a bar of progress, below 0 none.
+    property real progress: -1
+    // How long an ending message stays, in milliseconds.
+    property int messageTime: 2500
+
+    readonly property bool ending: message.text !== ""
+
+    // The ending message has gone.
+    signal finished()
+
+    function start(label) {
+        linger.stop();
+        message.text = "";
+        text = label;
+        progress = -1;
+        running = true;
+    }
+
+    // Stops; a message that is not empty is shown for a moment, as an error's if `isError`.
+    function finish(label, isError) {
+        running = false;
+        message.isError = isError === true;
+        message.text = label || "";
+        if (ending)
+            linger.restart();
+        else
+            finished();
+    }
+
+    anchors.fill: parent
+    z: 100
+    visible: running || ending
+    Accessible.role: Accessible.Indicator
+    Accessible.name: ending ? message.text : text
+
+    Timer {
+        id: linger
+        interval: indicator.messageTime
+        onTriggered: {
+            message.text = "";
+            indicator.finished();
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onWheel: wheel.accepted = true
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.strongInk
+        opacity: 0.35
+    }
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 4 * Theme.unit, Math.max(26 * Theme.unit, content.implicitWidth + 6 * Theme.unit))
+        height: content.height + 5 * Theme.unit
+        radius: Theme.radius("xlarge")
+        color: Theme.surface
+
+        Column {
+            id: content
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 4 * Theme.unit)
+            spacing: 1.5 * Theme.unit
+
+            Spinner {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 5 * Theme.unit
+                height: width
+                visible: !indicator.ending
+            }
+
+            FontAwesomeIcon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: indicator.ending
+                size: "h1"
+                faIcon: message.isError ? "fa-exclamation-circle" : "fa-check-circle"
+                color: message.isError ? Theme.danger : Theme.success
+            }
+
+            Label {
+                id: message
+                property bool isError: false
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, indicator.width - 8 * Theme.unit)
+                visible: indicator.ending
+                size: "large"
+                textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignHCenter
+            }
+
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, indicator.width - 8 * Theme.unit)
+                visible: !indicator.ending && text !== ""
+                size: "large"
+                text: indicator.text
+                textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignHCenter
+            }
+
+            ProgressBar {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 20 * Theme.unit
+                visible: indicator.running && indicator.progress >= 0
+                value: indicator.progress
+            }
+        }
+    }
+}

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+import "private"
+
+// One line of text. Enter accepts. With an `error` the field turns red and the message stands below it.
+T.TextField {
+    id: control
+
+    property string size: "base"
+    property string faIcon
+    property string error
+    // Offers a cross that empties the field.
+    property bool clearable: false
+
+    readonly property real fieldHeight: Math.max(Theme.controlHeight(size), Math.ceil(contentHeight))
+    readonly property bool showsClear: clearable && text !== "" && enabled && !readOnly
+
+    implicitWidth: 28 * Theme.unit
+    implicitHeight: fieldHeight + bottomInset
+    bottomInset: error === "" ? 0 : message.implicitHeight + Theme.unit / 2
+    bottomPadding: bottomInset
+    leftPadding: Theme.padding(size) * (faIcon === "" ? 1 : 0.75) + (faIcon === "" ? 0 : 1.6 * font.pixelSize)
+    rightPadding: Theme.padding(size) + (showsClear ? clear.width : 0)
+    opacity: enabled ? 1 : 0.6
+    hoverEnabled: true
+    selectByMouse: true
+    verticalAlignment: TextInput.AlignVCenter
+    color: bs["input-color"]
+    placeholderTextColor: bs["input-color-placeholder"]
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.surface
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.fontSize(size)
+    Accessible.name: placeholderText
+
+    background: Rectangle {
+        implicitHeight: control.fieldHeight
+        radius: bs["input-border-radius"] * dp
+        color: control.enabled && !control.readOnly ? bs["input-bg"] : bs["input-bg-disabled"]
+        border.width: control.activeFocus ? 2 * dp : Math.max(1, dp)
+        border.color: control.error !== "" ? Theme.danger
+                                           : (control.activeFocus ? Theme.focus
+                                                                  : (control.hovered ? Theme.ink : bs["input-border"]))
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -2 * dp
+            z: -1
+            radius: parent.radius + 2 * dp
+            visible: control.activeFocus
+            color: control.error !== "" ? bs["brand-danger"] : bs["input-border-focus"]
+            opacity: 0.4
+        }
+
+        FontAwesomeIcon {
+            x: Theme.padding(control.size) * 0.75
+            anchors.verticalCenter: parent.verticalCenter
+            faIcon: control.faIcon
+            size: control.size
+            color: Theme.mutedInk
+        }
+
+        Placeholder {
+            control: control
+            width: parent.width - control.leftPadding - control.rightPadding
+            visible: control.length === 0 && control.preeditText === ""
+        }
+    }
+
+    Label {
+        id: message
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: control.error !== ""
+        size: "small"
+        text: control.error
+        textFormat: Text.PlainText
+        color: Theme.danger
+    }
+
+    ActionButton {
+        id: clear
+        anchors.right: parent.right
+        y: (control.fieldHeight - height) / 2
+        visible: control.showsClear
+        focusPolicy: Qt.NoFocus
+        size: control.size
+        faIcon: "fa-times-circle"
+        toolTip: qsTr("Clear")
+        color: Theme.mutedInk
+        onClicked: control.clear()
+    }
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+
+// How far long work has come; `indeterminate` while nobody knows.
+T.ProgressBar {
+    id: control
+
+    implicitWidth: 24 * Theme.unit
+    implicitHeight: Theme.unit
+
+    background: Rectangle {
+        radius: height / 2
+        color: Theme.sunken
+        border.width: Math.max(1, dp)
+        border.color: Theme.line
+    }
+
+    contentItem: Item {
+        clip: control.indeterminate
+
+        Rectangle {
+            id: bar
+            width: control.indeterminate ? parent.width / 3 : parent.width * control.visualPosition
+            height: parent.height
+            radius: height / 2
+            color: Theme.accent
+
+            Behavior on width {
+                enabled: !control.indeterminate
+                NumberAnimation { duration: Theme.quick }
+            }
+        }
+
+        XAnimator {
+            target: bar
+            running: control.indeterminate && control.visible
+            from: -control.width / 3
+            to: control.width
+            duration: 1400
+            loops: Animation.Infinite
+            onStopped: bar.x = 0
+        }
+    }
+}

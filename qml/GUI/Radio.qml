@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+import "private"
+
+// One choice of several: radios with the same parent, or of one RadioGroup, switch each other off.
+// Space and Enter choose it.
+T.RadioButton {
+    id: control
+
+    property string size: "base"
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Theme.controlHeight(size)
+    padding: 0
+    spacing: Theme.unit
+    opacity: enabled ? 1 : 0.5
+    hoverEnabled: true
+    Accessible.name: text
+
+    Keys.onReturnPressed: clickByKey(event)
+    Keys.onEnterPressed: clickByKey(event)
+
+    function clickByKey(event) {
+        if (!event.isAutoRepeat)
+            click();
+    }
+
+    indicator: Mark {
+        control: control
+        radius: width / 2
+        glyph: "fa-circle"
+        glyphScale: 0.5
+        isSet: control.checked
+    }
+
+    contentItem: MarkText {
+        control: control
+    }
+
+    TouchReach {
+        control: control
+    }
+}
