@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "api/archivecheck.h"
+
+#include "api/limits.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int encryptedFlag = 1;
+constexpr int storedMethod = 0;
+constexpr int deflatedMethod = 8;
+constexpr quint32 unixTypeMask = 0170000;
+constexpr quint32 unixFile = 0100000;
+constexpr quint32 unixFolder = 0040000;
+
+bool isSafePart(const QStringRef& part)
+{
+    return !part.isEmpty() && part != QLatin1String(".") && part != QLatin1String("..") &&
+           part.toUtf8().size() <= limits::archivePartBytes;
+}
+
+bool isUnsafeCharacter(QChar c)
+{
+    return c < QLatin1Char(' ') || c == QLatin1Char('\\') || c == QChar(0x7f);
+}
+
+QStringRef withoutFinalSlash(const QString& name)
+{
+    return name.leftRef(name.endsWith(QLatin1Char('/')) ? name.size() - 1 : -1);
+}
+
+QString faultOfName(const QString& name)
+{
+    if (name.toUtf8().size() > limits::archiveNameBytes)
+        return QStringLiteral("a name is too long");
+    const QVector<QStringRef> parts = withoutFinalSlash(name).split(QLatin1Char('/'));
+    if (parts.size() > limits::archiveNameParts)
+        return QStringLiteral("a name is too deep");
+    const bool drive = name.size() > 1 && name[1] == QLatin1Char(':');
+    if (drive || std::any_of(name.cbegin(), name.cend(), isUnsafeCharacter) ||
+        !std::all_of(parts.cbegin(), parts.cend(), isSafePart))
+        return QStringLiteral("a name could lead out of the target");
+    return {};
+}
+
+bool isBomb(quint64 bytes, quint64 packedBytes)
+{
+    return bytes > limits::archiveRatioFreeBytes && bytes / limits::archiveRatio >= packedBytes &&
+           bytes > packedBytes * limits::archiveRatio;
+}
+
+QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
+{
+    const quint32 type = (entry.externalAttr >> 16) & unixTypeMask;
+    if (type != 0 && type != unixFile && type != unixFolder)
+        return QStringLiteral("an entry is a link or a device");
+    if (entry.flags & encryptedFlag)
+        return QStringLiteral("an entry is encrypted");
+    if (entry.method != storedMethod && entry.method != deflatedMethod)
+        return QStringLiteral("an entry is compressed in an unknown way");
+    if (entry.compressedSize > archiveBytes)
+        return QStringLiteral("an entry is larger than the archive");
+    if (isBomb(entry.uncompressedSize, entry.compressedSize))
+        return QStringLiteral("an entry unpacks to far more than it is");
+    return faultOfName(entry.name);
+}
+
+// Compares names without case, as some file systems do.
+class NameClashes
+{
+public:
+    bool add(const QString& name)
+    {
+        const QString key = withoutFinalSlash(name).toString().toCaseFolded();
+        if (m_files.contains(key) || m_folders.contains(key))
+            return false;
+        (name.endsWith(QLatin1Char('/')) ? m_folders : m_files).insert(key);
+        return true;
+    }
+
+    // Whether a part of the path to `name`, added before or after it, is a file.
+    bool needsFileAsFolder(const QString& name)
+    {
+        QString parent = withoutFinalSlash(name).toString().toCaseFolded();
+        for (int slash; (slash = parent.lastIndexOf(QLatin1Char('/'))) >= 0;) {
+            parent.truncate(slash);
+            if (m_files.contains(parent))
+                return true;
+            if (m_checked.contains(parent))
+                return false;
+            m_checked.insert(parent);
+        }
+        return false;
+    }
+
+private:
+    QSet<QString> m_files;
+    QSet<QString> m_folders;
+    QSet<QString> m_checked;
+};
+
+QString faultOfNames(const QVector<QuaZipFileInfo64>& entries)
+{
+    NameClashes clashes;
+    for (const QuaZipFileInfo64& entry : entries) {
+        if (!clashes.add(entry.name))
+            return QStringLiteral("a name occurs twice: ") + entry.name;
+    }
+    for (const QuaZipFileInfo64& entry : entries) {
+        if (clashes.needsFileAsFolder(entry.name))
+            return QStringLiteral("a file is also a folder: ") + entry.name;
+    }
+    return {};
+}
+
+} // namespace
+
+QString archiveFault(const QVector<QuaZipFileInfo64>& entries, qint64 archiveBytes)
+{
+    if (entries.isEmpty())
+        return QStringLiteral("it has no entries");
+    if (entries.size() > limits::archiveEntries)
+        return QStringLiteral("it has too many entries");
+    quint64 bytes = 0;
+    quint64 packedBytes = 0;
+    for (const QuaZipFileInfo64& entry : entries) {
+        const QString fault = faultOfEntry(entry, archiveBytes);
+        if (!fault.isEmpty())
+            return fault + QStringLiteral(": ") + entry.name.left(100);
+        bytes += entry.uncompressedSize;
+        packedBytes += entry.compressedSize;
+    }
+    if (packedBytes > quint64(archiveBytes))
+        return QStringLiteral("its entries overlap");
+    if (isBomb(bytes, packedBytes))
+        return QStringLiteral("it unpacks to far more than it is");
+    return faultOfNames(entries);
+}

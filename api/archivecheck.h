@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+#include <quazip/quazipfileinfo.h>
+
+/// Why an archive of `archiveBytes` with these directory entries must not be unpacked; empty when it may.
+///
+/// Refused are entries that lead out of the target (absolute, with "..", "." or empty parts, backslashes,
+/// drive letters, control characters), names that are too long or too deep, anything but files and folders,
+/// names that occur twice (also when only the case differs) or that need a file as a folder, encryption,
+/// methods other than stored and deflated, sizes that the archive cannot hold, and what unpacks to far more
+/// than it is.
+QString archiveFault(const QVector<QuaZipFileInfo64>& entries, qint64 archiveBytes);
