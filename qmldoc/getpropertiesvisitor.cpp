@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "qmldoc/getpropertiesvisitor.h"
+
+#include <private/qqmljsast_p.h>
+
+using namespace QQmlJS::AST;
+
+namespace {
+
+int begin(const QQmlJS::SourceLocation& location)
+{
+    return int(location.begin());
+}
+
+int end(const QQmlJS::SourceLocation& location)
+{
+    return int(location.end());
+}
+
+// Where the comment that begins at `position` ends; `position` when none does.
+int endOfComment(const QString& text, int position)
+{
+    const QStringRef rest = text.midRef(position, 2);
+    int last = position;
+    if (rest == QLatin1String("//"))
+        last = text.indexOf(QLatin1Char('\n'), position);
+    else if (rest == QLatin1String("/*"))
+        last = text.indexOf(QLatin1String("*/"), position + 2) + 2;
+    return last < position ? text.size() : last;
+}
+
+} // namespace
+
+GetPropertiesVisitor::GetPropertiesVisitor(const QString& parsed, const QString& source,
+                                           QVariantMap& properties)
+    : m_parsed(parsed)
+    , m_source(source)
+    , m_properties(properties)
+{
+}
+
+bool GetPropertiesVisitor::visit(UiObjectDefinition*)
+{
+    return ++m_depth < 2;
+}
+
+bool GetPropertiesVisitor::visit(UiPublicMember* member)
+{
+    add(member->name.toString(), begin(member->firstSourceLocation()), valueBegin(member),
+        end(member->lastSourceLocation()));
+    return false;
+}
+
+bool GetPropertiesVisitor::visit(UiScriptBinding* binding)
+{
+    const int first = begin(binding->firstSourceLocation());
+    const int colon = m_source.indexOf(QLatin1Char(':'), first);
+    add(m_source.mid(first, colon - first).remove(QLatin1Char(' ')), first,
+        firstTokenAfter(end(binding->colonToken)), end(binding->lastSourceLocation()));
+    return false;
+}
+
+// The first location that the syntax tree gives for a script is wrong for some: it misses the opening
+// parenthesis of an arrow function.
+int GetPropertiesVisitor::firstTokenAfter(int position) const
+{
+    for (;;) {
+        while (position < m_parsed.size() && m_parsed.at(position).isSpace())
+            ++position;
+        const int next = endOfComment(m_parsed, position);
+        if (next == position)
+            return position;
+        position = next;
+    }
+}
+
+int GetPropertiesVisitor::valueBegin(const UiPublicMember* member) const
+{
+    if (member->statement)
+        return firstTokenAfter(end(member->colonToken));
+    if (const auto* object = cast<UiObjectBinding*>(member->binding))
+        return begin(object->qualifiedTypeNameId->identifierToken);
+    if (const auto* array = cast<UiArrayBinding*>(member->binding))
+        return begin(array->lbracketToken);
+    return end(member->lastSourceLocation());
+}
+
+void GetPropertiesVisitor::add(const QString& name, int begin, int valueBegin, int end)
+{
+    m_properties.insert(name,
+                        QVariantMap{{QStringLiteral("value"), m_source.mid(valueBegin, end - valueBegin)},
+                                    {QStringLiteral("pfirst"), begin},
+                                    {QStringLiteral("plast"), end}});
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace qmldoc {
+
+/// Longest text that is taken for a document, in UTF-16 code units. The editor text of a document of this
+/// length that is nothing but objects still fits a QString.
+constexpr int maxSourceLength = 16 * 1024 * 1024;
+
+/// States that the history keeps while a file is edited, and before the first file is opened.
+constexpr int historyCapacity = 20;
+constexpr int initialHistoryCapacity = 1;
+
+/// Every so many saved editing states one is written to disk.
+constexpr int statesPerSafetyCopy = 10;
+
+} // namespace qmldoc

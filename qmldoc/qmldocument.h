@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QVariant>
+
+#include <memory>
+#include <vector>
+
+namespace QQmlJS {
+class Engine;
+namespace AST {
+class UiObjectDefinition;
+}
+} // namespace QQmlJS
+
+/// A QML document as text: where its objects and their properties stand, and the text that the editor
+/// instantiates.
+///
+/// Positions are 0-based offsets in UTF-16 code units, ends are exclusive. Not thread-safe; each document on
+/// its own may live in any thread.
+class QmlDocument
+{
+public:
+    QmlDocument();
+    ~QmlDocument();
+    Q_DISABLE_COPY(QmlDocument)
+
+    /// Parses `source`, numbering its objects upward from `firstElement`. False when the text is no QML
+    /// document or nests too deep (1365 objects): the objects are then still those of the last successful
+    /// parse, and the generated text is `source` itself. `source` is referred to until the next call and must
+    /// live as long; texts of values are read from it when the item map is made.
+    bool parse(const QString& source, int firstElement);
+    bool parse(QString&&, int) = delete;
+
+    /// The last parsed text with the editor's members in each numbered object; see editorText(). Making an
+    /// item map empties it.
+    QString generatedText() const { return m_generatedText; }
+
+    /// Number of objects of the last successful parse.
+    int objectCount() const { return int(m_objects.size()); }
+
+    /// The item map: one record for each numbered object, innermost first, the root last. A record is a map
+    /// of "pfirst" (begin of the type name), "pfirstL" (after the opening brace), "plast" (after the closing
+    /// brace), "typename" (up to the first dot, in Latin-1) and "properties" (see propertiesOfObject()).
+    QVariantList itemMap();
+
+    /// Properties of object `i` of 0 to objectCount() - 1, by name: maps of "value" (source text), "pfirst"
+    /// (begin of the declaration or binding) and "plast" (end of the value). Of two with the same name the
+    /// later one counts.
+    QVariantMap propertiesOfObject(int i);
+
+private:
+    QVariantMap record(int i);
+
+    QString m_generatedText;
+    const QString* m_source;
+    std::unique_ptr<QQmlJS::Engine> m_engine; // owns the syntax tree of the last successful parse
+    std::vector<QQmlJS::AST::UiObjectDefinition*> m_objects;
+};
