@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "api/workspace.h"
+
+#include "api/logging.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+namespace {
+
+void makeFolder(const QString& path)
+{
+    if (!QDir().mkpath(path))
+        qCWarning(lcApi) << "The workspace folder" << path << "cannot be made";
+}
+
+// An empty name or one with a path in it would reach beyond one project.
+bool isFolderName(const QString& name)
+{
+    const bool plain = !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
+                       !name.contains(QLatin1Char('/'));
+    if (!plain)
+        qCWarning(lcApi) << "Not the name of a project:" << name;
+    return plain;
+}
+
+} // namespace
+
+Workspace::Workspace(const QString& root)
+    : m_root(root)
+{
+    makeFolder(workDirectory());
+    makeFolder(shareFolder());
+}
+
+QString Workspace::defaultRoot()
+{
+    const QStringList places = QStandardPaths::standardLocations(QStandardPaths::AppLocalDataLocation);
+    return places.isEmpty() ? QCoreApplication::applicationDirPath()
+                            : places.constFirst() + QStringLiteral("/PlayerQML");
+}
+
+QString Workspace::workDirectory() const
+{
+    return m_root + QStringLiteral("/Work");
+}
+
+QString Workspace::shareFolder() const
+{
+    return m_root + QStringLiteral("/ShareFolder");
+}
+
+QStringList Workspace::listProjects()
+{
+    m_projects = QDir(workDirectory()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    return m_projects;
+}
+
+bool Workspace::create(const QString& name)
+{
+    return isFolderName(name) && QDir(workDirectory()).mkdir(name);
+}
+
+bool Workspace::remove(const QString& name)
+{
+    m_projects.removeOne(name);
+    return isFolderName(name) && QDir(workDirectory() + QLatin1Char('/') + name).removeRecursively();
+}
+
+bool Workspace::rename(const QString& oldName, const QString& newName)
+{
+    return isFolderName(oldName) && isFolderName(newName) && QDir(workDirectory()).rename(oldName, newName);
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QStringList>
+
+/// The folders that the program keeps its projects in, and the list of projects. GUI thread.
+///
+/// Below the root lie "Work", with one folder a project, and "ShareFolder", the area of shared projects.
+class Workspace
+{
+public:
+    /// A workspace below `root`; makes its folders. Failures are logged and otherwise left to later use.
+    explicit Workspace(const QString& root);
+
+    /// Where the workspace lies on this machine: below the application's local data, or, on a platform
+    /// without such a place, the program's own folder.
+    static QString defaultRoot();
+
+    QString root() const { return m_root; }
+    /// The folder that holds all projects.
+    QString workDirectory() const;
+    /// The area of shared projects.
+    QString shareFolder() const;
+
+    /// Names of the projects, in file-system order; also remembered as the cached list.
+    QStringList listProjects();
+    /// The list as of the last listProjects(), with imports added and removals taken out since.
+    QStringList cachedProjects() const { return m_projects; }
+    /// Adds a project that is being imported to the cached list.
+    void addToCache(const QString& name) { m_projects.append(name); }
+
+    /// Makes an empty project folder; false when it exists or cannot be made.
+    bool create(const QString& name);
+    /// Deletes a project folder with everything in it. Its name leaves the cached list in any case.
+    bool remove(const QString& name);
+    /// Renames a project folder.
+    bool rename(const QString& oldName, const QString& newName);
+
+private:
+    QString m_root;
+    QStringList m_projects;
+};

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/nativetypes.h"
+
+#include "cloud/deployment.h"
+#include "quick/syntaxhighlighter.h"
+#include "quick/transparentvideo.h"
+
+#include <QQmlEngine>
+
+namespace {
+
+bool registerOnce(const Deployment& deployment)
+{
+    qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
+    qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    // The engine owns a singleton that its provider returns.
+    qmlRegisterSingletonType<DeploymentInfo>(
+        "Nuvex.Deployment", 1, 0, "Deployment",
+        [deployment](QQmlEngine*, QJSEngine*) -> QObject* { return new DeploymentInfo(deployment); });
+    return true;
+}
+
+} // namespace
+
+void registerNativeTypes(const Deployment& deployment)
+{
+    static const bool registered = registerOnce(deployment);
+    Q_UNUSED(registered)
+}
+
+void addImportPaths(QQmlEngine& engine)
+{
+    engine.addImportPath(QStringLiteral("qrc:///./"));
+    engine.addImportPath(QStringLiteral("qrc:///./Nuvex/Components/"));
+}

@@ -1,0 +1,266 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "api/projectfolder.h"
+#include "api/workspace.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QtTest>
+
+namespace {
+
+void put(const QString& path, const QByteArray& content)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+}
+
+} // namespace
+
+class ProjectFolderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void pathRule_data();
+    void pathRule();
+    void copyToDir_data();
+    void copyToDir();
+    void copyReplacesAndMakesFolders();
+    void copyOntoItselfLeavesTheFile();
+    void textRoundTrip_data();
+    void textRoundTrip();
+    void writeThatFailsKeepsTheFile();
+    void appendAddsLines();
+    void readOfWhatCannotBeRead();
+    void renameLandsInTheProject();
+    void resolvedUrl();
+    void sourcesAreFilesOfThreeKinds();
+    void fontsAreRegisteredOnce();
+    void projectsAreListedMadeRenamedRemoved();
+    void namesThatReachBeyondOneProjectAreRefused_data();
+    void namesThatReachBeyondOneProjectAreRefused();
+
+private:
+    QString in(const QString& name) const { return m_project->absolutePath() + '/' + name; }
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<ProjectFolder> m_project;
+};
+
+void ProjectFolderTest::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_home->isValid());
+    m_project = std::make_unique<ProjectFolder>(m_home->filePath(QString::fromUtf8("Läden \"Süd\"")));
+    QDir().mkpath(m_project->absolutePath());
+}
+
+void ProjectFolderTest::pathRule_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("expected");
+    const QString project = "/tmp/p";
+    QTest::newRow("relative") << "images/a.png" << project + "/images/a.png";
+    QTest::newRow("absolute") << "/etc/hosts"
+                              << "/etc/hosts";
+    QTest::newRow("URL") << "file:///etc/a%20b"
+                         << "/etc/a b";
+    QTest::newRow("URL in capitals is a name") << "FILE:///etc/a" << project + "/FILE:///etc/a";
+    QTest::newRow("empty") << "" << project;
+}
+
+void ProjectFolderTest::pathRule()
+{
+    QFETCH(QString, path);
+    QTEST(QDir::cleanPath(ProjectFolder("/tmp/p").resolved(path)).replace("FILE:/", "FILE:///"), "expected");
+}
+
+void ProjectFolderTest::copyToDir_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("suffixes") << "logo.final.png"
+                              << "images/logo.final.png";
+    QTest::newRow("no suffix keeps the dot") << "notes"
+                                             << "images/notes.";
+    QTest::newRow("non-Latin") << QString::fromUtf8("Käse 1.png") << QString::fromUtf8("images/Käse 1.png");
+}
+
+void ProjectFolderTest::copyToDir()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, result);
+    const QString outside = m_home->filePath("media/" + source);
+    put(outside, "picture");
+    QCOMPARE(m_project->copyToDir(QUrl::fromLocalFile(outside).toString(QUrl::FullyEncoded), "images"),
+             result);
+    QCOMPARE(content(in(result)), QByteArray("picture"));
+    // Copying the copy into its own place changes nothing, where the name allows it.
+    if (result.endsWith(source))
+        QCOMPARE(m_project->copyToDir(result, "images"), result);
+    QCOMPARE(content(in(result)), QByteArray("picture"));
+    QCOMPARE(m_project->copyToDir("not there.png", "images"), QString());
+}
+
+void ProjectFolderTest::copyReplacesAndMakesFolders()
+{
+    put(in("a.txt"), "new");
+    put(in("deep/er/b.txt"), "old");
+    QVERIFY(m_project->copy("a.txt", "deep/er/b.txt"));
+    QVERIFY(m_project->copy("a.txt", "quite/new/c.txt"));
+    QCOMPARE(content(in("deep/er/b.txt")), QByteArray("new"));
+    QCOMPARE(content(in("quite/new/c.txt")), QByteArray("new"));
+    QVERIFY(!m_project->copy("missing", "deep/er/b.txt"));
+}
+
+void ProjectFolderTest::copyOntoItselfLeavesTheFile()
+{
+    put(in("a.txt"), "kept");
+    QVERIFY(m_project->copy("a.txt", QUrl::fromLocalFile(in("a.txt")).toString()));
+    QCOMPARE(content(in("a.txt")), QByteArray("kept"));
+}
+
+void ProjectFolderTest::textRoundTrip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString("");
+    QTest::newRow("no line end") << QString("Item { }");
+    QTest::newRow("CRLF") << QString("Item {\r\n}\r\n");
+    QTest::newRow("beyond Latin") << QString::fromUtf8("text: \"žluť 漢字 😀\"\n");
+}
+
+void ProjectFolderTest::textRoundTrip()
+{
+    QFETCH(QString, text);
+    QVERIFY(m_project->write(text, "sub/main.qml"));
+    QCOMPARE(m_project->read("sub/main.qml"), text);
+    QCOMPARE(content(in("sub/main.qml")), text.toUtf8());
+}
+
+void ProjectFolderTest::writeThatFailsKeepsTheFile()
+{
+    put(in("file"), "kept");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(".*"));
+    QVERIFY(!m_project->write("text", "file/below"));
+    QCOMPARE(content(in("file")), QByteArray("kept"));
+}
+
+void ProjectFolderTest::appendAddsLines()
+{
+    QVERIFY(m_project->append("x", "logs/list.txt"));
+    QVERIFY(m_project->append(QString::fromUtf8("é"), "logs/list.txt"));
+    QCOMPARE(content(in("logs/list.txt")), QByteArray("x\n\xc3\xa9\n"));
+    QVERIFY(!m_project->append("x", "/dev/full"));
+}
+
+void ProjectFolderTest::readOfWhatCannotBeRead()
+{
+    QCOMPARE(m_project->read("missing"), QString());
+    QCOMPARE(m_project->read("."), QString());
+    QFile huge(in("huge.txt"));
+    QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(1) << 32));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Too large for a text file"));
+    QCOMPARE(m_project->read("huge.txt"), QString());
+}
+
+void ProjectFolderTest::renameLandsInTheProject()
+{
+    put(in("images/a.png"), "a");
+    QVERIFY(m_project->rename("images/a.png", "b.png"));
+    QVERIFY(m_project->exists("b.png") && !m_project->exists("images/a.png"));
+    QVERIFY(m_project->remove("b.png"));
+    QVERIFY(!m_project->remove("b.png"));
+}
+
+void ProjectFolderTest::resolvedUrl()
+{
+    put(in("images/own.png"), "x");
+    QCOMPARE(m_project->resolvedUrl("images/own.png"), QUrl::fromLocalFile(in("images/own.png")).toString());
+    const QString library = m_project->resolvedUrl("icons/noImage.png");
+    QCOMPARE(library, QString("file::/Nuvex/Components/icons/noImage.png"));
+    QVERIFY(QFile::exists(QUrl(library).toLocalFile()));
+    QCOMPARE(m_project->resolvedUrl("images/nowhere.png"), QString("images/nowhere.png"));
+}
+
+void ProjectFolderTest::sourcesAreFilesOfThreeKinds()
+{
+    for (const char* name : {"main.qml", "notes.txt", "lib.js", "picture.png", "dirmap"})
+        put(in(name), "x");
+    QDir(m_project->absolutePath()).mkdir("folder.qml");
+    QStringList sources = m_project->sources();
+    sources.sort();
+    QCOMPARE(sources, QStringList({"lib.js", "main.qml", "notes.txt"}));
+}
+
+void ProjectFolderTest::fontsAreRegisteredOnce()
+{
+    QDir(m_project->absolutePath()).mkdir("fonts");
+    QVERIFY(QFile::copy(":/Nuvex/Components/fonts/lobster.ttf", in("fonts/one.ttf")));
+    QVERIFY(QFile::copy(":/Nuvex/Components/fonts/lobster.ttf", in("fonts/two.ttf")));
+    put(in("fonts/broken.ttf"), "no font");
+    QVERIFY(!m_project->fonts(false).contains("Lobster"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Not a usable font"));
+    const QStringList loaded = m_project->fonts(true);
+    QCOMPARE(loaded.count("Lobster"), 1);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Not a usable font"));
+    QCOMPARE(m_project->fonts(true), loaded);
+    QCOMPARE(m_project->fonts(false), loaded);
+}
+
+void ProjectFolderTest::projectsAreListedMadeRenamedRemoved()
+{
+    Workspace workspace(m_home->filePath("root"));
+    QVERIFY(workspace.create("Shop"));
+    QVERIFY(!workspace.create("Shop"));
+    QVERIFY(workspace.create(QString::fromUtf8("Büro .5")));
+    put(workspace.workDirectory() + "/scratch.zip", "x");
+    put(workspace.workDirectory() + "/Shop/images/a.png", "x");
+    QStringList projects = workspace.listProjects();
+    projects.sort();
+    QCOMPARE(projects, QStringList({QString::fromUtf8("Büro .5"), "Shop"}));
+    QVERIFY(!workspace.rename("Shop", QString::fromUtf8("Büro .5")));
+    QVERIFY(workspace.rename("Shop", "Store"));
+    workspace.listProjects();
+    QVERIFY(workspace.remove("Store"));
+    QCOMPARE(workspace.cachedProjects(), QStringList(QString::fromUtf8("Büro .5")));
+    QCOMPARE(workspace.listProjects(), workspace.cachedProjects());
+}
+
+void ProjectFolderTest::namesThatReachBeyondOneProjectAreRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"", ".", "..", "../other", "a/b", "/etc"})
+        QTest::newRow(name) << name;
+}
+
+void ProjectFolderTest::namesThatReachBeyondOneProjectAreRefused()
+{
+    QFETCH(QString, name);
+    Workspace workspace(m_home->filePath("root"));
+    workspace.create("Shop");
+    for (int call = 0; call < 3; ++call)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Not the name of a project"));
+    QVERIFY(!workspace.create(name));
+    QVERIFY(!workspace.remove(name));
+    QVERIFY(!workspace.rename("Shop", name));
+    QCOMPARE(workspace.listProjects(), QStringList("Shop"));
+}
+
+QTEST_MAIN(ProjectFolderTest)
+#include "tst_projectfolder.moc"

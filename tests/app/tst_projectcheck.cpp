@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/nativetypes.h"
+#include "app/projectcheck.h"
+#include "app/projectreferences.h"
+#include "cloud/deployment.h"
+
+#include <QDir>
+#include <QQmlEngine>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class ProjectCheckTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void referencesOfADocument();
+    void problems_data();
+    void problems();
+    void theDemosAreInOrder_data();
+    void theDemosAreInOrder();
+
+private:
+    QQmlEngine m_engine;
+};
+
+void ProjectCheckTest::initTestCase()
+{
+    registerNativeTypes({});
+    addImportPaths(m_engine);
+}
+
+void ProjectCheckTest::referencesOfADocument()
+{
+    const QString document = R"(import QtQuick 2.15
+Item {
+    property string source: "declared.png"
+    Image { source: "images/a b.png" }
+    Image { source: flag ? "x.png" : "y.png" }
+    Text { text: "source.png"; font { family: "Lobster" } }
+    Text { font.family: "Grotesk" }
+})";
+    QStringList found;
+    for (const ProjectReference& reference : projectReferences(document))
+        found.append(QString("%1 %2 %3").arg(reference.kind).arg(reference.line).arg(reference.name));
+    QCOMPARE(found, QStringList({"0 4 images/a b.png", "1 6 Lobster", "1 7 Grotesk"}));
+    QVERIFY(projectReferences("Item {").isEmpty());
+}
+
+void ProjectCheckTest::problems_data()
+{
+    QTest::addColumn<QString>("main");
+    QTest::addColumn<QStringList>("expected");
+    const QString head = "import QtQuick 2.15\nimport Nuvex.Components 1.0\n";
+    QTest::newRow("sound") << head + "Item { BasicImage { source: 'images/here.png' } }" << QStringList();
+    QTest::newRow("library picture")
+        << head + "Item { Image { source: 'qrc:///Nuvex/Components/icons/noImage.png' } }" << QStringList();
+    QTest::newRow("from the net") << head + "Image { source: 'https://example.org/a.png' }" << QStringList();
+    QTest::newRow("syntax") << head + "Item {\n  width: \n}"
+                            << QStringList("main.qml:5: Unexpected token `}'");
+    QTest::newRow("component") << head + "Item {\n  BasicImag { }\n}"
+                               << QStringList("main.qml:4: BasicImag is not a type");
+    QTest::newRow("picture") << head + "Image { source: 'images/gone.png' }"
+                             << QStringList("main.qml:3: no file \"images/gone.png\"");
+    QTest::newRow("font") << head + "Text { font.family: 'Nobody Sans' }"
+                          << QStringList("main.qml:3: no font of the family \"Nobody Sans\"");
+}
+
+void ProjectCheckTest::problems()
+{
+    QFETCH(QString, main);
+    QTemporaryDir project;
+    QDir(project.path()).mkdir("images");
+    QFile picture(project.filePath("images/here.png"));
+    QVERIFY(picture.open(QIODevice::WriteOnly));
+    QFile document(project.filePath("main.qml"));
+    QVERIFY(document.open(QIODevice::WriteOnly));
+    document.write(main.toUtf8());
+    document.close();
+    QStringList found = checkProject(m_engine, project.path());
+    found.replaceInStrings(project.path() + '/', QString());
+    QTEST(found, "expected");
+}
+
+void ProjectCheckTest::theDemosAreInOrder_data()
+{
+    QTest::addColumn<QString>("folder");
+    const QDir demos(NUVEX_DEMOS);
+    for (const QString& name : demos.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        if (QFile::exists(demos.filePath(name + "/main.qml")))
+            QTest::newRow(qPrintable(name)) << demos.filePath(name);
+    }
+}
+
+void ProjectCheckTest::theDemosAreInOrder()
+{
+    QFETCH(QString, folder);
+    QProcess program;
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    QTemporaryDir profile;
+    program.start(NUVEX_PROGRAM, {"--profile", profile.path(), "--check", folder});
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(QString::fromUtf8(program.readAll()), QString());
+    QCOMPARE(program.exitCode(), 0);
+}
+
+QTEST_MAIN(ProjectCheckTest)
+#include "tst_projectcheck.moc"
