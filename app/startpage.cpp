@@ -26,10 +26,9 @@ QString actionName(Options::Start start)
 // A project of the workspace goes before a folder of the same name that happens to lie in the current one.
 QString projectName(const QString& project, const QDir& work)
 {
-    const bool inWorkspace = QDir::isRelativePath(project) && work.exists(project);
-    if (project.isEmpty() || inWorkspace || !QFileInfo(project).isDir())
-        return project;
-    return work.relativeFilePath(QDir(project).absolutePath());
+    const bool inWorkspace = !project.isEmpty() && QDir::isRelativePath(project) && work.exists(project);
+    return inWorkspace || !QFileInfo(project).isDir() ? project
+                                                      : work.relativeFilePath(QDir(project).absolutePath());
 }
 
 } // namespace

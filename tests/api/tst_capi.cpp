@@ -236,7 +236,8 @@ void CapiTest::editingSignalsCome()
     m_capi->replaceSourceCode(5, 5, "id: a ");
     m_capi->saveEditingState();
     QCOMPARE(m_capi->getBackwardSource(), QString("Item { }"));
-    QCOMPARE(m_capi->getForwardSource(), m_capi->editedSourceCode());
+    QCOMPARE(m_capi->getForwardSource(), QString("Item id: a { }"));
+    QCOMPARE(m_capi->editedSourceCode(), QString("Item id: a { }"));
     QCOMPARE(newer, QList<QVariantList>({{true}, {true}, {false}, {true}}));
     QCOMPARE(older, QList<QVariantList>({{true}, {false}, {true}, {false}}));
 }
