@@ -9,15 +9,13 @@ Time from process start to the first frame, CPU (in percent of one core) and mem
 turns on one virtual screen; the first round is dropped. Prints a markdown table of medians with minimum and maximum.
 """
 import argparse
-import os
 import pathlib
 import statistics
-import subprocess
 import tempfile
-import time
+
+from processes import Player
 
 HERE = pathlib.Path(__file__).resolve().parent
-CLOCK_TICKS = os.sysconf("SC_CLK_TCK")
 
 
 def programs(nuvex, project, folder):
@@ -33,45 +31,18 @@ def programs(nuvex, project, folder):
     }
 
 
-def cpu_seconds(pid):
-    fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
-    return (int(fields[11]) + int(fields[12])) / CLOCK_TICKS
-
-
-def memory_mib(pid):
-    lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
-    return next(int(line.split()[1]) for line in lines if line.startswith("Pss:")) / 1024
-
-
-def first_frame(process):
-    """Seconds from now until the scene graph reports a rendered frame."""
-    start = time.monotonic()
-    for line in process.stderr:
-        if "rame rendered" in line:
-            return time.monotonic() - start
-    raise RuntimeError("no frame was drawn")
-
-
 def play(command, seconds):
-    environment = dict(os.environ, QT_LOGGING_RULES="qt.scenegraph.time.renderloop=true")
-    start = time.monotonic()
-    process = subprocess.Popen(command, stderr=subprocess.PIPE, stdout=subprocess.DEVNULL, text=True, env=environment)
+    player = Player(command)
     try:
-        first_frame(process)
-        shown = time.monotonic() - start
-        drain = subprocess.Popen(["cat"], stdin=process.stderr, stdout=subprocess.DEVNULL)
-        before, begun = cpu_seconds(process.pid), time.monotonic()
-        time.sleep(seconds)
-        cpu = 100 * (cpu_seconds(process.pid) - before) / (time.monotonic() - begun)
-        return shown * 1000, cpu, memory_mib(process.pid)
+        shown = player.wait_for_first_frame()
+        cpu = player.cpu_percent(seconds)
+        return shown * 1000, cpu, player.memory_mib()
     finally:
-        process.terminate()
-        process.wait()
-        drain.wait()
+        player.stop()
 
 
 def spread(values):
-    return f"{statistics.median(values):.0f} ({min(values):.0f} to {max(values):.0f})"
+    return f"{statistics.median(values):.1f} ({min(values):.1f} to {max(values):.1f})"
 
 
 def main():

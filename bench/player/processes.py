@@ -1,0 +1,63 @@
+# SPDX-FileCopyrightText: 2026 The Nuvex developers
+# SPDX-License-Identifier: MIT
+"""A program with a Qt Quick scene, watched from outside: its frames, processor time and memory."""
+import os
+import pathlib
+import re
+import subprocess
+import threading
+import time
+
+CLOCK_TICKS = os.sysconf("SC_CLK_TCK")
+FRAME = re.compile(r"rame rendered.* in (\d+)ms")
+
+
+class Player:
+    """Runs a command; collects the render times of its frames (ms) from the scene graph's own log."""
+
+    def __init__(self, command):
+        environment = dict(os.environ, QT_LOGGING_RULES="qt.scenegraph.time.renderloop=true")
+        self.started = time.monotonic()
+        self.first_frame = None
+        self.frames = []
+        self.messages = []
+        self.process = subprocess.Popen(command, stderr=subprocess.PIPE, stdout=subprocess.DEVNULL, text=True,
+                                        errors="replace", env=environment)
+        self.reader = threading.Thread(target=self._read, daemon=True)
+        self.reader.start()
+
+    def _read(self):
+        for line in self.process.stderr:
+            frame = FRAME.search(line)
+            if frame:
+                self.first_frame = self.first_frame or time.monotonic() - self.started
+                self.frames.append(int(frame.group(1)))
+            elif "renderloop" not in line:
+                self.messages.append(line.rstrip())
+
+    def wait_for_first_frame(self, seconds=60):
+        deadline = time.monotonic() + seconds
+        while self.first_frame is None:
+            if time.monotonic() > deadline or self.process.poll() is not None:
+                raise RuntimeError("no frame was drawn: " + "\n".join(self.messages[-5:]))
+            time.sleep(0.002)
+        return self.first_frame
+
+    def cpu_seconds(self):
+        fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / CLOCK_TICKS
+
+    def memory_mib(self):
+        lines = pathlib.Path(f"/proc/{self.process.pid}/smaps_rollup").read_text().splitlines()
+        return next(int(line.split()[1]) for line in lines if line.startswith("Pss:")) / 1024
+
+    def cpu_percent(self, seconds):
+        """Percent of one core used during the next `seconds`."""
+        before, begun = self.cpu_seconds(), time.monotonic()
+        time.sleep(seconds)
+        return 100 * (self.cpu_seconds() - before) / (time.monotonic() - begun)
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
+        self.reader.join()
