@@ -43,8 +43,8 @@ CharClass classify(QChar ch)
 std::array<CharClass, 128> classifyAscii()
 {
     std::array<CharClass, 128> table{};
-    for (ushort i = 0; i < table.size(); ++i)
-        table[i] = classify(QChar(i));
+    for (size_t i = 0; i < table.size(); ++i)
+        table[i] = classify(QChar(ushort(i)));
     return table;
 }
 

@@ -61,13 +61,6 @@ public:
 
     void paint(QPainter* painter) override;
 
-public slots:
-    /// Takes over the surface's frame and repaints.
-    void frameReady();
-    /// Acts on the end of the media, by repeat().
-    void mediaStatusChanged(QMediaPlayer::MediaStatus status);
-
-public:
     Q_INVOKABLE void play();
     /// Stops; the last frame stays.
     Q_INVOKABLE void stop();
@@ -76,6 +69,12 @@ public:
 
 protected:
     void componentComplete() override;
+
+public slots:
+    /// Takes over the surface's frame and repaints.
+    void frameReady();
+    /// Acts on the end of the media, by repeat().
+    void mediaStatusChanged(QMediaPlayer::MediaStatus status);
 
 private:
     TransparentVideoSurface m_surface; // outlives the player, which writes into it
