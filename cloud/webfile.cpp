@@ -58,8 +58,7 @@ Webfile::Webfile(const QString& url, const Headers& headers, QObject* parent)
             parent, &QObject::destroyed, this, [this] { delete this; }, Qt::DirectConnection);
     stopThread();
     m_thread = new QThread(this);
-    // The reply and its sockets go in the thread that they live in.
-    connect(m_thread, &QThread::finished, this, &Webfile::dropTransfer, Qt::DirectConnection);
+    connect(m_thread, &QThread::finished, this, &Webfile::endTransfers, Qt::DirectConnection);
     moveToThread(m_thread);
     m_thread->start(QThread::HighestPriority);
 }
@@ -114,8 +113,10 @@ void Webfile::stopThread()
         qCWarning(lcCloud) << "Waiting for a transfer to end:" << m_url.toDisplayString(QUrl::RemoveQuery);
         m_thread->wait();
     }
+    Q_ASSERT(!m_transferring);
     delete m_thread;
     m_thread = nullptr;
+    m_reply = nullptr;
 }
 
 // ---------------------------------------------------------------------------------------- the object's
@@ -139,6 +140,7 @@ void Webfile::slotGet(void* pReturnSuccess, void* pLoop, QIODevice* file)
 
 QNetworkRequest Webfile::begin()
 {
+    Q_ASSERT(m_transferring);
     dropTransfer();
     m_contentLength = 0;
     m_errorCode = 0;
@@ -182,7 +184,10 @@ bool Webfile::wait(std::chrono::milliseconds interval, Progress progressSignal)
     connect(this, &Webfile::signalTimeout, &loop, &QEventLoop::quit);
     connect(m_reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     connect(m_reply, progressSignal, this, &Webfile::progress);
-    connect(m_reply, progressSignal, this, &Webfile::tickTimeOut);
+    connect(m_reply, progressSignal, this, [this](qint64 i) {
+        if (i > 0) // the end of every transfer is signalled as 0 of 0 bytes; that is no progress
+            tickTimeOut();
+    });
     loop.exec();
     return std::exchange(m_stalled, 0) == 0;
 }
@@ -219,6 +224,13 @@ void Webfile::dropTransfer()
 {
     m_reply = nullptr;
     m_manager.reset();
+}
+
+// The last act of the thread: what lives in it goes in it.
+void Webfile::endTransfers()
+{
+    m_manager.reset();
+    m_transferring = false;
 }
 
 void Webfile::report(bool success, void* pReturnSuccess, void* pLoop)

@@ -80,6 +80,7 @@ private:
     bool judge(bool inTime);
     bool judgeStatus();
     void dropTransfer();
+    void endTransfers();
     void report(bool success, void* pReturnSuccess, void* pLoop);
 
     std::shared_ptr<QEventLoop> m_callerLoop; // shared with the waiting call, which may outlive the object
@@ -94,5 +95,5 @@ private:
     std::chrono::milliseconds m_timeout;
     qint32 m_stalled = 0;
     bool m_writeFailed = false;
-    std::atomic_bool m_transferring{false}; // orders the results before the caller's reads
+    std::atomic_bool m_transferring{false}; // set around a transfer; orders what both threads see
 };
