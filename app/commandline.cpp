@@ -82,7 +82,8 @@ void useProfile(const Options& options)
     if (options.profile.isEmpty())
         return;
     const QDir profile(QDir(options.profile).absolutePath());
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(profile.filePath("config")));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(profile.filePath("data")));
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(profile.filePath("cache")));
+    for (const char* place : {"config", "data", "cache"}) {
+        profile.mkpath(place);
+        qputenv("XDG_" + QByteArray(place).toUpper() + "_HOME", QFile::encodeName(profile.filePath(place)));
+    }
 }

@@ -125,6 +125,7 @@ double densityFactor(double dotsPerInch)
 
 int runHost(int& argc, char** argv, const Options& options)
 {
+    prepareIconTable();
     const Deployment deployment = Deployment::find(options.deployment);
     // Lets a web view be shown later without loading its library now.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
