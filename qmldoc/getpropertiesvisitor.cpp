@@ -56,9 +56,10 @@ bool GetPropertiesVisitor::visit(UiPublicMember* member)
 bool GetPropertiesVisitor::visit(UiScriptBinding* binding)
 {
     const int first = begin(binding->firstSourceLocation());
-    const int colon = m_source.indexOf(QLatin1Char(':'), first);
-    add(m_source.mid(first, colon - first).remove(QLatin1Char(' ')), first,
-        firstTokenAfter(end(binding->colonToken)), end(binding->lastSourceLocation()));
+    const int last = end(binding->lastSourceLocation());
+    const QStringRef text = m_source.midRef(first, last - first);
+    const QString name = text.left(text.indexOf(QLatin1Char(':'))).toString().remove(QLatin1Char(' '));
+    add(name, first, firstTokenAfter(end(binding->colonToken)), last);
     return false;
 }
 

@@ -19,6 +19,13 @@ using namespace QQmlJS;
 namespace {
 
 const QString noSource;
+constexpr QChar byteOrderMark(QChar::ByteOrderMark);
+
+// `source` as the lexer, which knows no byte-order mark, takes it. Positions stay.
+QString withoutByteOrderMark(const QString& source)
+{
+    return source.startsWith(byteOrderMark) ? QLatin1Char(' ') + source.midRef(1) : source;
+}
 
 // The syntax tree of `source`, owned by `engine`; null with a line in the log when there is none.
 AST::UiProgram* parsed(const QString& source, Engine& engine)
@@ -28,7 +35,7 @@ AST::UiProgram* parsed(const QString& source, Engine& engine)
         return nullptr;
     }
     Lexer lexer(&engine);
-    lexer.setCode(source, 1, true);
+    lexer.setCode(withoutByteOrderMark(source), 1, true);
     Parser parser(&engine);
     if (parser.parse())
         return parser.ast();

@@ -1,0 +1,21 @@
+import QtQuick 2.15
+
+@Designer { locked: true }
+Item {
+    @Note { text: "why"; Item { x: 9 } } width: 100
+    @Note { text: "declared" } property int depth: 2
+    @Note { text: "child" }
+    Text { text: "a" 
+property int element: 0
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}
+
+property int element: 1
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}

@@ -1,0 +1,46 @@
+// Item { x: 1 }
+/* before */ import QtQuick 2.15 // after
+/* Rectangle { */
+Item /* type */ { // opened
+    // width: 1
+    width /* w */ : /* value */ 100 // hundred
+    height: // below: next
+        /* twice */ 200 /* end */
+    property /* a */ int /* b */ count /* c */ : /* d */ 3 /* e */
+    anchors /* g: */ . fill: parent
+    property string url: "http://x" // "not this"
+    /* } */
+    Text { /**/ text: "/* text */" /* } */ 
+property int element: 0
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+} // child
+    Rectangle {
+        color: "red"
+        // last
+    
+property int element: 1
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}
+    onXChanged: { /* : */ y = 1 // }
+    }
+    Item {/* inside */
+property int element: 2
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}
+
+property int element: 3
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+} /* after */
+// end

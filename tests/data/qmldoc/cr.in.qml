@@ -1,0 +1,1 @@
+import QtQuick 2.15Item {	width: 10 // c	Text { text: "a" }}

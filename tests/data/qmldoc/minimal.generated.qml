@@ -1,0 +1,7 @@
+Rectangle { width: 100 
+property int element: 0
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}

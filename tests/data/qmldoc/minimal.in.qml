@@ -1,0 +1,1 @@
+Rectangle { width: 100 }

@@ -1,0 +1,20 @@
+import	QtQuick	2.15
+
+Item	{
+	width	:	10
+	anchors	.	fill	:	parent
+		property	int	depth	:	3
+		Text	{	text:	"a	b"	
+property int element: 0
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}
+	
+property int element: 1
+    function evaluate(str) {      
+    eval(str);                    
+    }                             
+
+}
