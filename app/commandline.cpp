@@ -84,6 +84,7 @@ void useProfile(const Options& options)
     const QDir profile(QDir(options.profile).absolutePath());
     for (const char* place : {"config", "data", "cache"}) {
         profile.mkpath(place);
-        qputenv("XDG_" + QByteArray(place).toUpper() + "_HOME", QFile::encodeName(profile.filePath(place)));
+        const QByteArray variable = "XDG_" + QByteArray(place).toUpper() + "_HOME";
+        qputenv(variable.constData(), QFile::encodeName(profile.filePath(place)));
     }
 }
