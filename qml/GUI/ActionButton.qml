@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import "."
 import "private"
+import "private/press.js" as Press
 
 // A flat icon button for tool bars and page headers; with a text, a tile: a large icon above its caption.
 // The tool tip names it where it has no text of its own.
@@ -31,13 +32,8 @@ T.Button {
     Accessible.name: text || toolTip
 
     Keys.onPressed: event.accepted = busy && event.key === Qt.Key_Space
-    Keys.onReturnPressed: clickByKey(event)
-    Keys.onEnterPressed: clickByKey(event)
-
-    function clickByKey(event) {
-        if (!busy && !event.isAutoRepeat)
-            click();
-    }
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
 
     contentItem: IconText {
         text: control.text

@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import "."
 import "private"
+import "private/press.js" as Press
 
 // A push button. Space and Enter press it like a click; while busy it takes no presses.
 T.Button {
@@ -29,13 +30,8 @@ T.Button {
     Accessible.name: text
 
     Keys.onPressed: event.accepted = busy && event.key === Qt.Key_Space
-    Keys.onReturnPressed: clickByKey(event)
-    Keys.onEnterPressed: clickByKey(event)
-
-    function clickByKey(event) {
-        if (!busy && !event.isAutoRepeat)
-            click();
-    }
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
 
     contentItem: IconText {
         text: control.text

@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import "."
 import "private"
+import "private/press.js" as Press
 
 // A box to tick, with its text. Space and Enter change it.
 T.CheckBox {
@@ -19,13 +20,8 @@ T.CheckBox {
     hoverEnabled: true
     Accessible.name: text
 
-    Keys.onReturnPressed: clickByKey(event)
-    Keys.onEnterPressed: clickByKey(event)
-
-    function clickByKey(event) {
-        if (!event.isAutoRepeat)
-            click();
-    }
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
 
     indicator: Mark {
         control: control

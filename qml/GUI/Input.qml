@@ -36,24 +36,11 @@ T.TextField {
     font.pixelSize: Theme.fontSize(size)
     Accessible.name: placeholderText
 
-    background: Rectangle {
+    background: FieldFrame {
         implicitHeight: control.fieldHeight
-        radius: bs["input-border-radius"] * dp
-        color: control.enabled && !control.readOnly ? bs["input-bg"] : bs["input-bg-disabled"]
-        border.width: control.activeFocus ? 2 * dp : Math.max(1, dp)
-        border.color: control.error !== "" ? Theme.danger
-                                           : (control.activeFocus ? Theme.focus
-                                                                  : (control.hovered ? Theme.ink : bs["input-border"]))
-
-        Rectangle {
-            anchors.fill: parent
-            anchors.margins: -2 * dp
-            z: -1
-            radius: parent.radius + 2 * dp
-            visible: control.activeFocus
-            color: control.error !== "" ? bs["brand-danger"] : bs["input-border-focus"]
-            opacity: 0.4
-        }
+        control: control
+        isError: control.error !== ""
+        isReadOnly: control.readOnly
 
         FontAwesomeIcon {
             x: Theme.padding(control.size) * 0.75

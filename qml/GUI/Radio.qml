@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import "."
 import "private"
+import "private/press.js" as Press
 
 // One choice of several: radios with the same parent, or of one RadioGroup, switch each other off.
 // Space and Enter choose it.
@@ -20,13 +21,8 @@ T.RadioButton {
     hoverEnabled: true
     Accessible.name: text
 
-    Keys.onReturnPressed: clickByKey(event)
-    Keys.onEnterPressed: clickByKey(event)
-
-    function clickByKey(event) {
-        if (!event.isAutoRepeat)
-            click();
-    }
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
 
     indicator: Mark {
         control: control

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+import "private"
+import "private/press.js" as Press
+
+// Shows a colour and its name in hexadecimal; pressed, it drops down a ColorPicker.
+T.Button {
+    id: control
+
+    property string size: "base"
+    property color color: Theme.accent
+
+    // The user chose a colour; told for each step while the mouse drags.
+    signal picked(color color)
+
+    function toggle() {
+        if (popup.opened)
+            popup.close();
+        else
+            popup.open();
+    }
+
+    implicitWidth: 14 * Theme.unit
+    implicitHeight: Theme.controlHeight(size)
+    opacity: enabled ? 1 : 0.5
+    hoverEnabled: true
+    text: String(color).toUpperCase()
+    onClicked: toggle()
+    Accessible.name: text
+
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
+
+    contentItem: Item {
+        Swatch {
+            id: swatch
+            anchors.verticalCenter: parent.verticalCenter
+            x: 4 * dp
+            width: height * 1.5
+            height: parent.height - 2 * x
+            sample: control.color
+        }
+
+        Label {
+            anchors.left: swatch.right
+            anchors.right: parent.right
+            anchors.margins: Theme.unit
+            anchors.verticalCenter: parent.verticalCenter
+            text: control.text
+            size: control.size
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+        }
+    }
+
+    background: FieldFrame {
+        control: control
+        isFocused: control.visualFocus || popup.visible
+    }
+
+    TouchReach {
+        control: control
+    }
+
+    T.Popup {
+        id: popup
+        y: control.height + Theme.unit / 2
+        width: implicitContentWidth + 2 * padding
+        height: implicitContentHeight + 2 * padding
+        margins: Theme.unit
+        padding: 1.5 * Theme.unit
+        focus: true
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+        onOpened: picker.forceActiveFocus(Qt.TabFocusReason)
+        onClosed: control.forceActiveFocus(Qt.TabFocusReason)
+
+        contentItem: ColorPicker {
+            id: picker
+            size: control.size
+            color: control.color
+            onPicked: {
+                control.color = color;
+                control.picked(color);
+            }
+        }
+
+        background: Rectangle {
+            radius: Theme.radius("large")
+            color: bs["dropdown-bg"]
+            border.width: Math.max(1, dp)
+            border.color: bs["dropdown-border"]
+
+            Shadow {}
+        }
+    }
+}

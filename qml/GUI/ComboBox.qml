@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+import "private"
+
+// One choice of a list that drops down. Up and Down change it, Space or Enter opens the list.
+T.ComboBox {
+    id: control
+
+    property string size: "base"
+    property string placeholderText
+
+    implicitWidth: 24 * Theme.unit
+    implicitHeight: Theme.controlHeight(size)
+    leftPadding: Theme.padding(size)
+    rightPadding: indicator.width + Theme.padding(size) * 1.5
+    opacity: enabled ? 1 : 0.5
+    hoverEnabled: true
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.fontSize(size)
+
+    Keys.onReturnPressed: popup.open()
+    Keys.onEnterPressed: popup.open()
+
+    indicator: FontAwesomeIcon {
+        x: control.width - width - Theme.padding(control.size)
+        y: (control.height - height) / 2
+        faIcon: "fa-caret-down"
+        size: control.size
+        color: bs["dropdown-caret-color"]
+    }
+
+    contentItem: Text {
+        text: control.displayText || control.placeholderText
+        textFormat: Text.PlainText
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+        color: control.displayText === "" ? bs["input-color-placeholder"] : bs["input-color"]
+        font: control.font
+    }
+
+    background: FieldFrame {
+        control: control
+        isFocused: control.activeFocus || control.popup.visible
+    }
+
+    delegate: ListRow {
+        width: ListView.view.width
+        size: control.size
+        text: control.textRole === "" ? modelData : (Array.isArray(control.model) ? modelData[control.textRole]
+                                                                                  : model[control.textRole])
+        highlighted: control.highlightedIndex === index
+    }
+
+    popup: T.Popup {
+        y: control.height + 2 * dp
+        width: control.width
+        height: Math.min(contentItem.implicitHeight + 2 * padding, 40 * Theme.unit)
+        margins: Theme.unit
+        padding: Math.max(1, dp)
+
+        contentItem: ListView {
+            implicitHeight: contentHeight
+            clip: true
+            model: control.delegateModel
+            currentIndex: control.highlightedIndex
+            highlightMoveDuration: 0
+            boundsBehavior: Flickable.StopAtBounds
+            T.ScrollBar.vertical: ScrollBar {}
+        }
+
+        background: Rectangle {
+            radius: Theme.radius(control.size)
+            color: bs["dropdown-bg"]
+            border.width: Math.max(1, dp)
+            border.color: bs["dropdown-border"]
+
+            Shadow {}
+        }
+    }
+
+    TouchReach {
+        control: control
+    }
+}

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "."
+import "private"
+
+// Looks for a file. Arrow keys move, Enter opens, Backspace goes to the folder above, typing jumps to a name, Escape
+// cancels. At the touch sizes a tap opens a folder, else a double click.
+FocusScope {
+    id: browser
+
+    property string title: qsTr("Choose a file")
+    property string size: "base"
+    property url folder: "file:///"
+    // Patterns of the files to show, as "*.zip"; folders are always shown.
+    property var nameFilters: ["*"]
+    property alias showHidden: list.showHidden
+
+    readonly property url currentFile: list.currentFile
+
+    // The user chose that file.
+    signal fileSelected(url file)
+    signal canceled()
+
+    function goUp() {
+        const above = String(list.parentFolder);
+        if (above !== "")
+            folder = above;
+    }
+
+    implicitWidth: 80 * Theme.unit
+    implicitHeight: 60 * Theme.unit
+
+    Keys.onEscapePressed: canceled()
+    Keys.onBackPressed: canceled()
+    Keys.onPressed: {
+        if (event.key === Qt.Key_Backspace) {
+            goUp();
+            event.accepted = true;
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.surface
+    }
+
+    PageHeader {
+        id: header
+        title: browser.title
+        subtitle: browser.nameFilters.join("  ")
+        onBack: browser.canceled()
+    }
+
+    Rectangle {
+        id: way
+        anchors.top: header.bottom
+        width: parent.width
+        height: up.height + 2 * Theme.unit
+        color: Theme.ground
+
+        ActionButton {
+            id: up
+            x: Theme.unit
+            anchors.verticalCenter: parent.verticalCenter
+            enabled: String(list.parentFolder) !== ""
+            size: browser.size
+            faIcon: "fa-level-up"
+            toolTip: qsTr("Folder above")
+            onClicked: browser.goUp()
+        }
+
+        PathBar {
+            anchors.left: up.right
+            anchors.right: parent.right
+            anchors.margins: Theme.unit
+            anchors.verticalCenter: parent.verticalCenter
+            size: browser.size
+            folder: browser.folder
+            onChosen: browser.folder = folder
+        }
+    }
+
+    FolderList {
+        id: list
+        anchors.top: way.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        size: browser.size
+        folder: browser.folder
+        nameFilters: browser.nameFilters
+        onOpened: isFolder ? browser.folder = entry : browser.fileSelected(entry)
+    }
+
+    EmptyState {
+        anchors.centerIn: list
+        width: list.width - 4 * Theme.unit
+        visible: list.count === 0 && !list.isLoading
+        isError: !list.isReadable
+        faIcon: isError ? "fa-exclamation-triangle" : "fa-folder-open-o"
+        title: isError ? qsTr("This folder cannot be opened") : qsTr("Nothing to choose here")
+        text: isError ? "" : qsTr("No folders, and no files of this kind: %1").arg(browser.nameFilters.join(", "))
+    }
+
+    Spinner {
+        anchors.centerIn: list
+        visible: list.isLoading && list.count === 0
+    }
+
+    FileBrowserFooter {
+        id: footer
+        anchors.bottom: parent.bottom
+        width: parent.width
+        size: browser.size
+        file: browser.currentFile
+        onAccepted: browser.fileSelected(browser.currentFile)
+        onCanceled: browser.canceled()
+    }
+}

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "."
+
+// A line of a form: a label, and the control declared inside. Where the width is short the control stands below its
+// label. The control takes the free width when it says `width: parent.width`.
+Item {
+    id: row
+
+    property string label
+    property string size: "base"
+    property real labelWidth: 16 * Theme.unit
+    default property alias control: slot.data
+
+    readonly property bool isNarrow: width < labelWidth + 24 * Theme.unit
+
+    width: parent ? parent.width : implicitWidth
+    implicitWidth: labelWidth + 32 * Theme.unit
+    implicitHeight: isNarrow ? slot.y + slot.height : Math.max(caption.height, slot.height)
+
+    Label {
+        id: caption
+        width: row.isNarrow ? row.width : row.labelWidth - Theme.unit
+        height: row.isNarrow ? implicitHeight : Math.max(implicitHeight, Theme.controlHeight(row.size))
+        text: row.label
+        textFormat: Text.PlainText
+        size: row.size
+        muted: true
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    Item {
+        id: slot
+        x: row.isNarrow ? 0 : row.labelWidth
+        y: row.isNarrow ? caption.height + Theme.unit / 2 : 0
+        width: row.width - x
+        height: Math.max(childrenRect.height, Theme.controlHeight(row.size))
+    }
+}

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+import "private"
+import "private/press.js" as Press
+
+// A row of a list: icon, text, a second line of detail, and what is declared inside it at the right end.
+// `highlighted` marks the chosen row. Space and Enter click it.
+T.ItemDelegate {
+    id: control
+
+    property string size: "base"
+    property string faIcon
+    property string detail
+    property color iconColor: highlighted ? Theme.accent : Theme.mutedInk
+    property int elide: Text.ElideRight
+    default property alias trailing: tail.data
+
+    implicitWidth: ListView.view ? ListView.view.width : 40 * Theme.unit
+    implicitHeight: Math.max(implicitContentHeight + topPadding + bottomPadding, Theme.touchTarget
+                             - (Theme.reach(size, 0) > 0 ? 0 : Theme.unit))
+    verticalPadding: Theme.unit / 2
+    leftPadding: Theme.padding(size)
+    rightPadding: Theme.padding(size) + (tail.width > 0 ? tail.width + 1.5 * Theme.unit : 0)
+    spacing: Theme.unit
+    opacity: enabled ? 1 : 0.5
+    hoverEnabled: true
+    Accessible.name: detail === "" ? text : text + ", " + detail
+
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
+
+    contentItem: Item {
+        implicitWidth: lines.x + lines.implicitWidth
+        implicitHeight: lines.implicitHeight
+
+        FontAwesomeIcon {
+            id: icon
+            width: font.pixelSize * 1.4
+            anchors.verticalCenter: parent.verticalCenter
+            visible: control.faIcon !== ""
+            faIcon: control.faIcon
+            size: control.size
+            color: control.iconColor
+        }
+
+        Column {
+            id: lines
+            x: icon.visible ? icon.width + control.spacing : 0
+            width: parent.width - x
+            anchors.verticalCenter: parent.verticalCenter
+
+            Label {
+                width: parent.width
+                text: control.text
+                textFormat: Text.PlainText
+                size: control.size
+                strong: control.highlighted
+                wrapMode: Text.NoWrap
+                elide: control.elide
+            }
+
+            Label {
+                width: parent.width
+                visible: text !== ""
+                text: control.detail
+                textFormat: Text.PlainText
+                size: "small"
+                muted: true
+                wrapMode: Text.NoWrap
+                elide: Text.ElideRight
+            }
+        }
+    }
+
+    background: Rectangle {
+        color: control.highlighted ? Theme.tint : (control.down ? Theme.sunken
+                                                                : (control.hovered ? bs["dropdown-link-hover-bg"]
+                                                                                   : "transparent"))
+
+        Rectangle {
+            width: 3 * dp
+            height: parent.height
+            visible: control.highlighted
+            color: Theme.accent
+        }
+
+        FocusRing {
+            visible: control.visualFocus
+            gap: -2 * border.width
+        }
+    }
+
+    Row {
+        id: tail
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.padding(control.size) + Theme.unit / 2
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.unit / 2
+    }
+}

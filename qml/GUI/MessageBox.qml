@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+
+// A question or message over the whole window. Enter or Space presses the focused button, at first the one that does
+// no harm: the accepting one, or the rejecting one when `type` is "danger". Escape rejects.
+T.Popup {
+    id: box
+
+    property string title
+    property string text
+    property string size: "base"
+    // Look of the accepting button, as Button's.
+    property string type: "primary"
+    property string acceptText: qsTr("OK")
+    // Empty: nothing to reject.
+    property string rejectText
+
+    signal accepted()
+    signal rejected()
+
+    function answer(isAccepted) {
+        close();
+        if (isAccepted)
+            accepted();
+        else
+            rejected();
+    }
+
+    parent: T.Overlay.overlay
+    anchors.centerIn: parent
+    width: Math.min(parent ? parent.width - 4 * Theme.unit : 0, 52 * Theme.unit)
+    implicitHeight: contentItem.implicitHeight + 2 * padding
+    padding: 3 * Theme.unit
+    modal: true
+    focus: true
+    closePolicy: T.Popup.NoAutoClose
+    onOpened: {
+        const safe = type === "danger" && rejectText !== "" ? reject : accept;
+        safe.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    T.Overlay.modal: Rectangle {
+        color: Qt.rgba(Theme.strongInk.r, Theme.strongInk.g, Theme.strongInk.b, 0.45)
+    }
+
+    background: Rectangle {
+        radius: Theme.radius("xlarge")
+        color: Theme.surface
+    }
+
+    contentItem: FocusScope {
+        implicitHeight: column.height
+        Keys.onEscapePressed: box.answer(false)
+        Keys.onBackPressed: box.answer(false)
+
+        Column {
+            id: column
+            width: parent.width
+            spacing: 1.5 * Theme.unit
+
+            Label {
+                width: parent.width
+                visible: text !== ""
+                text: box.title
+                textFormat: Text.PlainText
+                size: "h4"
+            }
+
+            Label {
+                width: parent.width
+                visible: text !== ""
+                text: box.text
+                textFormat: Text.PlainText
+                size: box.size
+            }
+
+            Row {
+                anchors.right: parent.right
+                topPadding: Theme.unit
+                spacing: Theme.unit
+
+                Button {
+                    id: reject
+                    visible: text !== ""
+                    size: box.size
+                    text: box.rejectText
+                    onClicked: box.answer(false)
+                }
+
+                Button {
+                    id: accept
+                    size: box.size
+                    type: box.type
+                    text: box.acceptText
+                    onClicked: box.answer(true)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import "."
+
+// Attach it to a list or flickable: `T.ScrollBar.vertical: ScrollBar {}`. Gone while everything fits.
+T.ScrollBar {
+    id: control
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    padding: 2 * dp
+    minimumSize: 0.08
+    visible: policy !== T.ScrollBar.AlwaysOff && size < 1
+
+    contentItem: Rectangle {
+        implicitWidth: Theme.unit * 0.75
+        implicitHeight: Theme.unit * 0.75
+        radius: Math.min(width, height) / 2
+        color: Theme.mutedInk
+        opacity: control.pressed ? 0.9 : (control.hovered ? 0.7 : 0.4)
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.quick }
+        }
+    }
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "."
+import "private"
+
+// A small framed picture with a caption, to click.
+PictureButton {
+    id: thumbnail
+
+    property alias source: image.source
+    property alias fillMode: image.fillMode
+
+    frame: (bs["thumbnail-padding"] + 1) * dp
+    status: image.status
+    picture: Image {
+        id: image
+        anchors.fill: parent
+        asynchronous: true
+        fillMode: Image.PreserveAspectFit
+        // Decoded no larger than shown.
+        sourceSize.width: 2 * thumbnail.pictureSize
+    }
+}

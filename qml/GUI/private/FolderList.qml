@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import Qt.labs.folderlistmodel 2.15
+import ".."
+import "format.js" as Format
+
+// The folders and files of one folder. Letters typed jump to the name that begins with them.
+ListView {
+    id: list
+
+    property alias folder: entries.folder
+    property alias nameFilters: entries.nameFilters
+    property alias showHidden: entries.showHidden
+    property string size: "base"
+
+    readonly property bool isTouch: Theme.reach(size, 0) > 0
+    readonly property bool isReadable: entries.status !== FolderListModel.Null
+    readonly property bool isLoading: entries.status === FolderListModel.Loading
+    readonly property url parentFolder: entries.parentFolder
+    readonly property url currentFile: currentIndex >= 0 && currentIndex < count && !isFolder(currentIndex)
+                                       ? entries.get(currentIndex, "fileUrl") : ""
+    property string typed
+
+    // An entry was opened: a folder, or a file that is chosen.
+    signal opened(url entry, bool isFolder)
+
+    function isFolder(index) {
+        return entries.isFolder(index);
+    }
+
+    function open(index) {
+        if (index >= 0 && index < count)
+            opened(entries.get(index, "fileUrl"), isFolder(index));
+    }
+
+    function jumpTo(text) {
+        typed += text.toLowerCase();
+        forget.restart();
+        for (let i = 0; i < count; ++i) {
+            if (entries.get(i, "fileName").toLowerCase().startsWith(typed)) {
+                currentIndex = i;
+                return;
+            }
+        }
+    }
+
+    function step(by) {
+        currentIndex = Math.max(0, Math.min(count - 1, currentIndex + by));
+    }
+
+    function handleKey(event) {
+        const page = Math.max(1, Math.floor(height / Theme.touchTarget));
+        const steps = {};
+        steps[Qt.Key_PageUp] = -page;
+        steps[Qt.Key_PageDown] = page;
+        steps[Qt.Key_Home] = -count;
+        steps[Qt.Key_End] = count;
+        if (steps[event.key] !== undefined)
+            step(steps[event.key]);
+        else if (event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier)))
+            jumpTo(event.text);
+        else
+            event.accepted = false;
+    }
+
+    clip: true
+    focus: true
+    activeFocusOnTab: true
+    keyNavigationEnabled: true
+    boundsBehavior: Flickable.StopAtBounds
+    currentIndex: 0
+    Accessible.role: Accessible.List
+
+    T.ScrollBar.vertical: ScrollBar {}
+
+    Keys.onReturnPressed: open(currentIndex)
+    Keys.onEnterPressed: open(currentIndex)
+    Keys.onPressed: { event.accepted = true; handleKey(event); }
+
+    Timer {
+        id: forget
+        interval: 1000
+        onTriggered: list.typed = ""
+    }
+
+    model: FolderListModel {
+        id: entries
+        showDirsFirst: true
+        showDotAndDotDot: false
+        sortCaseSensitive: false
+        caseSensitive: false
+        onFolderChanged: list.currentIndex = 0
+    }
+
+    delegate: ListRow {
+        id: row
+        width: list.width
+        size: list.size
+        text: fileName
+        elide: Text.ElideMiddle
+        faIcon: fileIsDir ? "fa-folder" : "fa-file-o"
+        iconColor: fileIsDir ? Theme.accent : Theme.mutedInk
+        highlighted: ListView.isCurrentItem
+        focusPolicy: Qt.NoFocus
+        onClicked: {
+            list.forceActiveFocus();
+            list.currentIndex = index;
+            if (list.isTouch && fileIsDir)
+                list.open(index);
+        }
+        onDoubleClicked: list.open(index)
+
+        Label {
+            visible: !fileIsDir && list.width > 45 * Theme.unit
+            width: 10 * Theme.unit
+            text: Format.bytes(fileSize)
+            muted: true
+            horizontalAlignment: Text.AlignRight
+        }
+
+        Label {
+            visible: list.width > 70 * Theme.unit
+            width: 18 * Theme.unit
+            text: Qt.formatDateTime(fileModified, Qt.DefaultLocaleShortDate)
+            muted: true
+            horizontalAlignment: Text.AlignRight
+        }
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import ".."
+
+// The numbers of the lines that are in view, beside an edit whose lines are not wrapped.
+Rectangle {
+    id: gutter
+
+    property Item edit
+    property real scroll: 0
+    property int currentLine: 0
+    property int errorLine: 0
+
+    readonly property real lineHeight: edit.contentHeight / Math.max(1, edit.lineCount)
+    readonly property int firstLine: Math.max(0, Math.floor((scroll - edit.topPadding) / lineHeight))
+
+    color: Theme.ground
+
+    Repeater {
+        model: Math.max(0, Math.min(gutter.edit.lineCount - gutter.firstLine,
+                                    Math.ceil(gutter.height / gutter.lineHeight) + 1))
+
+        Rectangle {
+            readonly property int line: gutter.firstLine + index + 1
+            readonly property bool isError: line === gutter.errorLine
+
+            y: gutter.edit.topPadding - gutter.scroll + (line - 1) * gutter.lineHeight
+            width: gutter.width
+            height: gutter.lineHeight
+            color: isError ? Theme.danger : (line === gutter.currentLine ? Theme.sunken : "transparent")
+
+            Label {
+                anchors.fill: parent
+                anchors.rightMargin: Theme.unit
+                text: parent.line
+                color: parent.isError ? Theme.surface
+                                      : (parent.line === gutter.currentLine ? Theme.strongInk : Theme.mutedInk)
+                horizontalAlignment: Text.AlignRight
+                verticalAlignment: Text.AlignVCenter
+                font.family: gutter.edit.font.family
+                font.pixelSize: gutter.edit.font.pixelSize
+            }
+        }
+    }
+}

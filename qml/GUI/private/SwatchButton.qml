@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import ".."
+import "press.js" as Press
+
+// A colour of a palette, to click.
+T.AbstractButton {
+    id: control
+
+    property string size: "base"
+    property color sample
+    property bool selected: false
+
+    implicitWidth: 2.75 * Theme.unit
+    implicitHeight: implicitWidth
+    hoverEnabled: true
+    Accessible.role: Accessible.Button
+    Accessible.name: String(sample)
+
+    Keys.onReturnPressed: Press.press(control, event)
+    Keys.onEnterPressed: Press.press(control, event)
+
+    background: Swatch {
+        sample: control.sample
+        scale: control.hovered && !control.down ? 1.12 : 1
+
+        FontAwesomeIcon {
+            anchors.centerIn: parent
+            visible: control.selected
+            faIcon: "fa-check"
+            size: "small"
+            color: control.sample.hslLightness > 0.55 ? Theme.strongInk : Theme.surface
+        }
+
+        FocusRing {
+            visible: control.visualFocus
+            cornerRadius: parent.radius
+        }
+    }
+}
