@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nuvex developers
+# SPDX-License-Identifier: MIT
+"""Makes the pictures and clips of the demo projects anew.
+
+Needs the Debian packages povray, povray-includes, ffmpeg, python3-numpy, python3-pil and python3-scipy.
+    make.py list            names everything that can be made
+    make.py NAME...         makes these
+Rendered frames are kept in build/media, so that a clip that was interrupted goes on where it stopped.
+"""
+import subprocess
+import sys
+from pathlib import Path
+
+import finish
+import sound
+
+HERE = Path(__file__).resolve().parent
+DEMOS = HERE.parent
+CACHE = DEMOS.parent / "build" / "media"
+
+# scene -> (file below demos/, width, height, finish options)
+STILLS = {
+    "shop-morning": ("Shop Promotion/images/morning.jpg", 1920, 1080, {}),
+    "shop-vases": ("Shop Promotion/images/vases.jpg", 1920, 1080, {}),
+    "shop-lamp": ("Shop Promotion/images/lamp.jpg", 1920, 1080, {"bloom": 0.5}),
+    "shop-table": ("Shop Promotion/images/table.jpg", 1920, 1080, {}),
+    "lobby-arches": ("Lobby Board/images/court.jpg", 1080, 864, {}),
+    "lobby-stairs": ("Lobby Board/images/stairs.jpg", 1080, 864, {}),
+    "lobby-room": ("Lobby Board/images/corner.jpg", 1080, 864, {"bloom": 0.3}),
+}
+# scene -> (file below demos/, width, height, seconds, frames a second, sound)
+CLIPS = {
+    "shop-wheel": ("Shop Promotion/videos/wheel.mp4", 720, 732, 8, 20, sound.workshop),
+}
+
+
+def trace(scene, picture, width, height, *more):
+    """Renders a scene; `more` are options of the ray tracer."""
+    subprocess.run(["povray", f"+I{scene}.pov", f"+O{picture}", f"+W{width}", f"+H{height}", "+A0.2", "-D", "+WT2", *more],
+                   cwd=HERE / "scenes", check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+def make_still(name):
+    target, width, height, options = STILLS[name]
+    raw = CACHE / f"{name}.png"
+    trace(name, raw, width, height)
+    finish.picture(raw, DEMOS / target, **options)
+
+
+def make_clip(name):
+    target, width, height, seconds, rate, score = CLIPS[name]
+    folder = CACHE / name
+    folder.mkdir(parents=True, exist_ok=True)
+    count = seconds * rate
+    for frame in range(count):
+        picture = folder / f"{frame:04}.png"
+        if not picture.exists():
+            trace(name, folder / "next.png", width, height, f"+K{frame / count}")
+            (folder / "next.png").rename(picture)
+    score(seconds, CACHE / f"{name}.wav")
+    encode(folder / "%04d.png", rate, CACHE / f"{name}.wav", DEMOS / target)
+
+
+def encode(frames, rate, wave, target, *more):
+    target.parent.mkdir(parents=True, exist_ok=True)
+    subprocess.run(["ffmpeg", "-v", "error", "-y", "-framerate", str(rate), "-i", frames, "-i", wave,
+                    "-vf", "noise=c0s=4:c0f=t", "-c:v", "libx264", "-preset", "slow", "-crf", "21",
+                    "-pix_fmt", "yuv420p", "-c:a", "aac", "-b:a", "96k", "-movflags", "+faststart", *more, target],
+                   check=True)
+
+
+def main(names):
+    CACHE.mkdir(parents=True, exist_ok=True)
+    if names == ["list"]:
+        print("\n".join([*STILLS, *CLIPS]))
+        return
+    for name in names:
+        print(name, flush=True)
+        make_still(name) if name in STILLS else make_clip(name)
+
+
+main(sys.argv[1:] or ["list"])
