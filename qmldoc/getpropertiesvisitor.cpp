@@ -5,6 +5,8 @@
 
 #include <private/qqmljsast_p.h>
 
+#include <algorithm>
+
 using namespace QQmlJS::AST;
 
 namespace {
@@ -19,16 +21,20 @@ int end(const QQmlJS::SourceLocation& location)
     return int(location.end());
 }
 
+bool isLineEnd(QChar c)
+{
+    return c == '\n' || c == '\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
 // Where the comment that begins at `position` ends; `position` when none does.
 int endOfComment(const QString& text, int position)
 {
-    const QStringRef rest = text.midRef(position, 2);
-    int last = position;
-    if (rest == QLatin1String("//"))
-        last = text.indexOf(QLatin1Char('\n'), position);
-    else if (rest == QLatin1String("/*"))
-        last = text.indexOf(QLatin1String("*/"), position + 2) + 2;
-    return last < position ? text.size() : last;
+    const QStringRef opening = text.midRef(position, 2);
+    if (opening == QLatin1String("/*"))
+        return std::max(text.indexOf(QLatin1String("*/"), position + 2), position) + 2;
+    if (opening == QLatin1String("//"))
+        position = int(std::find_if(text.cbegin() + position, text.cend(), isLineEnd) - text.cbegin());
+    return position;
 }
 
 } // namespace

@@ -120,11 +120,11 @@ void tst_QmlDocument::failedParseKeepsTheObjects_data()
     QTest::newRow("empty") << ""
                            << "1:1";
     QTest::newRow("no document") << "width: 1"
-                                 << "1:9";
+                                 << "1:6";
     QTest::newRow("unclosed object") << "Item {\n Text { }\n"
                                      << "3:1";
     QTest::newRow("unclosed comment") << "Item { }\n/* "
-                                      << "2:4";
+                                      << "2:1";
     QTest::newRow("unclosed string") << "Item { x: \"a\n }"
                                      << "1:11";
     QTest::newRow("two roots") << "Item { } Text { }"

@@ -1,1 +1,1 @@
-import QtQuick 2.15Item {	width: 10 // c	Text { text: "a" }}
+import QtQuick 2.15Item {	width: 10 // c	height: // d20	Text { text: "a" }	z: //   30}
