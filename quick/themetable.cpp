@@ -48,7 +48,7 @@ constexpr Variable floorOf(const char* key, float factor)
 constexpr Variable variables[] = {
     color("gray-darker", "#1e252e"),
     color("gray-dark", "#333d4a"),
-    color("gray-light", "#667180"),
+    color("gray-light", "#5e6978"),
     color("gray-lighter", "#eceff3"),
     color("brand-primary", "#428bca"),
     color("brand-success", "#5cb85c"),

@@ -11,7 +11,7 @@ FocusScope {
     property string size: "base"
     property color color: "#428bca"
     property bool hasOpacity: true
-    property var palette: ["#ffffff", "#c5ccd6", "#667180", "#1e252e", "#000000", bs["brand-primary"],
+    property var palette: ["#ffffff", "#c5ccd6", "#5e6978", "#1e252e", "#000000", bs["brand-primary"],
                            bs["brand-info"], bs["brand-success"], bs["brand-warning"], bs["brand-danger"], "#8e44ad",
                            "#00000000"]
 

@@ -27,13 +27,13 @@ QtObject {
     readonly property color mutedInk: bs["gray-light"]
     readonly property color bar: bs["gray-darker"]
     readonly property color barInk: bs["body-bg"]
-    readonly property color accent: Contrast.deepened(bs["component-active-bg"], bs["body-bg"])
+    readonly property color accent: Contrast.deepened(bs["component-active-bg"], sunken)
     readonly property color tint: Qt.tint(surface, Qt.rgba(accent.r, accent.g, accent.b, 0.1))
     readonly property color link: bs["link-hover-color"]
     readonly property color focus: bs["link-hover-color"]
-    readonly property color success: Contrast.deepened(bs["brand-success"], bs["body-bg"])
-    readonly property color warning: Contrast.deepened(bs["brand-warning"], bs["body-bg"])
-    readonly property color danger: Contrast.deepened(bs["brand-danger"], bs["body-bg"])
+    readonly property color success: Contrast.deepened(bs["brand-success"], sunken)
+    readonly property color warning: Contrast.deepened(bs["brand-warning"], sunken)
+    readonly property color danger: Contrast.deepened(bs["brand-danger"], sunken)
 
     readonly property int quick: 120
     readonly property int calm: 220
@@ -51,7 +51,7 @@ QtObject {
     })
 
     function kind(fill, ink, border) {
-        const pair = Contrast.pair(fill, ink, bs["gray-darker"]);
+        const pair = Contrast.pair(fill, ink, strongInk, sunken);
         return { "fill": pair.fill, "ink": pair.ink, "hover": Contrast.deeper(pair.fill, 0.05),
                  "pressed": Contrast.deeper(pair.fill, 0.11), "border": border || Contrast.deeper(pair.fill, 0.05) };
     }

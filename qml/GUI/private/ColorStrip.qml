@@ -17,18 +17,18 @@ T.Slider {
     stepSize: 0.01
 
     background: Item {
-        Swatch {
-            id: swatch
-            anchors.verticalCenter: parent.verticalCenter
-            width: parent.width
-            height: 1.25 * Theme.unit
-            sample: "transparent"
+        Rectangle {
+            anchors.fill: track
+            radius: track.radius
+            color: Theme.surface
         }
 
         Rectangle {
             id: track
-            anchors.fill: swatch
-            radius: swatch.radius
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            height: 1.25 * Theme.unit
+            radius: Theme.radius("small")
             border.width: Math.max(1, dp)
             border.color: Theme.border
         }

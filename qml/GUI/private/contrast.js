@@ -37,11 +37,11 @@ function deepened(color, ink) {
 }
 
 // The colours of a filled control: the theme's own where they are readable; dark ink on a bright fill; else a
-// deeper fill.
-function pair(fill, ink, darkInk) {
+// fill so deep that it also serves as ink on `paper`.
+function pair(fill, ink, darkInk, paper) {
     if (ratio(fill, ink) >= readable)
         return { "fill": fill, "ink": ink };
     if (ratio(fill, darkInk) >= strong)
         return { "fill": fill, "ink": darkInk };
-    return { "fill": deepened(fill, ink), "ink": ink };
+    return { "fill": deepened(fill, paper), "ink": ink };
 }

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtTest 1.15
+
+// A test case that fails on any warning, and creates widgets from their declaration.
+TestCase {
+    id: testCase
+
+    property Item stage: Item {
+        parent: testCase.parent
+        anchors.fill: parent
+    }
+
+    function initTestCase() {
+        warningLog.watch();
+    }
+
+    function cleanup() {
+        compare(warningLog.take(), [], "warnings");
+    }
+
+    // An object of that declaration, below `stage`, gone after the test function.
+    function make(declaration) {
+        const imports = "import QtQuick 2.15\nimport Nuvex.GUI 1.0\n";
+        return createTemporaryQmlObject(imports + declaration, stage, "made");
+    }
+
+    function makeSpy(target, signalName) {
+        return createTemporaryObject(spy, testCase, { "target": target, "signalName": signalName });
+    }
+
+    // The first descendant with that property value, or null.
+    function findBy(item, property, value) {
+        for (let i = 0; i < item.children.length; ++i) {
+            const child = item.children[i];
+            const found = child[property] === value ? child : findBy(child, property, value);
+            if (found)
+                return found;
+        }
+        return null;
+    }
+
+    name: "Gui"
+    when: windowShown
+
+    Component {
+        id: spy
+        SignalSpy {}
+    }
+}
