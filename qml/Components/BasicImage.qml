@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/media.js" as Media
 
 /// A picture. While its file is missing or broken it shows a quiet placeholder; it comes back with the file.
-/// In a slide that is not due it keeps no pixels.
+///
+/// The properties source, fillMode and status stand before those of Image, which itself stays empty: a Picture inside
+/// does the work, so that the pixels can go while the slide is absent, and come, without touching the source.
 Image {
     id: root
 
@@ -19,27 +20,29 @@ Image {
     fillMode: Image.PreserveAspectFit
 }"
 
-    source: "qrc:///Nuvex/Components/icons/noImage.png"
-    sourceSize: Media.decodedSize(source, width, height)
-    fillMode: Image.PreserveAspectFit
-    asynchronous: true
-    autoTransform: true
-    mipmap: true
+    property url source: "qrc:///Nuvex/Components/icons/noImage.png"
+    property int fillMode: Image.PreserveAspectFit
+    readonly property int status: picture.status
+
+    width: picture.naturalWidth
+    height: picture.naturalHeight
     Component.onCompleted: editor = Qt.createComponent("BasicImageEditor.qml")
 
-    PictureKeeper {}
+    Picture {
+        id: picture
+        anchors.fill: parent
+        source: root.source
+        fillMode: root.fillMode
+        decodeSize: root.sourceSize
+        mirror: root.mirror
+        cache: root.cache
+    }
 
     Component {
         id: preview
 
-        PreviewTile {
-            Image {
-                anchors.fill: parent
-                source: root.source
-                sourceSize: Qt.size(128, 96)
-                fillMode: Image.PreserveAspectFit
-                asynchronous: true
-            }
+        PicturePreview {
+            source: root.source
         }
     }
 }

@@ -32,7 +32,6 @@ Rectangle {
                 anchors.margins: 8
                 radius: 4
                 color: root.color
-                gradient: root.gradient
                 border.color: root.border.color
                 border.width: root.border.width > 0 ? 1 : 0
             }

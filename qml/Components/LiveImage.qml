@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/media.js" as Media
-import "private/presence.js" as Presence
 
 /// A picture that enters and exits: it rises into its place from a slight zoom, on a ground of its own.
 Item {
@@ -30,7 +28,6 @@ Item {
     property int enterTime: 0
     /// Milliseconds after which it exits; not later than `enterTime`: it stays.
     property int exitTime: 0
-    readonly property bool settled: picture.status !== Image.Loading
 
     width: 640
     height: 480
@@ -51,10 +48,9 @@ Item {
         visible: opacity > 0
         clip: true
 
-        BasicImage {
-            id: picture
+        Picture {
             anchors.fill: parent
-            source: Media.address(root.source)
+            source: root.source
             fillMode: root.fillMode
             scale: 1.12 - 0.12 * appearance.progress
         }
@@ -63,14 +59,8 @@ Item {
     Component {
         id: preview
 
-        PreviewTile {
-            Image {
-                anchors.fill: parent
-                source: Media.address(root.source)
-                sourceSize: Qt.size(128, 96)
-                fillMode: Image.PreserveAspectFit
-                asynchronous: true
-            }
+        PicturePreview {
+            source: root.source
         }
     }
 }

@@ -16,11 +16,32 @@ function address(source) {
     return found === path ? text : found;
 }
 
-/// Size to decode the picture `source` at, for an item of width x height: photos at their own size up to the limit,
-/// vector drawings at the item's size.
-function decodedSize(source, width, height) {
+// Image.PreserveAspectFit and Image.PreserveAspectCrop, which scripts cannot see.
+var fit = 1;
+var crop = 2;
+
+/// Size to decode the picture `source` at: `wanted` if that says something; vector drawings large enough for an item
+/// of width x height, in steps, so that a small change does not load them again; photos at their own size up to the
+/// limit.
+function decodedSize(source, wanted, width, height) {
     var edge = Limits.pictureEdge;
+    if (wanted.width > 0 || wanted.height > 0)
+        return Qt.size(Math.min(wanted.width, edge), Math.min(wanted.height, edge));
     if (!/\.svgz?$/i.test(String(source)))
         return Qt.size(edge, edge);
-    return width > 0 && height > 0 ? Qt.size(Math.min(width, edge), Math.min(height, edge)) : undefined;
+    var longest = Math.max(64, width, height);
+    var step = Math.min(edge, Math.pow(2, Math.ceil(Math.log(longest) / Math.LN2)));
+    return Qt.size(step, step);
+}
+
+/// Where a picture of `pictureWidth` x `pictureHeight` stands in an item of width x height, for one of Image's fill modes.
+function placeOf(fillMode, pictureWidth, pictureHeight, width, height) {
+    if (!(fillMode === fit || fillMode === crop) || !(pictureWidth > 0) || !(pictureHeight > 0))
+        return Qt.rect(0, 0, width, height);
+    var byWidth = width / pictureWidth;
+    var byHeight = height / pictureHeight;
+    var scale = fillMode === fit ? Math.min(byWidth, byHeight) : Math.max(byWidth, byHeight);
+    var w = pictureWidth * scale;
+    var h = pictureHeight * scale;
+    return Qt.rect(Math.round((width - w) / 2), Math.round((height - h) / 2), w, h);
 }

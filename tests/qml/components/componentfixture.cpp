@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "componentfixture.h"
+
+#include "quick/icontable.h"
+#include "quick/themetable.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFontDatabase>
+#include <QImage>
+#include <QProcess>
+#include <QQmlContext>
+#include <QQmlPropertyMap>
+
+namespace {
+
+const QString library = QStringLiteral(":/Nuvex/Components/");
+
+// The fixture that takes down warnings, and the handler of the test framework, which goes on reporting them.
+ComponentFixture* recorder = nullptr;
+QtMessageHandler nextHandler = nullptr;
+
+void record(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    const QByteArray category(context.category);
+    if (recorder && type == QtWarningMsg && (category.startsWith("nuvex") || category == "default" || category == "qml"))
+        recorder->addWarning(text);
+    nextHandler(type, context, text);
+}
+
+QByteArray resource(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void loadFonts()
+{
+    const QDir folder(library + QStringLiteral("fonts"));
+    const QFileInfoList fonts = folder.entryInfoList(QDir::Files);
+    for (const QFileInfo& font : fonts)
+        QFontDatabase::addApplicationFont(font.filePath());
+    QFontDatabase::addApplicationFont(QStringLiteral(":/Nuvex/font/fontawesome-webfont.ttf"));
+}
+
+} // namespace
+
+ComponentFixture::ComponentFixture()
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.path()));
+    m_capi = std::make_unique<CAPI>(nullptr, nullptr);
+    m_capi->createProject(QStringLiteral("Test"));
+    m_capi->setBaseFolder(QStringLiteral("Test"));
+    loadFonts();
+}
+
+ComponentFixture::~ComponentFixture()
+{
+    recorder = nullptr;
+}
+
+void ComponentFixture::recordWarnings()
+{
+    recorder = this;
+    m_warnings.clear();
+    // The framework installs its handler anew for each document.
+    const QtMessageHandler previous = qInstallMessageHandler(record);
+    if (previous != record)
+        nextHandler = previous;
+}
+
+void ComponentFixture::publish(QQmlEngine& engine)
+{
+    QQmlContext* context = engine.rootContext();
+    context->setContextProperty(QStringLiteral("CAPI"), m_capi.get());
+    context->setContextProperty(QStringLiteral("dp"), 1.0);
+    context->setContextProperty(QStringLiteral("faIcons"), iconTable());
+    context->setContextProperty(QStringLiteral("bs"), themeTable());
+    context->setContextProperty(QStringLiteral("roundedImageFragShader"),
+                                QString::fromUtf8(resource(QStringLiteral(":/Nuvex/GUI/RoundedImage.frag"))));
+    context->setContextProperty(QStringLiteral("imageScopeFragShader"),
+                                QString::fromUtf8(resource(QStringLiteral(":/Nuvex/GUI/ImageScope.frag"))));
+    context->setContextProperty(QStringLiteral("fixture"), this);
+    engine.addImportPath(QStringLiteral("qrc:///./"));
+}
+
+QStringList ComponentFixture::components() const
+{
+    const QStringList files = QDir(library).entryList({QStringLiteral("*.qml")}, QDir::Files, QDir::Name);
+    QStringList result;
+    for (const QString& file : files) {
+        if (!file.endsWith(QLatin1String("Editor.qml")))
+            result.append(file);
+    }
+    return result;
+}
+
+QString ComponentFixture::source(const QString& fileName) const
+{
+    return QString::fromUtf8(resource(library + fileName));
+}
+
+QUrl ComponentFixture::url(const QString& name) const
+{
+    return QUrl::fromLocalFile(m_capi->resolvedPath(name));
+}
+
+void ComponentFixture::makePicture(const QString& name, const QColor& color, int width, int height) const
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(color);
+    if (!picture.save(m_capi->resolvedPath(name)))
+        qFatal("cannot write %s", qPrintable(name));
+}
+
+void ComponentFixture::makeClip(const QString& name, const QString& color, double seconds) const
+{
+    const QString input = QStringLiteral("color=c=%1:size=160x90:rate=25:duration=%2").arg(color).arg(seconds);
+    const QStringList arguments{"-v", "error",   "-y",       "-f",      "lavfi", "-i",
+                                input, "-c:v", "libx264", "-pix_fmt", "yuv420p", m_capi->resolvedPath(name)};
+    if (QProcess::execute(QStringLiteral("ffmpeg"), arguments) != 0)
+        qFatal("cannot make %s", qPrintable(name));
+}
+
+void ComponentFixture::makeGarbage(const QString& name) const
+{
+    m_capi->writeToFile(QStringLiteral("not what the name says"), name);
+}
+
+QStringList ComponentFixture::takeWarnings()
+{
+    QStringList result;
+    result.swap(m_warnings);
+    return result;
+}

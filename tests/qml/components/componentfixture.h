@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "api/capi.h"
+
+#include <QColor>
+#include <QQmlEngine>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// What component tests in QML need of the program: the context properties, a project with media made on the spot, and
+/// everything that was logged as a warning. Published as "fixture". GUI thread.
+class ComponentFixture : public QObject
+{
+    Q_OBJECT
+
+public:
+    ComponentFixture();
+    ~ComponentFixture() override;
+
+    /// Publishes the context properties of the program and this object, as start-up does.
+    void publish(QQmlEngine& engine);
+
+    /// File names of all component documents with a contract: those of the module and the unlisted ones.
+    Q_INVOKABLE QStringList components() const;
+    /// Source text of the component file `fileName`.
+    Q_INVOKABLE QString source(const QString& fileName) const;
+    /// File URL of `name` in the project.
+    Q_INVOKABLE QUrl url(const QString& name) const;
+    /// Writes a picture of one colour into the project.
+    Q_INVOKABLE void makePicture(const QString& name, const QColor& color, int width = 64, int height = 64) const;
+    /// Writes a clip of one colour, 160 x 90 at 25 frames a second, into the project.
+    Q_INVOKABLE void makeClip(const QString& name, const QString& color, double seconds) const;
+    /// Writes bytes that are no picture and no video.
+    Q_INVOKABLE void makeGarbage(const QString& name) const;
+    /// Starts taking down warnings, those of the QML engine and logged ones.
+    Q_INVOKABLE void recordWarnings();
+    /// Warnings since recordWarnings() or the last call.
+    Q_INVOKABLE QStringList takeWarnings();
+
+    void addWarning(const QString& text) { m_warnings.append(text); }
+
+private:
+    QTemporaryDir m_home;
+    std::unique_ptr<CAPI> m_capi;
+    QStringList m_warnings;
+};
