@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.GUI 1.0 as BGUI
+import "private"
+
+// Who made the program, which version it is and which computer it runs on.
+FormPage {
+    id: aboutPage
+
+    readonly property string webSite: "https://nuvex.example/"
+
+    function credit() {
+        return qsTr("Nuvex is made by %1.").arg("<a href=\"" + webSite + "\">" + qsTr("the Nuvex developers") + "</a>")
+               + "<br>App version: " + CAPI.getSSetting("version")
+               + "<br>Host: " + CAPI.hostName();
+    }
+
+    objectName: "AboutPage"
+    title: "About"
+
+    Sheet {
+        spacing: 3 * BGUI.Theme.unit
+
+        Image {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 14 * BGUI.Theme.unit
+            height: width
+            source: "qrc:/Nuvex/images/logo.png"
+            sourceSize: Qt.size(2 * width, 2 * height)
+        }
+
+        BGUI.Label {
+            objectName: "credit"
+            width: parent.width
+            size: "large"
+            text: aboutPage.credit()
+            textFormat: Text.StyledText
+            horizontalAlignment: Text.AlignHCenter
+            lineHeight: 1.5
+            onLinkActivated: Qt.openUrlExternally(link)
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 2 * BGUI.Theme.unit
+
+            BGUI.Button {
+                focus: true
+                faIcon: "fa-external-link"
+                text: qsTr("Web Site")
+                onClicked: Qt.openUrlExternally(aboutPage.webSite)
+            }
+
+            BGUI.Button {
+                faIcon: "fa-question-circle"
+                text: qsTr("Help")
+                onClicked: aboutPage.shell.open("HelpPage")
+            }
+        }
+    }
+}

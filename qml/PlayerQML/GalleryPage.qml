@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private"
+
+// Every widget and component at a glance.
+FormPage {
+    objectName: "GalleryPage"
+    title: qsTr("Gallery")
+
+    Loader {
+        anchors.fill: parent
+        focus: true
+        source: "qrc:///Nuvex/GUI/Gallery.qml"
+    }
+}

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.Deployment 1.0
+import Nuvex.GUI 1.0 as BGUI
+import "private"
+
+// The projects to choose from: those on this computer, the store's and the account's.
+FormPage {
+    id: projectsPage
+
+    property int tab: local.count === 0 ? 1 : 0
+
+    readonly property var tabs: [qsTr("Local"), "Store", "Cloud"]
+
+    function choose(name) {
+        CAPI.setSetting("lastProject", name);
+        back();
+    }
+
+    function remove(index, name) {
+        if (CAPI.getSSetting("lastProject") === name)
+            CAPI.setSetting("lastProject", "");
+        if (CAPI.removeProject(name))
+            message.text = "";
+        else
+            message.text = qsTr("The project %1 could not be deleted completely.").arg(name);
+        local.removeRow(index);
+    }
+
+    function browse() {
+        shell.open("ImportPage").chosen.connect(importArchive);
+    }
+
+    function importArchive(url) {
+        const name = CAPI.extractToWorkDirectory(url);
+        if (name === "") {
+            message.text = qsTr("That archive cannot be imported. The log says why.");
+            return;
+        }
+        local.addRow(name);
+        tab = 0;
+    }
+
+    objectName: "ProjectsPage"
+    title: qsTr("Projects")
+
+    actions: BGUI.Button {
+        visible: false
+        faIcon: "fa-upload"
+        text: "Import"
+        onClicked: projectsPage.browse()
+    }
+
+    BGUI.SwitchTabs {
+        id: tabRow
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 2 * BGUI.Theme.unit
+        width: local.width
+        size: "large"
+        model: projectsPage.tabs
+        currentIndex: projectsPage.tab
+        focus: projectsPage.tab !== 0
+        onActivated: projectsPage.tab = index
+    }
+
+    ProjectList {
+        id: local
+        anchors.top: tabRow.bottom
+        anchors.topMargin: BGUI.Theme.unit
+        anchors.bottom: message.top
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 90 * BGUI.Theme.unit)
+        visible: projectsPage.tab === 0
+        focus: visible
+        onChosen: projectsPage.choose(name)
+        onRemoveRequested: projectsPage.remove(index, name)
+    }
+
+    BGUI.EmptyState {
+        anchors.centerIn: parent
+        width: parent.width - 8 * BGUI.Theme.unit
+        visible: projectsPage.tab === 0 && local.count === 0
+        faIcon: "fa-folder-open-o"
+        title: qsTr("There is no project on this computer")
+        text: qsTr("Press Ctrl+I to import a zip archive, or put a folder with a main.qml into %1.")
+              .arg(CAPI.getWorkDirectory())
+    }
+
+    BGUI.EmptyState {
+        anchors.centerIn: parent
+        width: parent.width - 8 * BGUI.Theme.unit
+        visible: projectsPage.tab === 1
+        faIcon: "fa-shopping-cart"
+        title: Deployment.available ? qsTr("The store is on its way") : qsTr("No cloud is set up")
+        text: Deployment.available ? qsTr("Here you will find ready-made projects to start from.")
+                                   : qsTr("The store's ready-made projects need a cloud.")
+    }
+
+    BGUI.EmptyState {
+        anchors.centerIn: parent
+        width: parent.width - 8 * BGUI.Theme.unit
+        visible: projectsPage.tab === 2
+        faIcon: "fa-cloud"
+        title: Deployment.available ? qsTr("Cloud projects are on their way") : qsTr("No cloud is set up")
+        text: Deployment.available ? qsTr("Here you will find the projects of your account.")
+                                   : qsTr("The projects of an account need a cloud.")
+    }
+
+    FooterMessage {
+        id: message
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+
+    Shortcut {
+        sequence: "Ctrl+I"
+        enabled: projectsPage.active
+        onActivated: projectsPage.browse()
+    }
+}

@@ -1,0 +1,275 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+.pragma library
+.import "private/eventstream.js" as EventStream
+
+// What the pages share, and the calls to the account's realtime database and to the sign-in service.
+//
+// Callbacks are called once as callback(success, result), never before the call has returned. A timer given to
+// a call holds the request in its property `request` and runs until the answer; its handler aborts the request.
+
+/// File that the player page loads from the project: "main.qml", or the editing frame's name.
+var qmlFileName = "";
+/// Kept for scripts that record what was done last.
+var lastAction = "None";
+/// True while the player page shows a project.
+var isPlaying = false;
+/// The native API.
+var JCAPI = null;
+/// Realtime subscriptions: this player's commands, revisions of its projects, its entry's project.
+var commandsSubscription = null;
+var projectSubscriptions = [];
+var playersSubscription = null;
+/// The singleton Deployment: `available`, `database`, `databaseCredential`, `identity`, `webApiKey`.
+var deployment = null;
+/// The project that the command line started, as CAPI.setBaseFolder() takes it; empty without one.
+var startedProject = "";
+
+// --- places in the database -------------------------------------------------------------------------------
+
+/// `name` as a key of the database, which knows no dots.
+function key(name) {
+    return name.replace(/\./g, "");
+}
+
+function playersPath(user) {
+    return "Users/" + key(user) + "/Players";
+}
+
+function playerPath(user, player) {
+    return playersPath(user) + "/" + key(player);
+}
+
+function projectPath(user, project) {
+    return "Users/" + key(user) + "/Projects/" + project;
+}
+
+// --- requests ---------------------------------------------------------------------------------------------
+
+function cloudIsSetUp() {
+    return deployment !== null && deployment.available;
+}
+
+function databaseUrl(child, query) {
+    var path = encodeURI(child).replace(/[?#]/g, encodeURIComponent);
+    return deployment.database + "/" + path + ".json?auth=" + deployment.databaseCredential + (query || "");
+}
+
+function identityUrl(operation) {
+    return deployment.identity + "/identitytoolkit/v3/relyingparty/" + operation + "?key=" + deployment.webApiKey;
+}
+
+function parsed(text) {
+    try {
+        return JSON.parse(text);
+    } catch (error) {
+        return undefined;
+    }
+}
+
+// Sends one request: {method, url, headers, body, resultWithoutBody}.
+function send(request, callback, timer) {
+    var http = new XMLHttpRequest();
+    http.onreadystatechange = function() {
+        if (http.readyState !== XMLHttpRequest.DONE)
+            return;
+        if (timer)
+            timer.stop();
+        var result = parsed(http.responseText);
+        if (callback)
+            callback(http.status === 200 && result !== undefined,
+                     result === undefined ? request.resultWithoutBody : result);
+    };
+    http.open(request.method, request.url);
+    for (var name in request.headers)
+        http.setRequestHeader(name, request.headers[name]);
+    if (timer) {
+        timer.request = http;
+        timer.start();
+    }
+    http.send(request.body);
+}
+
+// Sends what `makeRequest` builds, or tells the callback that there is no cloud to send to.
+function sendIfSetUp(makeRequest, callback, timer) {
+    if (cloudIsSetUp())
+        send(makeRequest(), callback, timer);
+    else if (callback)
+        Qt.callLater(function() { callback(false, {"error": "no cloud is set up"}); });
+}
+
+function firebaseCall(child, callback, timer, call) {
+    sendIfSetUp(function() {
+        return {
+            "method": call.method,
+            "url": databaseUrl(child, call.query),
+            "headers": call.headers || {},
+            "body": call.body,
+            "resultWithoutBody": {"error": "not conection"}
+        };
+    }, callback, timer);
+}
+
+/// Reads the place `child`; `query` is added to the address, for example "&shallow=true".
+function firebaseGet(child, callback, timerTimeOut, query) {
+    firebaseCall(child, callback, timerTimeOut, {"method": "Get", "query": query});
+}
+
+/// Merges the members of `json`, an object or its text, into the place `child`.
+function firebaseSet(child, json, callback, timerTimeOut) {
+    firebaseCall(child, callback, timerTimeOut, {
+        "method": "Post",
+        "headers": {"X-HTTP-Method-Override": "PATCH"},
+        "body": typeof json === "string" ? json : JSON.stringify(json)
+    });
+}
+
+/// Deletes the place `child`.
+function firebaseDelete(child, callback, timerTimeOut) {
+    firebaseCall(child, callback, timerTimeOut, {"method": "Delete"});
+}
+
+// --- account ----------------------------------------------------------------------------------------------
+
+function identityCall(operation, email, password, callback, timer) {
+    sendIfSetUp(function() {
+        return {
+            "method": "Post",
+            "url": identityUrl(operation),
+            "headers": {"Content-Type": "application/json"},
+            "body": JSON.stringify({"email": email, "password": password, "returnSecureToken": true}),
+            "resultWithoutBody": {}
+        };
+    }, callback, timer);
+}
+
+/// Signs in; on success the account's e-mail becomes the setting "userEmail".
+function login(email, password, callback, timerTimeOut) {
+    identityCall("verifyPassword", email, password, function(success, result) {
+        if (success)
+            JCAPI.setSetting("userEmail", result.email);
+        callback(success, result);
+    }, timerTimeOut);
+}
+
+/// Makes an account and signs in to it.
+function signupNewUser(email, password, callback, timerTimeOut) {
+    identityCall("signupNewUser", email, password, function(success, result) {
+        if (success)
+            login(result.email, password, callback, timerTimeOut);
+        else
+            callback(false, result);
+    }, timerTimeOut);
+}
+
+// --- players and projects ---------------------------------------------------------------------------------
+
+/// Leaves the server's time in the player's entry.
+function heartbeat(user, player, callback, timerTimeOut) {
+    firebaseSet(playerPath(user, player), {"heartbeat": {".sv": "timestamp"}}, callback, timerTimeOut);
+}
+
+/// Reads the account's players: an object from player id to entry, or null.
+function getPlayers(user, callback, timerTimeOut) {
+    firebaseGet(playersPath(user), callback, timerTimeOut);
+}
+
+/// Deletes a player's entry.
+function deletePlayer(user, player, callback, timerTimeOut) {
+    firebaseDelete(playerPath(user, player), callback, timerTimeOut);
+}
+
+/// Says which project a player is to show.
+function setPlayerProject(user, player, project, callback, timerTimeOut) {
+    firebaseSet(playerPath(user, player), {"project": key(project)}, callback, timerTimeOut);
+}
+
+/// Counts a project's revision up; the first one is 0. Two editors at the same moment can count once.
+function updateRev(user, project, callback, timerTimeOut) {
+    var path = projectPath(user, project);
+    firebaseGet(path, function(success, record) {
+        if (!success) {
+            callback(false, record);
+            return;
+        }
+        var revision = record === null ? 0 : (parseInt(record.revision, 10) || 0) + 1;
+        firebaseSet(path, {"revision": revision}, callback, timerTimeOut);
+    }, timerTimeOut);
+}
+
+// --- realtime subscriptions -------------------------------------------------------------------------------
+
+// Calls `take` with each value that the place gets, the present one first. Returns the subscriber, which lives
+// until unsubscribe(); null without a cloud.
+function subscribe(child, take) {
+    var subscriber = cloudIsSetUp() ? JCAPI.newFirebaseSubscriber() : null;
+    if (!subscriber)
+        return null;
+    var stream = EventStream.reader();
+    subscriber.dataReceived.connect(function(chunk) { stream.feed(chunk).forEach(take); });
+    subscriber.subscribe(databaseUrl(child));
+    return subscriber;
+}
+
+/// Ends a subscription; null is none.
+function unsubscribe(subscriber) {
+    if (!subscriber)
+        return;
+    subscriber.unsubscribe();
+    subscriber.destroy();
+}
+
+/// Asks every subscription to open its stream again if that has failed.
+function checkUpSubscriptions() {
+    [commandsSubscription, playersSubscription].concat(projectSubscriptions).forEach(function(subscriber) {
+        if (subscriber)
+            subscriber.checkUp();
+    });
+}
+
+/// Fetches the project whenever its revision in the cloud changes.
+function subscribeToProjectRevision(user, project) {
+    return subscribe("Users/" + key(user) + "/Projects/" + project + "/revision", function(revision) {
+        if (revision !== null)
+            JCAPI.doOneShareDown(project, String(revision));
+    });
+}
+
+/// Shows the project that the player's entry names, whenever that changes.
+function subscribeToPlayerProject(user, player) {
+    return subscribe(playerPath(user, player) + "/project", function(project) {
+        if (typeof project !== "string" || project === JCAPI.getSSetting("lastProject"))
+            return;
+        JCAPI.setSetting("lastProject", project);
+        JCAPI.setBaseFolder(project);
+        JCAPI.reloadPlayer();
+    });
+}
+
+/// Runs the commands sent to the player in the scope of `evaluator`, which has a function evaluate(text).
+function subscribeToPlayerCommand(user, player, evaluator) {
+    return subscribe(playerPath(user, player) + "/command", function(command) {
+        if (command)
+            obey(String(command), user, player, evaluator);
+    });
+}
+
+// A command that restarts the program is cleared first, so that the restarted player does not find it again.
+function obey(command, user, player, evaluator) {
+    var clear = function(done) { firebaseSet(playerPath(user, player), {"command": ""}, done); };
+    if (command.indexOf("reStartApp") >= 0) {
+        clear(function() { evaluator.evaluate(command); });
+    } else {
+        run(command, evaluator);
+        clear();
+    }
+}
+
+// A mistake in a command must not keep it from being cleared.
+function run(command, evaluator) {
+    try {
+        evaluator.evaluate(command);
+    } catch (error) {
+        console.warn("The command failed: " + error);
+    }
+}

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQml 2.15
+import QtQuick.Controls 1.4
+import Nuvex.Deployment 1.0
+import "SharedVars.js" as SS
+import "private"
+
+// The program's root: a stack of pages. Decides what is shown first and keeps the heartbeat going.
+StackView {
+    id: theStackView
+
+    // What the command line asks to open in place of what the settings say: "play", "edit", "gallery" or "";
+    // and the project to do it with, as CAPI.setBaseFolder() takes it.
+    property string startAction: ""
+    property string startProject: ""
+    property alias hearbeatTimer: heartbeat
+
+    readonly property LoggingCategory log: LoggingCategory { name: "nuvex.shell" }
+
+    // Runs a script in this scope: remote commands reach SS, CAPI and the stack by their names.
+    function evaluate(str) {
+        eval(str);
+    }
+
+    // Shows a page, unless it is the one that is shown. Returns the page.
+    function open(page) {
+        if (currentItem.objectName === page)
+            return currentItem;
+        return push({"item": Qt.resolvedUrl("./" + page + ".qml"), "immediate": true});
+    }
+
+    function play() {
+        SS.qmlFileName = "main.qml";
+        CAPI.trimComponentCache();
+        open("PlayerPage");
+        SS.isPlaying = true;
+    }
+
+    function edit() {
+        SS.qmlFileName = CAPI.editorVersion();
+        CAPI.trimComponentCache();
+        CAPI.createEditorFile();
+        open(CAPI.isDevice() ? "EditorPage" : "RADEditorPage");
+    }
+
+    function openDashboard() {
+        CAPI.trimComponentCache();
+        open("ConnectedPlayers");
+    }
+
+    function identifyPlayer() {
+        if (CAPI.getSSetting("playerUID") === "")
+            CAPI.setSetting("playerUID", CAPI.hostName() + "_" + Date.now());
+    }
+
+    function openByCommandLine() {
+        if (startAction !== "gallery") {
+            SS.startedProject = startProject;
+            CAPI.setBaseFolder(startProject);
+        }
+        if (startAction === "play")
+            play();
+        else if (startAction === "edit")
+            edit();
+        else
+            open("GalleryPage");
+    }
+
+    function openBySettings() {
+        const action = CAPI.getSSetting("doOnStart");
+        const hasProject = CAPI.getSSetting("lastProject") !== "";
+        if (action === "play" && hasProject)
+            play();
+        else if (action === "edit" && hasProject)
+            edit();
+        else if (action === "dashboard")
+            openDashboard();
+    }
+
+    objectName: "theStackView"
+    width: asw
+    height: ash
+    initialItem: Qt.resolvedUrl("./MainPage.qml")
+    delegate: StackViewDelegate {}
+
+    onCurrentItemChanged: console.info(log, "page", currentItem ? currentItem.objectName : "none")
+
+    Component.onCompleted: {
+        const user = CAPI.getSSetting("userEmail");
+        SS.deployment = Deployment;
+        identifyPlayer();
+        const player = CAPI.getSSetting("playerUID");
+        SS.commandsSubscription = SS.subscribeToPlayerCommand(user, player, theStackView);
+        heartbeat.start();
+        if (startAction !== "") {
+            openByCommandLine();
+        } else if (user === "") {
+            open("LoginPage");
+        } else {
+            SS.firebaseSet(SS.playerPath(user, player), {"version": CAPI.getSSetting("version")});
+            openBySettings();
+        }
+    }
+    Component.onDestruction: SS.unsubscribe(SS.commandsSubscription)
+
+    Heartbeat {
+        id: heartbeat
+    }
+
+    Instantiator {
+        model: ["Arial-MT-Regular.ttf", "Atkins-Bold.otf", "Atkins-Regular.ttf", "BerkshireSwash-Regular.ttf",
+            "Damion-Regular.ttf", "hotpizza.ttf", "Impact.ttf", "lobster.ttf", "Lora-Regular.ttf",
+            "Merienda-Regular.ttf", "opensans-regular-webfont.ttf", "OstrichSans-Heavy.otf", "Roboto-Thin.ttf"]
+
+        FontLoader {
+            source: "qrc:////Nuvex/Components/fonts/" + modelData
+        }
+    }
+}

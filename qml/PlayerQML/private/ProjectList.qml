@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import Nuvex.GUI 1.0 as BGUI
+
+// The projects of the workspace, by name. The arrow keys move, Enter chooses, Del deletes.
+FocusScope {
+    id: projectList
+
+    readonly property int count: rows.count
+
+    signal chosen(string name)
+    signal removeRequested(int index, string name)
+
+    function addRow(name) {
+        rows.append({"name": name});
+    }
+
+    function removeRow(index) {
+        rows.remove(index);
+    }
+
+    Rectangle {
+        width: parent.width
+        height: Math.min(list.contentHeight, parent.height)
+        visible: list.count > 0
+        color: BGUI.Theme.surface
+        border.width: Math.max(1, dp)
+        border.color: BGUI.Theme.line
+    }
+
+    ListView {
+        id: list
+        anchors.fill: parent
+        anchors.margins: Math.max(1, dp)
+        focus: true
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        keyNavigationEnabled: true
+        model: ListModel { id: rows }
+        T.ScrollBar.vertical: BGUI.ScrollBar {}
+
+        delegate: BGUI.ListRow {
+            id: row
+
+            readonly property bool isOpen: name === CAPI.getSSetting("lastProject")
+
+            width: list.width
+            height: 6 * BGUI.Theme.unit
+            focus: true
+            highlighted: isOpen
+            faIcon: isOpen ? "fa-folder-open" : "fa-folder"
+            text: name
+            onClicked: projectList.chosen(name)
+            Keys.onDeletePressed: projectList.removeRequested(index, name)
+
+            BGUI.ActionButton {
+                faIcon: "fa-times"
+                toolTip: qsTr("Delete %1").arg(row.text)
+                onClicked: projectList.removeRequested(index, row.text)
+            }
+        }
+    }
+
+    Component.onCompleted: CAPI.getProjectList().sort((a, b) => a.localeCompare(b)).forEach(addRow)
+}

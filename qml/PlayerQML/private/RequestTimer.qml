@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+
+// Aborts a request that takes too long; handed to the cloud calls of the shared script, which set `request`,
+// start it and stop it. A request that is still under way ends with the timer's owner.
+Timer {
+    id: timer
+
+    property var request: null
+
+    function abort() {
+        stop();
+        if (request)
+            request.abort();
+    }
+
+    interval: 10000
+    onTriggered: abort()
+    Component.onDestruction: abort()
+}
