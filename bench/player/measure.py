@@ -5,6 +5,8 @@
 
 measure.py NUVEX PROJECT [--rounds N] [--seconds S]
 
+Needs the target plainhost beside NUVEX.
+
 Time from process start to the first frame, CPU (in percent of one core) and memory while playing. The programs take
 turns on one virtual screen; the first round is dropped. Prints a markdown table of medians with minimum and maximum.
 """
@@ -22,12 +24,15 @@ def programs(nuvex, project, folder):
     """Command lines by name. qmlscene and qml find the components through a tree of modules in `folder`."""
     modules = pathlib.Path(folder) / "modules"
     modules.mkdir()
+    (modules / "PlainHost").symlink_to(pathlib.Path(nuvex).resolve().parents[1] / "bench/modules/PlainHost")
     (modules / "Nuvex").symlink_to(HERE.parents[1] / "qml")
-    plain = ["-I", str(modules), str(HERE / "PlainHost.qml")]
+    host = pathlib.Path(folder) / "PlainHost.qml"
+    host.write_text((HERE / "PlainHost.qml").read_text().replace("@PROJECT@", pathlib.Path(project).as_uri()))
+    plain = ["-I", str(modules), str(host)]
     return {
         "nuvex": [nuvex, "--profile", str(pathlib.Path(folder) / "profile"), "--play", project],
-        "qmlscene": ["/usr/lib/qt5/bin/qmlscene", *plain, project],
-        "qml": ["/usr/lib/qt5/bin/qml", *plain, "--", project],
+        "qmlscene": ["/usr/lib/qt5/bin/qmlscene", *plain],
+        "qml": ["/usr/lib/qt5/bin/qml", *plain],
     }
 
 
