@@ -12,6 +12,14 @@ T.ComboBox {
     property string size: "base"
     property string placeholderText
 
+    // On release, as the template closes an open list on release.
+    function openByKey(event) {
+        const isEnter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        event.accepted = isEnter && !popup.visible;
+        if (event.accepted)
+            popup.open();
+    }
+
     implicitWidth: 24 * Theme.unit
     implicitHeight: Theme.controlHeight(size)
     leftPadding: Theme.padding(size)
@@ -21,8 +29,7 @@ T.ComboBox {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.fontSize(size)
 
-    Keys.onReturnPressed: popup.open()
-    Keys.onEnterPressed: popup.open()
+    Keys.onReleased: openByKey(event)
 
     indicator: FontAwesomeIcon {
         x: control.width - width - Theme.padding(control.size)

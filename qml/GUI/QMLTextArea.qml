@@ -25,6 +25,12 @@ TextArea {
         insertText("\n" + Indent.leading(text, cursorPosition));
     }
 
+    function closeBlock() {
+        const from = Math.max(Indent.lineStart(text, currentLine), cursorPosition - Indent.step.length);
+        edit.remove(from, cursorPosition);
+        edit.insert(from, "}");
+    }
+
     function insertText(piece) {
         edit.remove(edit.selectionStart, edit.selectionEnd);
         edit.insert(edit.cursorPosition, piece);
@@ -63,6 +69,8 @@ TextArea {
             hasSelection ? indent(1) : insertText(Indent.step);
         else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && isPlain)
             insertBreak();
+        else if (event.key === Qt.Key_BraceRight && Indent.isBlankBefore(text, cursorPosition) && !hasSelection)
+            closeBlock();
         else if (event.key === Qt.Key_Slash && event.modifiers & Qt.ControlModifier)
             toggleComment();
         else

@@ -23,6 +23,16 @@ T.SpinBox {
     // The user changed the number.
     signal realModified()
 
+    // What was typed, in steps of the last digit; the old value where it is no number.
+    function read(text, locale) {
+        const digits = text.replace(suffix, "").trim();
+        try {
+            return digits === "" ? value : Math.round(Number.fromLocaleString(locale, digits) * factor);
+        } catch (noNumber) {
+            return value;
+        }
+    }
+
     implicitWidth: 16 * Theme.unit
     implicitHeight: Math.max(Theme.controlHeight(size), Math.ceil(contentItem.contentHeight))
     leftPadding: Theme.padding(size)
@@ -38,7 +48,7 @@ T.SpinBox {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.fontSize(size)
     textFromValue: (value, locale) => Number(value / factor).toLocaleString(locale, "f", decimals) + suffix
-    valueFromText: (text, locale) => Math.round(Number.fromLocaleString(locale, text.replace(suffix, "").trim()) * factor)
+    valueFromText: read
     onValueModified: {
         realValue = value / factor;
         realModified();

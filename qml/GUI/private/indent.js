@@ -27,6 +27,11 @@ function leading(text, position) {
     return /[{(\[]\s*$/.test(before) ? blanks + step : blanks;
 }
 
+// Whether nothing but blanks stand between the line's beginning and the position.
+function isBlankBefore(text, position) {
+    return text.substring(text.lastIndexOf("\n", position - 1) + 1, position).trim() === "";
+}
+
 // The range grown to whole lines, without the last line's break. A range that ends where a line begins leaves that
 // line out.
 function wholeLines(text, start, end) {
