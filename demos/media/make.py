@@ -6,8 +6,10 @@
 Needs the Debian packages povray, povray-includes, ffmpeg, python3-numpy, python3-pil and python3-scipy.
     make.py list            names everything that can be made
     make.py NAME...         makes these
+    make.py dirmaps         lists each project's files in its directory map, at revision 1
 Rendered frames are kept in build/media, so that a clip that was interrupted goes on where it stopped.
 """
+import shutil
 import subprocess
 import sys
 from pathlib import Path
@@ -29,10 +31,12 @@ STILLS = {
     "lobby-stairs": ("Lobby Board/images/stairs.jpg", 1080, 864, {}),
     "lobby-room": ("Lobby Board/images/corner.jpg", 1080, 864, {"bloom": 0.3}),
 }
-# scene -> (file below demos/, width, height, seconds, frames a second, sound)
+# scene -> (file below demos/, width, height, seconds, rendered frames a second, sound)
 CLIPS = {
-    "shop-wheel": ("Shop Promotion/videos/wheel.mp4", 720, 732, 8, 20, sound.workshop),
+    "shop-wheel": ("Shop Promotion/videos/wheel.mp4", 640, 652, 8, 12, sound.workshop),
 }
+# Frames a second of a finished clip: what lies between the rendered ones is worked out from their motion.
+FILM_RATE = 24
 
 
 def trace(scene, picture, width, height, *more):
@@ -59,21 +63,34 @@ def make_clip(name):
             trace(name, folder / "next.png", width, height, f"+K{frame / count}")
             (folder / "next.png").rename(picture)
     score(seconds, CACHE / f"{name}.wav")
-    encode(folder / "%04d.png", rate, CACHE / f"{name}.wav", DEMOS / target)
+    # Two more frames than the loop has, so that motion is known across its end.
+    for extra in range(2):
+        shutil.copy(folder / f"{extra:04}.png", folder / f"{count + extra:04}.png")
+    encode(folder / "%04d.png", rate, CACHE / f"{name}.wav", DEMOS / target, seconds)
 
 
-def encode(frames, rate, wave, target, *more):
+def encode(frames, rate, wave, target, seconds):
     target.parent.mkdir(parents=True, exist_ok=True)
-    subprocess.run(["ffmpeg", "-v", "error", "-y", "-framerate", str(rate), "-i", frames, "-i", wave,
-                    "-vf", "noise=c0s=4:c0f=t", "-c:v", "libx264", "-preset", "slow", "-crf", "21",
-                    "-pix_fmt", "yuv420p", "-c:a", "aac", "-b:a", "96k", "-movflags", "+faststart", *more, target],
-                   check=True)
+    motion = f"hqdn3d=2:2:3:3,minterpolate=fps={FILM_RATE}:mi_mode=mci:mc_mode=aobmc,noise=c0s=3:c0f=t"
+    subprocess.run(["ffmpeg", "-v", "error", "-y", "-framerate", str(rate), "-i", frames, "-i", wave, "-t", str(seconds),
+                    "-vf", motion, "-c:v", "libx264", "-preset", "slow", "-crf", "21", "-pix_fmt", "yuv420p",
+                    "-c:a", "aac", "-b:a", "96k", "-movflags", "+faststart", target], check=True)
+
+
+def write_dirmaps():
+    for document in sorted(DEMOS.glob("*/main.qml")):
+        project = document.parent
+        files = sorted(str(f.relative_to(project)) for f in project.rglob("*") if f.is_file() and f.name != "dirmap")
+        (project / "dirmap").write_text("".join(f"{name} 1\n" for name in files), encoding="utf-8")
 
 
 def main(names):
     CACHE.mkdir(parents=True, exist_ok=True)
     if names == ["list"]:
         print("\n".join([*STILLS, *CLIPS]))
+        return
+    if names == ["dirmaps"]:
+        write_dirmaps()
         return
     for name in names:
         print(name, flush=True)

@@ -30,7 +30,7 @@ Backdrop(srgb <0.66, 0.60, 0.53>)
 #declare Blend = Step * Step * Step * (Step * (Step * 6 - 15) + 10);
 #declare Next = mod(From + 1, 4);
 #macro Ring(I) <Shapes[From][I][0] * (1 - Blend) + Shapes[Next][I][0] * Blend, Shapes[From][I][1] * (1 - Blend) + Shapes[Next][I][1] * Blend> #end
-#declare Turn = 360 * 24 * clock;
+#declare Turn = 360 * 4 * clock;
 
 union {
   lathe {
