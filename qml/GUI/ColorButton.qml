@@ -13,6 +13,8 @@ T.Button {
     property string size: "base"
     property color color: Theme.accent
 
+    readonly property T.Popup popup: dropDown
+
     // The user chose a colour; told for each step while the mouse drags.
     signal picked(color color)
 
@@ -66,7 +68,7 @@ T.Button {
     }
 
     T.Popup {
-        id: popup
+        id: dropDown
         y: control.height + Theme.unit / 2
         width: implicitContentWidth + 2 * padding
         height: implicitContentHeight + 2 * padding

@@ -117,9 +117,19 @@ FocusScope {
             size: picker.size
             text: String(picker.color)
             validator: RegExpValidator { regExp: /#([0-9a-fA-F]{3}|[0-9a-fA-F]{6}|[0-9a-fA-F]{8})/ }
-            onAccepted: picker.pick(text)
-            onEditingFinished: text = Qt.binding(() => String(picker.color))
+            onEditingFinished: take()
+            onActiveFocusChanged: {
+                if (!activeFocus)
+                    take();
+            }
             Accessible.name: qsTr("Colour in hexadecimal")
+
+            // What cannot be a colour gives way to the one there is.
+            function take() {
+                if (acceptableInput && text !== String(picker.color))
+                    picker.pick(text);
+                text = Qt.binding(() => String(picker.color));
+            }
         }
     }
 }

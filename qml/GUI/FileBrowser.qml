@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import "."
 import "private"
+import "private/format.js" as Format
 
 // Looks for a file. Arrow keys move, Enter opens, Backspace goes to the folder above, typing jumps to a name, Escape
 // cancels. At the touch sizes a tap opens a folder, else a double click.
@@ -17,15 +18,15 @@ FocusScope {
     property alias showHidden: list.showHidden
 
     readonly property url currentFile: list.currentFile
+    readonly property string folderAbove: Format.folderAbove(folder)
 
     // The user chose that file.
     signal fileSelected(url file)
     signal canceled()
 
     function goUp() {
-        const above = String(list.parentFolder);
-        if (above !== "")
-            folder = above;
+        if (folderAbove !== "")
+            folder = folderAbove;
     }
 
     implicitWidth: 80 * Theme.unit
@@ -63,7 +64,7 @@ FocusScope {
             id: up
             x: Theme.unit
             anchors.verticalCenter: parent.verticalCenter
-            enabled: String(list.parentFolder) !== ""
+            enabled: browser.folderAbove !== ""
             size: browser.size
             faIcon: "fa-level-up"
             toolTip: qsTr("Folder above")

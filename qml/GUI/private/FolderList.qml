@@ -18,7 +18,6 @@ ListView {
     readonly property bool isTouch: Theme.reach(size, 0) > 0
     readonly property bool isReadable: entries.status !== FolderListModel.Null
     readonly property bool isLoading: entries.status === FolderListModel.Loading
-    readonly property url parentFolder: entries.parentFolder
     readonly property url currentFile: currentIndex >= 0 && currentIndex < count && !isFolder(currentIndex)
                                        ? entries.get(currentIndex, "fileUrl") : ""
     property string typed
@@ -104,6 +103,8 @@ ListView {
         iconColor: fileIsDir ? Theme.accent : Theme.mutedInk
         highlighted: ListView.isCurrentItem
         focusPolicy: Qt.NoFocus
+        // The list gives its current row the focus; the keys are the list's.
+        Keys.enabled: false
         onClicked: {
             list.forceActiveFocus();
             list.currentIndex = index;

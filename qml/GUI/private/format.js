@@ -24,3 +24,9 @@ function crumbs(folder) {
     }
     return result;
 }
+
+// file:///a/b -> file:///a; empty for the root.
+function folderAbove(folder) {
+    const steps = crumbs(folder);
+    return steps.length < 2 ? "" : steps[steps.length - 2].url;
+}
