@@ -55,7 +55,7 @@ bool fill(QFile& file, const QByteArray& bytes)
 {
     const bool written = file.write(bytes) == bytes.size() && file.flush();
     if (!written)
-        fail("write", file.fileName(), qPrintable(file.errorString()));
+        fail("write all of", file.fileName(), std::strerror(errno));
     file.close();
     return written;
 }
