@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nuvex developers
+# SPDX-License-Identifier: MIT
+"""Takes one picture a page, demo and size of the real program for docs/screenshots."""
+import os
+import subprocess
+import time
+from pathlib import Path
+
+from driver import Profile, Program, Screen, read_setup
+
+ROOT = Path(__file__).resolve().parents[2]
+PICTURES = ROOT / "docs/screenshots"
+SIZES = ["1280x720", "1920x1080", "1080x1920"]
+SETTLE = 1.0  # seconds for movements to end
+
+
+def take(program, name, suffix="png", wait=SETTLE):
+    time.sleep(wait)
+    size = subprocess.run(["xdotool", "getdisplaygeometry"], env={**os.environ, "DISPLAY": program.screen.name},
+                          capture_output=True, text=True, check=True).stdout.split()
+    target = PICTURES / f"{name}-{'x'.join(size)}.{suffix}"
+    options = ["-quality", "86"] if suffix == "jpg" else ["-depth", "8", "-colors", "256"]
+    subprocess.run(["import", "-display", program.screen.name, "-window", "root", *options, str(target)], check=True)
+    print(target.relative_to(ROOT), flush=True)
+
+
+def steps_of_a_first_start(program):
+    program.wait_page("LoginPage")
+    take(program, "login")
+    program.key("Escape")
+    program.wait_page("MainPage")
+    take(program, "main-without-project")
+
+
+def steps_of_the_pages(program):
+    take(program, "main")
+    for keys, page, name in [("ctrl+e", "ZipGeneratorPage", "zip"), ("F1", "HelpPage", "help")]:
+        program.key(keys)
+        program.wait_page(page)
+        take(program, name)
+        program.key("Escape")
+        program.wait_page("MainPage")
+    for label, page, name in [("Open", "ProjectsPage", "projects"), ("Edit", "RADEditorPage", "editor"),
+                              ("Dashboard", "ConnectedPlayers", "dashboard")]:
+        program.click(label)
+        program.wait_page(page)
+        take(program, name)
+        program.key("Escape")
+        program.wait_page("MainPage")
+    for label, page, name in [("Settings", "SettingsPage", "settings"),
+                              ("Advanced Editor", "AdvancedEditPage", "advanced-editor"),
+                              ("About", "AboutPage", "about")]:
+        program.click("Menu")
+        program.click(label)
+        program.wait_page(page)
+        take(program, name)
+        program.key("Escape")
+        program.wait_page("MainPage")
+
+
+def run(setup, screen, steps, settings, *arguments):
+    profile = Profile()
+    try:
+        if settings is not None:
+            profile.write_settings(**settings)
+        for demo in sorted((ROOT / "demos").glob("*/main.qml")):
+            profile.work.mkdir(parents=True, exist_ok=True)
+            (profile.work / demo.parent.name).symlink_to(demo.parent)
+        program = Program(setup, screen, profile, *arguments)
+        try:
+            steps(program)
+        finally:
+            program.close()
+    finally:
+        profile.remove()
+
+
+def main():
+    setup, names = read_setup()
+    PICTURES.mkdir(exist_ok=True)
+    signed_in = {"userEmail": "ada@example.org", "playerUID": "window-3_1764000000000", "shareFolder": "false",
+                 "doOnStart": "", "lastProject": "Shop Promotion"}
+    for size in SIZES:
+        screen = Screen(size)
+        try:
+            run(setup, screen, steps_of_a_first_start, None)
+            run(setup, screen, steps_of_the_pages, signed_in)
+            run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
+            run(setup, screen, lambda program: take(program, "gallery"), signed_in, "--gallery")
+            for demo in sorted((ROOT / "demos").glob("*/main.qml")):
+                name = demo.parent.name.lower().replace(" ", "-")
+                run(setup, screen, lambda program: take(program, name, "jpg", 4), signed_in, "--play", demo.parent)
+        finally:
+            screen.close()
+
+
+if __name__ == "__main__":
+    main()
