@@ -14,6 +14,17 @@
 
 #include <algorithm>
 
+namespace {
+
+bool reachesOut(const QNetworkInterface& interface)
+{
+    const auto flags = interface.flags();
+    return flags.testFlag(QNetworkInterface::IsUp) && flags.testFlag(QNetworkInterface::IsRunning) &&
+           !flags.testFlag(QNetworkInterface::IsLoopBack);
+}
+
+} // namespace
+
 namespace platform {
 
 void restartProgram()
@@ -27,13 +38,8 @@ void restartProgram()
 bool connectedToNetwork()
 {
     const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
-    const bool anyUp =
-        std::any_of(interfaces.begin(), interfaces.end(), [](const QNetworkInterface& interface) {
-            const auto flags = interface.flags();
-            return flags.testFlag(QNetworkInterface::IsUp) && flags.testFlag(QNetworkInterface::IsRunning) &&
-                   !flags.testFlag(QNetworkInterface::IsLoopBack);
-        });
-    return anyUp && !QNetworkInterface::allAddresses().isEmpty();
+    return std::any_of(interfaces.begin(), interfaces.end(), reachesOut) &&
+           !QNetworkInterface::allAddresses().isEmpty();
 }
 
 QString clipboardText()
@@ -49,6 +55,19 @@ void setClipboardText(const QString& text)
 QString hostName()
 {
     return QHostInfo::localHostName();
+}
+
+QString networkAddress()
+{
+    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
+        if (!reachesOut(interface))
+            continue;
+        for (const QNetworkAddressEntry& entry : interface.addressEntries()) {
+            if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol)
+                return entry.ip().toString();
+        }
+    }
+    return {};
 }
 
 bool isDevice(const QString& productType)

@@ -18,6 +18,8 @@ QString clipboardText();
 void setClipboardText(const QString& text);
 /// The local host name.
 QString hostName();
+/// This host's first IPv4 address besides loopback, of an interface that is up; empty without a network.
+QString networkAddress();
 /// Whether `productType` (as QSysInfo names it, case-sensitive) is a hand-held system.
 bool isDevice(const QString& productType);
 /// Whether a touch device is present.

@@ -4,6 +4,7 @@
 #include "app/qmlhost.h"
 
 #include "api/capi.h"
+#include "api/platform.h"
 #include "app/nativetypes.h"
 #include "app/restart.h"
 #include "app/screenshot.h"
@@ -21,10 +22,12 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlPropertyMap>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTextStream>
+#include <QTimer>
 
 #include <malloc.h>
 #include <memory>
@@ -32,6 +35,8 @@
 namespace {
 
 Q_LOGGING_CATEGORY(lcApp, "nuvex.app")
+
+constexpr std::chrono::seconds networkAddressInterval(30);
 
 QUrl picturesPath()
 {
@@ -71,6 +76,19 @@ void placeWindow(QQuickView& view, const QRect& available, bool windowed)
         view.resize(deskSize.boundedTo(available.size()));
 }
 
+// The shell shows the address on its standby picture; it may change while the program runs.
+void keepNetworkAddress(QQuickView& view)
+{
+    const auto tell = [&view] {
+        if (QQuickItem* root = view.rootObject())
+            root->setProperty("networkAddress", platform::networkAddress());
+    };
+    auto* timer = new QTimer(&view);
+    QObject::connect(timer, &QTimer::timeout, tell);
+    timer->start(networkAddressInterval);
+    tell();
+}
+
 // One pass: everything is built, run and torn down in reverse.
 int runOnce(int& argc, char** argv, const Options& options, const Deployment& deployment)
 {
@@ -103,6 +121,7 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
 
     view.setInitialProperties(startPage(options, capi->getWorkDirectory()));
     view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/PlayerQML/main.qml")));
+    keepNetworkAddress(view);
     placeWindow(view, available, options.windowed);
     view.show();
     if (!options.screenshotFile.isEmpty())

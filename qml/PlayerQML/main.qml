@@ -15,6 +15,8 @@ StackView {
     // and the project to do it with, as CAPI.setBaseFolder() takes it.
     property string startAction: ""
     property string startProject: ""
+    // This player's address on the network; the host keeps it up to date.
+    property string networkAddress: ""
     property alias hearbeatTimer: heartbeat
 
     readonly property LoggingCategory log: LoggingCategory { name: "nuvex.shell" }

@@ -11,6 +11,7 @@ Rectangle {
     property string documentName
     property url documentUrl
     property bool failed: false
+    property string networkAddress
 
     readonly property string playerName: CAPI.getSSetting("playerUID").split("_")[0]
 
@@ -66,7 +67,7 @@ Rectangle {
         }
 
         StandbyText {
-            text: qsTr("Host: %1").arg(CAPI.hostName())
+            text: qsTr("Host: %1").arg([CAPI.hostName(), standby.networkAddress].filter(part => part).join("  ·  "))
             opacity: 0.75
             font.pixelSize: 1.5 * facts.step
         }
