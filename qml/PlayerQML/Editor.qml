@@ -30,7 +30,7 @@ Item {
         myfill.scale = Math.max(smallestScale, Math.min(largestScale, wanted));
     }
 
-    onItemSelected: selection = item
+    onItemSelected: selection = item || null
     onMyfillChanged: {
         if (myfill)
             myfill.parent = stage;

@@ -3,9 +3,8 @@
 import QtQuick 2.15
 import "SharedVars.js" as SS
 import "private"
-import "private/fit.js" as Fit
 
-// Shows a project's document over the whole page, turned and scaled to fit, and follows the account's wishes.
+// Shows a project's document over the whole page, and follows the account's wishes.
 StackPage {
     id: playerPage
 
@@ -37,29 +36,7 @@ StackPage {
         thePlayer.source = playerSource();
     }
 
-    function place() {
-        const item = thePlayer.item;
-        const fitted = item ? Fit.fit(item.width, item.height, width, height) : null;
-        if (!fitted)
-            return;
-        item.transform = fitted.turned ? [quarterTurn, lift] : [];
-        item.transformOrigin = fitted.turned ? Item.TopRight : Item.TopLeft;
-        item.scale = fitted.scale;
-        item.x = fitted.x;
-        item.y = fitted.y;
-    }
-
-    // A document without a size of its own takes the page's.
-    function giveSize(item) {
-        if (!(item.width > 0))
-            item.width = Qt.binding(() => playerPage.width);
-        if (!(item.height > 0))
-            item.height = Qt.binding(() => playerPage.height);
-    }
-
     objectName: "PlayerPage"
-    onWidthChanged: place()
-    onHeightChanged: place()
 
     Standby {
         anchors.fill: parent
@@ -68,28 +45,13 @@ StackPage {
         documentName: SS.qmlFileName
         documentUrl: playerPage.documentUrl
         failed: playerPage.failed
+        networkAddress: playerPage.shell ? playerPage.shell.networkAddress : ""
     }
 
-    Loader {
+    ProjectLoader {
         id: thePlayer
         objectName: "thePlayer"
         source: playerPage.playerSource()
-        onLoaded: {
-            playerPage.giveSize(item);
-            playerPage.place();
-        }
-        onWidthChanged: playerPage.place()
-        onHeightChanged: playerPage.place()
-    }
-
-    Rotation {
-        id: quarterTurn
-        angle: -90
-    }
-
-    Translate {
-        id: lift
-        y: thePlayer.item ? thePlayer.item.width : 0
     }
 
     PlayerNotice {
@@ -112,20 +74,7 @@ StackPage {
         cursorShape: Qt.BlankCursor
     }
 
-    // The window system may restore the window shortly after start.
-    Timer {
-        property int rounds: 0
-
-        interval: 5000
-        repeat: true
-        running: true
-        triggeredOnStart: true
-        onTriggered: {
-            CAPI.setFullScreen(true);
-            if (++rounds === 24)
-                stop();
-        }
-    }
+    StayFullScreen {}
 
     ProjectFollower {
         id: follower

@@ -65,12 +65,20 @@ function reader() {
         forgetLine();
     }
 
+    // A stream that was cut within a line and opened again begins with an event of its own; but a line may also
+    // go on with a text that only looks like one.
+    function isNewStream(chunk) {
+        if (chunk.indexOf("event: ") !== 0)
+            return false;
+        var goesOn = lineIndex === 1 && isPut && pieces.length > 0;
+        return !goesOn || valueOf(pieces.join("") + chunk.split(/[\r\n]/, 1)[0]) === undefined;
+    }
+
     function feed(chunk) {
         if (afterReturn && chunk.charAt(0) === "\n")
             chunk = chunk.substring(1);
         afterReturn = chunk.charAt(chunk.length - 1) === "\r";
-        // A stream that was cut within a line and opened again begins with an event of its own.
-        if (chunk.indexOf("event: ") === 0)
+        if (isNewStream(chunk))
             startAnew();
         var values = [];
         var lines = chunk.split(/\r\n|\r|\n/);

@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/qml/shell/shell.h"
+
+#include <QtTest>
+
+/// The page on the wall: how a document fits it, and what it shows when there is none.
+class TestPlayerPage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void documentFitsThePage_data();
+    void documentFitsThePage();
+    void fitFollowsTheWindow();
+    void missingDocument();
+    void brokenDocument();
+    void reload();
+    void connectionDot();
+};
+
+namespace {
+
+void setUp(const QString& document)
+{
+    TestProfile::reset({{"userEmail", "ann@example.org"},
+                        {"playerUID", "west_12"},
+                        {"doOnStart", "play"},
+                        {"lastProject", "Shop"}});
+    TestProfile::addProject("Shop", document);
+}
+
+QString documentOfSize(const QSize& size)
+{
+    return QString("import QtQuick 2.15\nItem { width: %1; height: %2\n"
+                   "Item { objectName: 'topLeft'; width: 1; height: 1 } }")
+        .arg(size.width())
+        .arg(size.height());
+}
+
+QQuickItem* document(const Shell& shell)
+{
+    return shell.find("thePlayer")->property("item").value<QQuickItem*>();
+}
+
+// Where the document stands in the window.
+QRectF shownRect(const Shell& shell)
+{
+    const QQuickItem* item = document(shell);
+    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+}
+
+QString text(const Shell& shell, const QString& name)
+{
+    const QQuickItem* item = shell.find(name);
+    return item->isVisible() ? item->property("text").toString() : QString();
+}
+
+} // namespace
+
+void TestPlayerPage::documentFitsThePage_data()
+{
+    QTest::addColumn<QSize>("documentSize");
+    QTest::addColumn<QSize>("pageSize");
+    QTest::addColumn<QRectF>("shown");
+    QTest::addColumn<QPointF>("topLeft"); // where the document's own top left corner goes
+
+    const auto row = [](const char* name, QSize document, QSize page, QRectF shown, QPointF topLeft) {
+        QTest::newRow(name) << document << page << shown << topLeft;
+    };
+    row("same size", {1280, 720}, {1280, 720}, {0, 0, 1280, 720}, {0, 0});
+    row("larger", {1920, 1080}, {960, 540}, {0, 0, 960, 540}, {0, 0});
+    row("smaller", {320, 180}, {1280, 720}, {0, 0, 1280, 720}, {0, 0});
+    row("bars at the sides", {400, 300}, {1280, 720}, {160, 0, 960, 720}, {160, 0});
+    row("bars above and below", {1000, 250}, {800, 600}, {0, 200, 800, 200}, {0, 200});
+    row("portrait on portrait", {300, 400}, {600, 1000}, {0, 100, 600, 800}, {0, 100});
+    row("square lies", {500, 500}, {1000, 600}, {200, 0, 600, 600}, {200, 0});
+    row("square turned", {500, 500}, {600, 1000}, {0, 200, 600, 600}, {0, 800});
+    row("landscape on portrait", {960, 540}, {540, 960}, {0, 0, 540, 960}, {0, 960});
+    row("portrait on landscape", {540, 960}, {960, 540}, {0, 0, 960, 540}, {0, 540});
+    row("turned and scaled", {200, 400}, {1000, 600}, {0, 50, 1000, 500}, {0, 550});
+    row("no size of its own", {0, 0}, {1000, 600}, {0, 0, 1000, 600}, {0, 0});
+}
+
+void TestPlayerPage::documentFitsThePage()
+{
+    QFETCH(QSize, documentSize);
+    QFETCH(QSize, pageSize);
+    setUp(documentOfSize(documentSize));
+    const Shell shell({}, pageSize);
+    QCOMPARE(shell.page()->size(), QSizeF(pageSize));
+    QTEST(shownRect(shell), "shown");
+    QTEST(shell.find("topLeft")->mapToScene(QPointF(0, 0)), "topLeft");
+    QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
+
+void TestPlayerPage::fitFollowsTheWindow()
+{
+    setUp(documentOfSize({960, 540}));
+    Shell shell({}, {960, 540});
+    QVERIFY(QTest::qWaitForWindowExposed(shell.root()->window()));
+    shell.resize({400, 640});
+    QTRY_COMPARE(shownRect(shell), QRectF(20, 0, 360, 640));
+    shell.resize({480, 270});
+    QTRY_COMPARE(shownRect(shell), QRectF(0, 0, 480, 270));
+}
+
+void TestPlayerPage::missingDocument()
+{
+    setUp(QString());
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression("PlayerPage.qml:[0-9]+: ReferenceError: api is not defined"));
+    const Shell shell;
+    QCOMPARE(shell.pageName(), QString("PlayerPage"));
+    QCOMPARE(shell.warnings().size(), 1);
+    QCOMPARE(shell.find("thePlayer")->property("source").toUrl(), QUrl());
+    QCOMPARE(text(shell, "standbyReason"), QString("The project has no file main.qml."));
+    QCOMPARE(text(shell, "playerMessage"), QString());
+}
+
+void TestPlayerPage::brokenDocument()
+{
+    setUp("import QtQuick 2.15\nItem {\n    width: }\n");
+    const Shell shell;
+    QCOMPARE(text(shell, "playerMessage"), QString("Error loading... "));
+    QVERIFY2(text(shell, "standbyReason").startsWith("main.qml:3"), qPrintable(text(shell, "standbyReason")));
+}
+
+void TestPlayerPage::reload()
+{
+    setUp("import QtQuick 2.15\nItem { objectName: 'old' }");
+    Shell shell;
+    QVERIFY(shell.find("old"));
+
+    emit shell.api().startUpdating();
+    QCOMPARE(text(shell, "playerMessage"), QString("Updating"));
+    shell.find("thePlayer")->setProperty("source", QUrl()); // as the update does before it replaces files
+    shell.api().clearComponentCache();
+    QVERIFY(shell.find("standbyReason")->parentItem()->isVisible());
+    QVERIFY(shell.api().writeToFile("import QtQuick 2.15\nItem { objectName: 'new' }", "main.qml"));
+    emit shell.api().reloadPlayer();
+    QVERIFY(shell.find("new"));
+    QCOMPARE(text(shell, "playerMessage"), QString());
+    QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
+
+void TestPlayerPage::connectionDot()
+{
+    setUp(documentOfSize({1280, 720}));
+    Shell shell;
+    const QQuickItem* dot = shell.find("connectionDot");
+    QCOMPARE(dot->mapRectToScene(dot->boundingRect()), QRectF(1265, 5, 10, 10));
+    QCOMPARE(dot->property("color").value<QColor>(), QColor("white"));
+    shell.api().setIConnected(false);
+    QCOMPARE(dot->property("color").value<QColor>(), QColor("red"));
+}
+
+int main(int argc, char* argv[])
+{
+    TestProfile profile;
+    QGuiApplication application(argc, argv);
+    TestPlayerPage test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_playerpage.moc"
