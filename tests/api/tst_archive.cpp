@@ -474,11 +474,11 @@ void TestArchive::otherToolsReadWhatIsPacked()
     QVERIFY(packArchive(path("new folder/p.zip"), project));
     QCOMPARE(runTool("unzip", {"-q", path("new folder/p.zip"), "-d", path("unpacked")}, m_dir->path()), 0);
     QCOMPARE(treeOf(path("unpacked")), treeOf(project));
-    QCOMPARE(runTool("python3",
-                     {"-c", "import zipfile,sys; assert zipfile.ZipFile(sys.argv[1]).testzip() is None",
-                      path("new folder/p.zip")},
-                     m_dir->path()),
-             0);
+    QFile archive(path("new folder/p.zip"));
+    QVERIFY(archive.open(QIODevice::ReadOnly));
+    const QByteArray bytes = archive.readAll();
+    const int flags = bytes[bytes.indexOf("PK\1\2") + 9];
+    QVERIFY2(flags & 0x08, "names must be marked as UTF-8");
 }
 
 void TestArchive::failedPackKeepsTheOldArchive_data()

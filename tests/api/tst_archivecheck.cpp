@@ -149,6 +149,7 @@ void TestArchiveCheck::sizes_data()
     QTest::newRow("larger than the archive") << Entries{entry("a", 1, archiveBytes + 1)} << false;
     QTest::newRow("overlapping") << Entries{entry("a", 1, archiveBytes), entry("b", 1, 1)} << false;
     QTest::newRow("sum overflows") << Entries{entry("a", max, archiveBytes), entry("b", max, 1)} << false;
+    QTest::newRow("packed sum overflows") << Entries{entry("a", 1, max), entry("b", 1, 2)} << false;
     QTest::newRow("all ones") << Entries{entry("a", max, max)} << false;
 }
 
