@@ -25,7 +25,7 @@ T.Button {
             popup.open();
     }
 
-    implicitWidth: 14 * Theme.unit
+    implicitWidth: 16 * Theme.unit
     implicitHeight: Theme.controlHeight(size)
     opacity: enabled ? 1 : 0.5
     hoverEnabled: true

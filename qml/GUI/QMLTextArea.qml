@@ -6,8 +6,9 @@ import "."
 import "private"
 import "private/indent.js" as Indent
 
-// QML source: coloured, with line numbers. Tab indents by four columns, Enter keeps the indentation, a closing brace
-// typed on a blank line takes one step back. `errorLine` (from 1; 0 for none) marks a line.
+// QML source: coloured, with line numbers. Tab indents by four columns and Ctrl+Tab leaves; Enter keeps the
+// indentation; a closing brace typed on a blank line takes one step back. `errorLine` (from 1; 0 for none) marks a
+// line.
 TextArea {
     id: area
 

@@ -5,7 +5,7 @@ import QtQuick.Templates 2.15 as T
 import "."
 import "private"
 
-// Text of many lines, scrolled; it follows the cursor.
+// Text of many lines, scrolled; it follows the cursor. Tab leaves it.
 FocusScope {
     id: area
 
@@ -29,6 +29,16 @@ FocusScope {
     readonly property var textDocument: input.textDocument
     readonly property bool hovered: input.hovered
     readonly property real scroll: flick.contentY
+
+    function takeKey(event) {
+        keyFilter(event);
+        const isTab = event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab;
+        if (event.accepted || !isTab)
+            return;
+        const next = input.nextItemInFocusChain(event.key === Qt.Key_Tab);
+        next.forceActiveFocus(event.key === Qt.Key_Tab ? Qt.TabFocusReason : Qt.BacktabFocusReason);
+        event.accepted = true;
+    }
 
     implicitWidth: 40 * Theme.unit
     implicitHeight: 16 * Theme.unit
@@ -77,7 +87,7 @@ FocusScope {
             font.pixelSize: Theme.fontSize(area.size)
             Accessible.name: placeholderText
 
-            Keys.onPressed: area.keyFilter(event)
+            Keys.onPressed: area.takeKey(event)
 
             Placeholder {
                 width: input.width - input.leftPadding - input.rightPadding

@@ -30,6 +30,11 @@ TestCase {
         return createTemporaryObject(spy, testCase, { "target": target, "signalName": signalName });
     }
 
+    // Lays out and draws what is pending, now.
+    function settle(item) {
+        grabImage(item);
+    }
+
     // The first descendant with that property value, or null.
     function findBy(item, property, value) {
         for (let i = 0; i < item.children.length; ++i) {

@@ -61,7 +61,7 @@ Item {
         function test_keyboardFocusIsSeen(row) {
             const item = make(row.tag);
             item.x = item.y = 60;
-            waitForRendering(stage);
+            settle(stage);
             const before = grabImage(stage);
             item.forceActiveFocus(Qt.TabFocusReason);
             tryVerify(() => !grabImage(stage).equals(before), 2000);

@@ -125,7 +125,7 @@ Item {
             const tabs = make("SwitchTabs { x: 10; y: 10; model: ['Local', 'Store', { text: 'Cloud', "
                               + "faIcon: 'fa-cloud' }] }");
             const activated = makeSpy(tabs, "activated");
-            waitForRendering(tabs);
+            settle(tabs);
             mouseClick(tabs, tabs.width - 15, 15);
             compare(tabs.currentText, "Cloud");
             keyClick(Qt.Key_Left);

@@ -111,7 +111,7 @@ Item {
 
         function test_sourceIsColoured() {
             const area = make("QMLTextArea { width: 400; height: 200; text: 'Rectangle { }' }");
-            waitForRendering(area);
+            settle(area);
             const image = grabImage(area);
             let green = 0;
             for (let x = 40; x < 160; ++x)

@@ -146,7 +146,7 @@ Item {
             root.width = row.width;
             root.height = row.height;
             const browser = makeBrowser("large");
-            waitForRendering(browser);
+            settle(browser);
             forEachText(browser, text => {
                 verify(text.truncated || text.width >= text.contentWidth - 1, text.text);
             });

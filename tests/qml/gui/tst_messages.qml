@@ -70,7 +70,7 @@ Item {
         function test_noticeClosesAndTakesNoRoom() {
             const column = make("Column { width: 200; Notice { closable: true; text: 'Cannot read the folder: "
                                 + "permission denied' } Button { text: 'below' } }");
-            waitForRendering(column);
+            settle(column);
             verify(column.children[1].y >= column.children[0].height);
             verify(column.children[0].height > 50);
             mouseClick(findBy(column, "faIcon", "fa-times"));
@@ -80,7 +80,7 @@ Item {
         function test_emptyStateKeepsItsWidth() {
             const empty = make("EmptyState { width: 260; title: 'No projects yet'; text: 'Import an archive, or make "
                                + "a project in the editor.'; Button { text: 'Import' } }");
-            waitForRendering(empty);
+            settle(empty);
             verify(findBy(empty, "text", empty.text).lineCount > 1);
             const button = findBy(empty, "text", "Import");
             verify(button.mapToItem(empty, button.width, 0).x <= empty.width);
