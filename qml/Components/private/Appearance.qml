@@ -19,27 +19,19 @@ Item {
     property real progress: 0
     readonly property bool isOnAir: target.visible && Presence.presenceOf(target) === Presence.shown
     property bool isEdited: false
-
-    function start() {
-        progress = 0;
-        course.restart();
-    }
-
-    function reset() {
-        course.stop();
-        progress = isEdited ? 1 : 0;
-    }
+    property bool isComplete: false
 
     function follow() {
-        if (root.isOnAir && !root.isEdited)
-            start();
-        else
-            reset();
+        course.stop();
+        root.progress = root.isEdited ? 1 : 0;
+        if (root.isComplete && root.isOnAir && !root.isEdited)
+            course.start();
     }
 
-    onIsOnAirChanged: Qt.callLater(follow)
+    onIsOnAirChanged: follow()
     Component.onCompleted: {
-        isEdited = Presence.isEdited(target);
+        root.isEdited = Presence.isEdited(root.target);
+        root.isComplete = true;
         follow();
     }
 

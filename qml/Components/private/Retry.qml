@@ -43,6 +43,14 @@ Timer {
             root.lastSeen = fileMark();
     }
 
+    function look() {
+        root.pause = Math.min(root.pause * 2, Limits.longestRetry);
+        if (isFile())
+            compare(fileMark());
+        else if (/^https?:/.test(root.source))
+            askServer();
+    }
+
     function compare(mark) {
         var isNews = mark !== "" && mark !== root.lastSeen;
         root.lastSeen = mark;
@@ -69,11 +77,5 @@ Timer {
         if (root.failed)
             begin();
     }
-    onTriggered: {
-        root.pause = Math.min(root.pause * 2, Limits.longestRetry);
-        if (isFile())
-            compare(fileMark());
-        else if (/^https?:/.test(root.source))
-            askServer();
-    }
+    onTriggered: look()
 }

@@ -15,11 +15,14 @@ Item {
     property Item show
     /// In the editor: slides change only when told, at once, and all stay loaded.
     property bool isStill: false
+    // Set when the document is complete: before, slides come one by one.
+    property bool hasBegun: false
+    readonly property var slides: show.slides
     property Item current: null
     /// The next slide while it loads and while it comes in.
     property Item incoming: null
     readonly property bool turning: animation.running
-    readonly property int currentIndex: show.slides.indexOf(turning ? incoming : current)
+    readonly property int currentIndex: slides.indexOf(turning ? incoming : current)
     readonly property int presence: Presence.presenceOf(show)
     readonly property bool isSeen: show.visible && presence === Presence.shown && !isStill
     readonly property bool isRunning: isSeen && show.running
@@ -32,10 +35,11 @@ Item {
 
     /// Shows the first slide, if none is shown.
     function begin() {
-        if (root.current || root.show.slides.length === 0)
+        root.hasBegun = true;
+        if (root.current || root.slides.length === 0)
             return;
-        root.show.slides.forEach(function(slide) { Stage.leaveStage(slide, root.isStill); });
-        root.current = root.show.slides[0];
+        root.slides.forEach(function(slide) { Stage.leaveStage(slide, root.isStill); });
+        root.current = root.slides[0];
         Stage.takeStage(root.current);
         root.dueAt = Date.now() + timeOf(root.current) + root.show.offsetTime;
         plan();
@@ -43,7 +47,7 @@ Item {
 
     /// Turns to slide `index` once it is loaded; where nobody sees it, at once.
     function turnTo(index) {
-        var wanted = root.show.slides[index];
+        var wanted = root.slides[index];
         if (root.turning)
             finish();
         if (!wanted || wanted === root.current)
@@ -81,7 +85,7 @@ Item {
         if (root.incoming)
             turnWhenReady();
         else
-            load(root.show.slides[root.show.slideAfter(root.currentIndex)]);
+            load(root.slides[root.show.slideAfter(root.currentIndex)]);
     }
 
     function load(slide) {
@@ -134,20 +138,22 @@ Item {
 
     // After a change of the list: goes on with what is left.
     function checkSlides() {
-        var slides = root.show.slides;
-        if (slides.indexOf(root.incoming) < 0) {
+        if (!root.hasBegun)
+            return;
+        if (root.slides.indexOf(root.incoming) < 0) {
             animation.stop();
             root.incoming = null;
         }
-        slides.forEach(function(slide) {
+        root.slides.forEach(function(slide) {
             if (slide !== root.current && slide !== root.incoming)
                 Stage.leaveStage(slide, root.isStill);
         });
-        if (slides.indexOf(root.current) < 0)
+        if (root.slides.indexOf(root.current) < 0)
             rewind();
         plan();
     }
 
+    onSlidesChanged: checkSlides()
     onIsSeenChanged: {
         if (!isSeen && turning)
             finish();
