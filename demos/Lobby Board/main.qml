@@ -76,7 +76,7 @@ Rectangle {
 
     BasicText {
         x: 72
-        y: 816
+        y: 824
         text: "HARBOUR HOUSE"
         color: "#d8b877"
         font.family: "Manrope"
@@ -87,7 +87,7 @@ Rectangle {
 
     BasicText {
         x: 68
-        y: 848
+        y: 860
         text: "Good to see you"
         color: "#f3eee3"
         wordWrap: false
