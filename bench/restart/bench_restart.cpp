@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
-// Memory that a restart in place leaves behind: Nuvex's whole set-up against a bare Qt application with an empty
-// window, each in a process of its own. Arguments: "nuvex" or "bare".
+// Memory that a restart in place leaves behind: Nuvex's whole set-up against a bare Qt application with an
+// empty window, each in a process of its own. Arguments: "nuvex" or "bare".
 
 #include "app/qmlhost.h"
 

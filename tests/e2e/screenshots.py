@@ -3,6 +3,7 @@
 # SPDX-License-Identifier: MIT
 """Takes one picture a page, demo and size of the real program for docs/screenshots."""
 import os
+import shutil
 import subprocess
 import time
 from pathlib import Path
@@ -65,8 +66,7 @@ def run(setup, screen, steps, settings, *arguments):
         if settings is not None:
             profile.write_settings(**settings)
         for demo in sorted((ROOT / "demos").glob("*/main.qml")):
-            profile.work.mkdir(parents=True, exist_ok=True)
-            (profile.work / demo.parent.name).symlink_to(demo.parent)
+            shutil.copytree(demo.parent, profile.work / demo.parent.name)
         program = Program(setup, screen, profile, *arguments)
         try:
             steps(program)
