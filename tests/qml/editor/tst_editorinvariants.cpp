@@ -82,6 +82,7 @@ private:
     void compareMaps();
 
     EditorScript m_script;
+    QVariantList m_map; // the script's
     int m_names = 0;
 };
 
@@ -99,8 +100,9 @@ void TestEditorInvariants::edits()
         const Flavour flavour = seed % 3 ? Flavour::Parses : Flavour::Instantiates;
         const QString text = generateDocument(unsigned(seed), flavour).text;
         m_script.open(text);
+        m_map = m_script.map();
         QRandomGenerator random{quint32(seed)};
-        for (int i = 0; i < 8 && !m_script.map().isEmpty(); ++i) {
+        for (int i = 0; i < 8 && !m_map.isEmpty(); ++i) {
             const QString before = m_script.source();
             edit(random);
             compareMaps();
@@ -114,9 +116,8 @@ void TestEditorInvariants::edits()
 
 void TestEditorInvariants::edit(QRandomGenerator& random)
 {
-    const QVariantList map = m_script.map();
-    const int element = random.bounded(map.size());
-    const QVariantMap item = record(map[element]);
+    const int element = random.bounded(m_map.size());
+    const QVariantMap item = record(m_map[element]);
     if (item["pfirst"] == item["plast"])
         return;
     m_script.run("Ejs.element = a", {element});
@@ -192,7 +193,8 @@ void TestEditorInvariants::removeElement(const QVariantMap& item)
 
 void TestEditorInvariants::compareMaps()
 {
-    const QVariantList kept = liveRecords(m_script.map());
+    m_map = m_script.map();
+    const QVariantList kept = liveRecords(m_map);
     const QVariantList fresh = liveRecords(EditingSession::parseAndGetMap(m_script.source()));
     QVERIFY2(!fresh.isEmpty(), "the text does not parse any more");
     QCOMPARE(kept.size(), fresh.size());
