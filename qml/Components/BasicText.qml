@@ -31,18 +31,10 @@ Text {
     Component {
         id: preview
 
-        PreviewTile {
-            Text {
-                anchors.fill: parent
-                anchors.margins: 4
-                text: root.text
-                textFormat: root.textFormat
-                font.family: root.font.family
-                font.pixelSize: 12
-                color: "white"
-                elide: Text.ElideRight
-                verticalAlignment: Text.AlignVCenter
-            }
+        TextPreview {
+            text: root.text
+            textFormat: root.textFormat
+            family: root.font.family
         }
     }
 }

@@ -61,14 +61,9 @@ Rectangle {
     Component {
         id: preview
 
-        PreviewTile {
-            Text {
-                anchors.centerIn: parent
-                text: face.text
-                color: "white"
-                font.family: root.fontFamily
-                font.pixelSize: 14
-            }
+        TextPreview {
+            text: face.text
+            family: root.fontFamily
         }
     }
 }

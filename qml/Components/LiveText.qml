@@ -87,19 +87,11 @@ Item {
     Component {
         id: preview
 
-        PreviewTile {
+        TextPreview {
             color: root.backColor
-
-            Text {
-                anchors.fill: parent
-                anchors.margins: 4
-                text: root.text
-                color: root.color
-                font.family: root.font.family
-                font.pixelSize: 12
-                elide: Text.ElideRight
-                verticalAlignment: Text.AlignVCenter
-            }
+            text: root.text
+            textColor: root.color
+            family: root.font.family
         }
     }
 }

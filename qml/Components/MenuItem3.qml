@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private"
+
+/// A menu board entry around a round picture: name and description below, the price on a seal.
+Item {
+    id: root
+
+    property int element: -1; function evaluate(str) {eval(str);}
+    property var editor
+    property var preview: preview
+    property string cPrototype: "MenuItem3 {
+    width: 340
+    height: 420
+    name: 'Cappuccino'
+    about: 'Double shot, velvet milk'
+    price: '3.60'
+    image: 'qrc:///Nuvex/Components/icons/sampleCoffee.png'
+    nameColor: '#a8521c'
+}"
+
+    property string name: "Cappuccino"
+    property string about: "Double shot, velvet milk"
+    property string price: "3.60"
+    property url image: "qrc:///Nuvex/Components/icons/sampleCoffee.png"
+    property color nameColor: "#a8521c"
+    property color aboutColor: "#66707a"
+    property color priceColor: "white"
+    /// Colour of the seal, and of the ring around the picture.
+    property color sealColor: "#a8521c"
+
+    readonly property real unit: Math.max(0, Math.min(width / 340, height / 420))
+
+    width: 340
+    height: 420
+    Component.onCompleted: editor = Qt.createComponent("MenuItem3Editor.qml")
+
+    Rectangle {
+        id: ring
+        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top }
+        width: 300 * root.unit
+        height: width
+        radius: width / 2
+        color: "transparent"
+        border.color: root.sealColor
+        border.width: Math.max(1, 4 * root.unit)
+
+        RoundedPicture {
+            anchors.fill: parent
+            anchors.margins: 10 * root.unit
+            radius: width / 2
+            source: root.image
+        }
+    }
+
+    Rectangle {
+        anchors { right: ring.right; bottom: ring.bottom }
+        width: 96 * root.unit
+        height: width
+        radius: width / 2
+        visible: root.price !== ""
+        color: root.sealColor
+
+        MenuText {
+            anchors.fill: parent
+            anchors.margins: 10 * root.unit
+            text: root.price
+            color: root.priceColor
+            size: 30 * root.unit
+            isBold: true
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+
+    Column {
+        anchors { left: parent.left; right: parent.right; top: ring.bottom }
+        anchors.topMargin: 12 * root.unit
+        spacing: 2 * root.unit
+
+        MenuText {
+            width: parent.width
+            text: root.name
+            color: root.nameColor
+            size: 34 * root.unit
+            isBold: true
+            horizontalAlignment: Text.AlignHCenter
+        }
+
+        MenuText {
+            width: parent.width
+            text: root.about
+            color: root.aboutColor
+            size: 20 * root.unit
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
+
+    Component {
+        id: preview
+
+        PicturePreview {
+            source: root.image
+        }
+    }
+}

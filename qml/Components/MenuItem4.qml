@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private"
+
+/// A menu board entry as one numbered line: number, small picture, name with calories below, dots, price.
+Rectangle {
+    id: root
+
+    property int element: -1; function evaluate(str) {eval(str);}
+    property var editor
+    property var preview: preview
+    property string cPrototype: "MenuItem4 {
+    width: 760
+    height: 104
+    color: '#212c37'
+    radius: 12
+    number: '1'
+    name: 'Fresh orange juice'
+    calories: '112 kcal'
+    price: '4.20'
+    image: 'qrc:///Nuvex/Components/icons/sampleJuice.png'
+}"
+
+    property string number: "1"
+    property string name: "Fresh orange juice"
+    property string calories: "112 kcal"
+    property string price: "4.20"
+    property url image: "qrc:///Nuvex/Components/icons/sampleJuice.png"
+    property color nameColor: "white"
+    property color caloriesColor: "#b7c3ce"
+    property color priceColor: "#f2b04a"
+    property color numberColor: "#1d2630"
+
+    readonly property real unit: Math.max(0, Math.min(width / 760, height / 104))
+
+    width: 760
+    height: 104
+    color: "#212c37"
+    radius: 12
+    Component.onCompleted: editor = Qt.createComponent("MenuItem4Editor.qml")
+
+    Row {
+        id: head
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+        anchors.leftMargin: 18 * root.unit
+        spacing: 18 * root.unit
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: 52 * root.unit
+            height: width
+            radius: width / 2
+            visible: root.number !== ""
+            color: root.priceColor
+
+            MenuText {
+                anchors.fill: parent
+                anchors.margins: 6 * root.unit
+                text: root.number
+                color: root.numberColor
+                size: 28 * root.unit
+                isBold: true
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
+        }
+
+        RoundedPicture {
+            anchors.verticalCenter: parent.verticalCenter
+            width: 76 * root.unit
+            height: width
+            radius: width / 2
+            visible: root.image != ""
+            source: root.image
+        }
+    }
+
+    Column {
+        id: lines
+        anchors { left: head.right; verticalCenter: parent.verticalCenter }
+        anchors.leftMargin: 20 * root.unit
+
+        MenuText {
+            id: title
+            width: Math.max(0, Math.min(implicitWidth, cost.x - lines.x - 60 * root.unit))
+            text: root.name
+            color: root.nameColor
+            size: 32 * root.unit
+            isBold: true
+        }
+
+        MenuText {
+            text: root.calories
+            color: root.caloriesColor
+            size: 19 * root.unit
+        }
+    }
+
+    Leader {
+        anchors { left: lines.right; right: cost.left; bottom: cost.bottom }
+        anchors.margins: 12 * root.unit
+        size: 32 * root.unit
+        color: root.caloriesColor
+    }
+
+    MenuText {
+        id: cost
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors.rightMargin: 26 * root.unit
+        text: root.price
+        color: root.priceColor
+        size: 36 * root.unit
+        isBold: true
+    }
+
+    Component {
+        id: preview
+
+        PicturePreview {
+            source: root.image
+        }
+    }
+}
