@@ -59,8 +59,7 @@ void ProjectCheckTest::problems_data()
     QTest::newRow("library picture")
         << head + "Item { Image { source: 'qrc:///Nuvex/Components/icons/noImage.png' } }" << QStringList();
     QTest::newRow("from the net") << head + "Image { source: 'https://example.org/a.png' }" << QStringList();
-    QTest::newRow("syntax") << head + "Item {\n  width: \n}"
-                            << QStringList("main.qml:5: Expected token `;'");
+    QTest::newRow("syntax") << head + "Item {\n  width: \n}" << QStringList("main.qml:5: Expected token `;'");
     QTest::newRow("component") << head + "Item {\n  BasicImag { }\n}"
                                << QStringList("main.qml:4: BasicImag is not a type");
     QTest::newRow("picture") << head + "Image { source: 'images/gone.png' }"
@@ -100,11 +99,10 @@ void ProjectCheckTest::theDemosAreInOrder()
 {
     QFETCH(QString, folder);
     QProcess program;
-    program.setProcessChannelMode(QProcess::MergedChannels);
     QTemporaryDir profile;
     program.start(NUVEX_PROGRAM, {"--profile", profile.path(), "--check", folder});
     QVERIFY(program.waitForFinished());
-    QCOMPARE(QString::fromUtf8(program.readAll()), QString());
+    QCOMPARE(QString::fromUtf8(program.readAllStandardOutput()), QString());
     QCOMPARE(program.exitCode(), 0);
 }
 
