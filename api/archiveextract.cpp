@@ -45,7 +45,7 @@ bool listEntries(QuaZip& zip, QVector<QuaZipFileInfo64>& entries)
         if (entries.size() > limits::archiveEntries)
             return true;
     }
-    return zip.getZipError() == UNZ_OK;
+    return entries.size() == zip.getEntriesCount();
 }
 
 bool hasUnreadableName(const QVector<QuaZipFileInfo64>& entries)

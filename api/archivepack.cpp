@@ -14,6 +14,8 @@
 
 #include <zlib.h>
 
+#include <algorithm>
+
 namespace {
 
 // Media and archives: a second compression costs time and gains nothing.
@@ -31,24 +33,50 @@ bool isCompressed(const QFileInfo& file)
     return suffixes.contains(file.suffix().toLower());
 }
 
-// Writes one archive; the first failure is kept and ends the work.
+// What goes into the archive, each folder before its files; an older archive may lie in the folder.
+void listFolder(const QString& path, QFileInfoList& result, const QString& leftOut)
+{
+    constexpr auto kinds = QDir::NoDotAndDotDot | QDir::NoSymLinks;
+    const QDir folder(path);
+    for (const QFileInfo& child : folder.entryInfoList(QDir::Dirs | kinds)) {
+        result.append(child);
+        listFolder(child.filePath(), result, leftOut);
+    }
+    for (const QFileInfo& child : folder.entryInfoList(QDir::Files | kinds)) {
+        if (child.filePath() != leftOut)
+            result.append(child);
+    }
+}
+
+bool isAscii(const QFileInfo& file)
+{
+    const QString path = file.filePath();
+    return std::all_of(path.cbegin(), path.cend(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+// Writes one archive; the first failure is kept and ends the work. What old tools cannot read is used only
+// where it is needed: names marked as UTF-8, and sizes and offsets of 64 bits.
 class Packer
 {
 public:
-    Packer(QIODevice* archive, const QString& root, const QString& leftOut)
-        : m_zip(archive)
+    Packer(QIODevice* archive, const QString& root)
+        : m_archive(archive)
+        , m_zip(archive)
         , m_root(root)
-        , m_leftOut(leftOut)
     {
         m_zip.setAutoClose(false);
-        m_zip.setUtf8Enabled(true);
+        m_zip.setFileNameCodec("UTF-8");
     }
 
     QString error() const { return m_error; }
 
-    bool pack()
+    bool pack(const QFileInfoList& files)
     {
-        const bool packed = m_zip.open(QuaZip::mdCreate) && packFolder(m_root.path());
+        m_zip.setUtf8Enabled(!std::all_of(files.cbegin(), files.cend(), isAscii));
+        const auto add = [this](const QFileInfo& file) {
+            return file.isDir() ? addFolder(file) : addFile(file);
+        };
+        const bool packed = m_zip.open(QuaZip::mdCreate) && std::all_of(files.cbegin(), files.cend(), add);
         m_zip.close();
         return packed && (m_zip.getZipError() == ZIP_OK || fail(QStringLiteral("cannot be finished")));
     }
@@ -60,26 +88,18 @@ private:
         return false;
     }
 
-    bool packFolder(const QString& path)
+    bool open(QuaZipFile& entry, const QFileInfo& source, const QString& nameEnd, int method)
     {
-        constexpr auto kinds = QDir::NoDotAndDotDot | QDir::NoSymLinks;
-        const QDir folder(path);
-        for (const QFileInfo& child : folder.entryInfoList(QDir::Dirs | kinds)) {
-            if (!addFolder(child.filePath()) || !packFolder(child.filePath()))
-                return false;
-        }
-        for (const QFileInfo& child : folder.entryInfoList(QDir::Files | kinds)) {
-            if (child.absoluteFilePath() != m_leftOut && !addFile(child))
-                return false;
-        }
-        return true;
+        constexpr qint64 longBytes = 4'000'000'000;
+        m_zip.setZip64Enabled(source.size() >= longBytes || m_archive->pos() >= longBytes);
+        const QuaZipNewInfo info(m_root.relativeFilePath(source.filePath()) + nameEnd, source.filePath());
+        return entry.open(QIODevice::WriteOnly, info, nullptr, 0, method) || fail(source.filePath());
     }
 
-    bool addFolder(const QString& path)
+    bool addFolder(const QFileInfo& folder)
     {
         QuaZipFile entry(&m_zip);
-        const QuaZipNewInfo info(m_root.relativeFilePath(path) + QLatin1Char('/'), path);
-        return entry.open(QIODevice::WriteOnly, info, nullptr, 0, 0) || fail(path);
+        return open(entry, folder, QStringLiteral("/"), 0);
     }
 
     bool addFile(const QFileInfo& file)
@@ -88,18 +108,16 @@ private:
         if (!source.open(QIODevice::ReadOnly))
             return fail(file.filePath() + QStringLiteral(": ") + source.errorString());
         QuaZipFile entry(&m_zip);
-        const QuaZipNewInfo info(m_root.relativeFilePath(file.filePath()), file.filePath());
-        const int method = isCompressed(file) ? 0 : Z_DEFLATED;
-        if (!entry.open(QIODevice::WriteOnly, info, nullptr, 0, method))
-            return fail(file.filePath());
+        if (!open(entry, file, QString(), isCompressed(file) ? 0 : Z_DEFLATED))
+            return false;
         const bool copied = JlCompress::copyData(source, entry);
         entry.close();
         return (copied && entry.getZipError() == ZIP_OK) || fail(file.filePath());
     }
 
+    QIODevice* m_archive;
     QuaZip m_zip;
     QDir m_root;
-    QString m_leftOut;
     QString m_error;
 };
 
@@ -113,8 +131,10 @@ bool packInto(QFile& archive, const QString& zipFile, const QString& folder)
 {
     if (!archive.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return fail(zipFile, archive.errorString());
-    Packer packer(&archive, folder, zipFile);
-    const bool packed = packer.pack() || fail(zipFile, packer.error());
+    QFileInfoList files;
+    listFolder(folder, files, zipFile);
+    Packer packer(&archive, folder);
+    const bool packed = packer.pack(files) || fail(zipFile, packer.error());
     const bool written = archive.flush() && archive.error() == QFileDevice::NoError;
     archive.close();
     return packed && (written || fail(zipFile, archive.errorString()));
@@ -124,12 +144,12 @@ bool packInto(QFile& archive, const QString& zipFile, const QString& folder)
 
 bool packArchive(const QString& zipFile, const QString& folder)
 {
-    const QString target = QFileInfo(zipFile).absoluteFilePath();
+    const QString target = QDir::cleanPath(QFileInfo(zipFile).absoluteFilePath());
     if (!QFileInfo(folder).isDir())
         return fail(target, QStringLiteral("no such folder: ") + folder);
     QDir().mkpath(QFileInfo(target).path());
     QFile archive(temporaryPathBeside(target));
-    if (packInto(archive, target, QFileInfo(folder).absoluteFilePath()) &&
+    if (packInto(archive, target, QDir::cleanPath(QFileInfo(folder).absoluteFilePath())) &&
         replaceFile(archive.fileName(), target))
         return true;
     archive.remove();
