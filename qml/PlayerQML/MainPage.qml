@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Nuvex.Editor 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "SharedVars.js" as SS
 import "private"
@@ -65,7 +66,10 @@ StackPage {
         CAPI.setFullScreen(CAPI.isDevice());
         SS.isPlaying = false;
     }
-    Component.onCompleted: SS.JCAPI = CAPI
+    Component.onCompleted: {
+        SS.JCAPI = CAPI;
+        Ejs.JCAPI = CAPI;
+    }
 
     Rectangle {
         anchors.fill: parent
