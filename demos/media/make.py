@@ -16,6 +16,7 @@ from pathlib import Path
 
 import finish
 import sound
+import steam
 
 HERE = Path(__file__).resolve().parent
 DEMOS = HERE.parent
@@ -27,18 +28,28 @@ STILLS = {
     "shop-vases": ("Shop Promotion/images/vases.jpg", 1920, 1080, {}),
     "shop-lamp": ("Shop Promotion/images/lamp.jpg", 1920, 1080, {"bloom": 0.5}),
     "shop-table": ("Shop Promotion/images/table.jpg", 1920, 1080, {}),
-    "menu-pasta": ("Menu Board/images/pasta.jpg", 512, 512, {"bloom": 0.2}),
-    "menu-tomato": ("Menu Board/images/tomatoes.jpg", 512, 512, {"bloom": 0.2}),
-    "menu-olives": ("Menu Board/images/olives.jpg", 512, 512, {"bloom": 0.2}),
-    "menu-wine": ("Menu Board/images/wine.jpg", 512, 512, {"bloom": 0.2}),
-    "menu-gelato": ("Menu Board/images/gelato.jpg", 512, 512, {"bloom": 0.2}),
+    "menu-pasta": ("Menu Board/images/pasta.jpg", 840, 432, {"bloom": 0.2}),
+    "menu-tomato": ("Menu Board/images/tomatoes.jpg", 840, 432, {"bloom": 0.2}),
+    "menu-olives": ("Menu Board/images/olives.jpg", 840, 432, {"bloom": 0.2}),
+    "menu-wine": ("Menu Board/images/wine.jpg", 840, 432, {"bloom": 0.2}),
+    "menu-gelato": ("Menu Board/images/gelato.jpg", 840, 432, {"bloom": 0.2}),
+    "retail-scent": ("Retail Window/images/scent.jpg", 810, 1440, {"size": (1080, 1920)}),
+    "retail-boxes": ("Retail Window/images/boxes.jpg", 810, 1440, {"size": (1080, 1920)}),
+    "corporate-tower": ("Corporate Lobby/images/towers.jpg", 720, 1080, {"bloom": 0.4}),
     "lobby-arches": ("Lobby Board/images/court.jpg", 1080, 864, {}),
     "lobby-stairs": ("Lobby Board/images/stairs.jpg", 1080, 864, {}),
     "lobby-room": ("Lobby Board/images/corner.jpg", 1080, 864, {"bloom": 0.3}),
 }
-# scene -> (file below demos/, width, height, seconds, rendered frames a second, sound)
+# scene -> (file below demos/, width, height, seconds, rendered frames a second, sound). A film goes through its scene
+# and back again, so that it can loop; those of ROUNDS end where they began.
+ROUNDS = ["retail-spin"]
 CLIPS = {
+    "retail-spin": ("Retail Window/videos/gift.mp4", 540, 540, 4, 24, sound.bells),
     "shop-wheel": ("Shop Promotion/videos/wheel.mp4", 640, 652, 8, 12, sound.workshop),
+}
+# scene -> (file below demos/, width, height, seconds, where the steam starts, its width there, sound)
+STEAMING = {
+    "menu-espresso": ("Menu Board/videos/espresso.mp4", 840, 432, 8, (414, 206), 46, sound.kitchen),
 }
 # Frames a second of a finished clip: what lies between the rendered ones is worked out from their motion.
 FILM_RATE = 24
@@ -61,24 +72,40 @@ def make_clip(name):
     target, width, height, seconds, rate, score = CLIPS[name]
     folder = CACHE / name
     folder.mkdir(parents=True, exist_ok=True)
-    count = seconds * rate
-    for frame in range(count):
+    count = seconds * rate if name in ROUNDS else seconds * rate // 2
+    for frame in range(count + (name not in ROUNDS)):
         picture = folder / f"{frame:04}.png"
         if not picture.exists():
             trace(name, folder / "next.png", width, height, f"+K{frame / count}")
             (folder / "next.png").rename(picture)
+    if name not in ROUNDS:
+        turn_back(folder, count)
     score(seconds, CACHE / f"{name}.wav")
-    # Two more frames than the loop has, so that motion is known across its end.
-    for extra in range(2):
-        shutil.copy(folder / f"{extra:04}.png", folder / f"{count + extra:04}.png")
     encode(folder / "%04d.png", rate, CACHE / f"{name}.wav", DEMOS / target, seconds)
+
+
+def turn_back(folder, count):
+    """Adds the way back, and two frames more than the loop has, so that motion is known across its end."""
+    for step in range(1, count + 2):
+        shutil.copy(folder / f"{abs(count - step):04}.png", folder / f"{count + step:04}.png")
+
+
+def make_steaming(name):
+    target, width, height, seconds, source, spread, score = STEAMING[name]
+    folder = CACHE / name
+    folder.mkdir(parents=True, exist_ok=True)
+    trace(name, CACHE / f"{name}.png", width, height)
+    finish.picture(CACHE / f"{name}.png", folder / "still.jpg", bloom=0.2, quality=97)
+    steam.frames(folder / "still.jpg", folder, seconds * FILM_RATE, source, spread)
+    score(seconds, CACHE / f"{name}.wav")
+    encode(folder / "%04d.png", FILM_RATE, CACHE / f"{name}.wav", DEMOS / target, seconds)
 
 
 def encode(frames, rate, wave, target, seconds):
     target.parent.mkdir(parents=True, exist_ok=True)
-    motion = f"hqdn3d=2:2:3:3,minterpolate=fps={FILM_RATE}:mi_mode=mci:mc_mode=aobmc,noise=c0s=3:c0f=t"
+    motion = f"hqdn3d=2:2:3:3,minterpolate=fps={FILM_RATE}:mi_mode=mci:mc_mode=aobmc," if rate < FILM_RATE else ""
     subprocess.run(["ffmpeg", "-v", "error", "-y", "-framerate", str(rate), "-i", frames, "-i", wave, "-t", str(seconds),
-                    "-vf", motion, "-c:v", "libx264", "-preset", "slow", "-crf", "21", "-pix_fmt", "yuv420p",
+                    "-vf", motion + "noise=c0s=3:c0f=t", "-c:v", "libx264", "-preset", "slow", "-crf", "21", "-pix_fmt", "yuv420p",
                     "-c:a", "aac", "-b:a", "96k", "-movflags", "+faststart", target], check=True)
 
 
@@ -92,14 +119,16 @@ def write_dirmaps():
 def main(names):
     CACHE.mkdir(parents=True, exist_ok=True)
     if names == ["list"]:
-        print("\n".join([*STILLS, *CLIPS]))
+        print("\n".join([*STILLS, *CLIPS, *STEAMING]))
         return
     if names == ["dirmaps"]:
         write_dirmaps()
         return
     for name in names:
         print(name, flush=True)
-        make_still(name) if name in STILLS else make_clip(name)
+        for table, make in ((STILLS, make_still), (CLIPS, make_clip), (STEAMING, make_steaming)):
+            if name in table:
+                make(name)
 
 
 main(sys.argv[1:] or ["list"])

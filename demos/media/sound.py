@@ -56,3 +56,15 @@ def workshop(seconds, path):
     t = np.arange(len(left)) / RATE
     hum = np.sin(2 * np.pi * 55 * t) * (1 + 0.3 * np.sin(2 * np.pi * 2.4 * t)) * 0.035
     save(left + hum, right + hum, path)
+
+
+def kitchen(seconds, path):
+    """A slow tune at the stove."""
+    save(*tune(seconds, [(0.0, 196.0), (0.12, 293.7), (0.25, 349.2), (0.5, 174.6), (0.62, 261.6), (0.75, 329.6)],
+               air=0.04, softness=60), path)
+
+
+def bells(seconds, path):
+    """A musical box."""
+    notes = [(0.0, 784.0), (0.125, 987.8), (0.25, 1174.7), (0.5, 987.8), (0.625, 880.0), (0.75, 1174.7)]
+    save(*tune(seconds, notes, air=0.0), path)

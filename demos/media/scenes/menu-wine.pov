@@ -4,7 +4,7 @@
 // Red wine.
 #include "kitchen.inc"
 
-FoodCamera(<0, 3.3, -13>, <0, 2.3, 0>, 24)
+FoodCamera(<0, 3.3, -13>, <0, 2.3, 0>, 44)
 Table()
 light_source { <1.5, 5, 3> srgb <1, 0.62, 0.36> * 0.9 shadowless fade_distance 5 fade_power 2 }
 light_source { <-3, 4, -12> srgb 0.5 shadowless }

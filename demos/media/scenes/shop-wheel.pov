@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// A pot grows on the wheel: lump, cylinder, vase, bowl and back, in one turn of `clock`.
+// A pot grows on the wheel: lump, cylinder, vase, while `clock` goes from 0 to 1.
 #declare Film = 1;
 #include "studio.inc"
 
@@ -18,19 +18,18 @@ light_source { <0, 4, -16> srgb <1, 0.9, 0.8> * 0.16 shadowless }
 Backdrop(srgb <0.66, 0.60, 0.53>)
 
 // Radius and height of seven rings, from the foot to the rim.
-#declare Shapes = array[4][7][2] {
+#declare Shapes = array[3][7][2] {
   { {1.30, 0}, {1.42, 0.22}, {1.38, 0.5}, {1.22, 0.78}, {0.95, 0.98}, {0.58, 1.10}, {0.22, 1.14} },
   { {1.02, 0}, {1.05, 0.45}, {1.03, 0.95}, {1.00, 1.45}, {0.98, 1.95}, {0.97, 2.35}, {0.98, 2.62} },
-  { {0.80, 0}, {1.30, 0.6}, {1.48, 1.25}, {1.25, 1.95}, {0.72, 2.6}, {0.55, 3.05}, {0.82, 3.42} },
-  { {0.75, 0}, {0.98, 0.28}, {1.35, 0.62}, {1.66, 0.98}, {1.90, 1.35}, {2.06, 1.70}, {2.16, 1.98} }
+  { {0.80, 0}, {1.30, 0.6}, {1.48, 1.25}, {1.25, 1.95}, {0.72, 2.6}, {0.55, 3.05}, {0.82, 3.42} }
 }
-#declare Phase = mod(clock, 1) * 4;
-#declare From = floor(Phase);
+#declare Phase = clock * 2;
+#declare From = min(floor(Phase), 1);
 #declare Step = Phase - From;
 #declare Blend = Step * Step * Step * (Step * (Step * 6 - 15) + 10);
-#declare Next = mod(From + 1, 4);
+#declare Next = From + 1;
 #macro Ring(I) <Shapes[From][I][0] * (1 - Blend) + Shapes[Next][I][0] * Blend, Shapes[From][I][1] * (1 - Blend) + Shapes[Next][I][1] * Blend> #end
-#declare Turn = 360 * 4 * clock;
+#declare Turn = 360 * 2 * clock;
 
 union {
   lathe {
