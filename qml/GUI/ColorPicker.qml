@@ -111,25 +111,11 @@ FocusScope {
             }
         }
 
-        Input {
-            id: hex
+        HexField {
             width: parent.width
             size: picker.size
-            text: String(picker.color)
-            validator: RegExpValidator { regExp: /#([0-9a-fA-F]{3}|[0-9a-fA-F]{6}|[0-9a-fA-F]{8})/ }
-            onEditingFinished: take()
-            onActiveFocusChanged: {
-                if (!activeFocus)
-                    take();
-            }
-            Accessible.name: qsTr("Colour in hexadecimal")
-
-            // What cannot be a colour gives way to the one there is.
-            function take() {
-                if (acceptableInput && text !== String(picker.color))
-                    picker.pick(text);
-                text = Qt.binding(() => String(picker.color));
-            }
+            color: picker.color
+            onPicked: picker.pick(color)
         }
     }
 }

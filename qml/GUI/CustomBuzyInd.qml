@@ -15,15 +15,18 @@ Item {
     property real progress: -1
     // How long an ending message stays, in milliseconds.
     property int messageTime: 2500
+    // The ending message that stands now, and whether it tells of a failure.
+    property string message
+    property bool hasFailed: false
 
-    readonly property bool ending: message.text !== ""
+    readonly property bool ending: message !== ""
 
     // The ending message has gone.
     signal finished()
 
     function start(label) {
         linger.stop();
-        message.text = "";
+        message = "";
         text = label;
         progress = -1;
         running = true;
@@ -32,8 +35,8 @@ Item {
     // Stops; a message that is not empty is shown for a moment, as an error's if `isError`.
     function finish(label, isError) {
         running = false;
-        message.isError = isError === true;
-        message.text = label || "";
+        hasFailed = isError === true;
+        message = label || "";
         if (ending)
             linger.restart();
         else
@@ -44,13 +47,13 @@ Item {
     z: 100
     visible: running || ending
     Accessible.role: Accessible.Indicator
-    Accessible.name: ending ? message.text : text
+    Accessible.name: ending ? message : text
 
     Timer {
         id: linger
         interval: indicator.messageTime
         onTriggered: {
-            message.text = "";
+            indicator.message = "";
             indicator.finished();
         }
     }
@@ -91,27 +94,16 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: indicator.ending
                 size: "h1"
-                faIcon: message.isError ? "fa-exclamation-circle" : "fa-check-circle"
-                color: message.isError ? Theme.danger : Theme.success
-            }
-
-            Label {
-                id: message
-                property bool isError: false
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(implicitWidth, indicator.width - 8 * Theme.unit)
-                visible: indicator.ending
-                size: "large"
-                textFormat: Text.PlainText
-                horizontalAlignment: Text.AlignHCenter
+                faIcon: indicator.hasFailed ? "fa-exclamation-circle" : "fa-check-circle"
+                color: indicator.hasFailed ? Theme.danger : Theme.success
             }
 
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, indicator.width - 8 * Theme.unit)
-                visible: !indicator.ending && text !== ""
+                visible: text !== ""
                 size: "large"
-                text: indicator.text
+                text: indicator.ending ? indicator.message : indicator.text
                 textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
             }

@@ -89,6 +89,12 @@ TextArea {
         id: highlighter
     }
 
+    BracketMarks {
+        parent: area.edit
+        edit: area.edit
+        highlighter: highlighter
+    }
+
     LineNumbers {
         anchors.fill: parent
         edit: area.edit

@@ -3,7 +3,7 @@
 #include "quick/icontable.h"
 #include "quick/themetable.h"
 
-#include <QFile>
+#include <QPainterPath>
 #include <QQmlPropertyMap>
 #include <QRawFont>
 #include <QtTest>
@@ -12,6 +12,9 @@
 class TestTables : public QObject
 {
     Q_OBJECT
+
+    QQmlPropertyMap* m_icons = nullptr;
+    QQmlPropertyMap* m_theme = nullptr;
 
 private slots:
     void initTestCase();
@@ -24,10 +27,6 @@ private slots:
     void themeHoldsOnlyColoursAndIntegers();
     void darkenedKeepsHue_data();
     void darkenedKeepsHue();
-
-private:
-    QQmlPropertyMap* m_icons = nullptr;
-    QQmlPropertyMap* m_theme = nullptr;
 };
 
 void TestTables::initTestCase()
@@ -96,12 +95,17 @@ void TestTables::everyIconHasAGlyph()
 {
     QRawFont font(QStringLiteral(NUVEX_ICON_FONT), 16);
     QVERIFY(font.isValid());
+    QStringList blank;
     const QStringList names = m_icons->keys();
     for (const QString& name : names) {
         const QChar glyph = m_icons->value(name).toChar();
         QVERIFY2(glyph.unicode() >= 0xF000 && glyph.unicode() <= 0xF196, qPrintable(name));
         QVERIFY2(font.supportsCharacter(glyph), qPrintable(name));
+        if (font.pathForGlyph(font.glyphIndexesForString(glyph).constFirst()).isEmpty())
+            blank += name;
     }
+    // The font's later releases keep these two, as empty glyphs.
+    QCOMPARE(blank, QStringList({QStringLiteral("fa-expand-o"), QStringLiteral("fa-collapse-o")}));
 }
 
 void TestTables::iconsComeInOrder()

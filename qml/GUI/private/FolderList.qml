@@ -4,7 +4,6 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Qt.labs.folderlistmodel 2.15
 import ".."
-import "format.js" as Format
 
 // The folders and files of one folder. Letters typed jump to the name that begins with them.
 ListView {
@@ -93,18 +92,9 @@ ListView {
         onFolderChanged: list.currentIndex = 0
     }
 
-    delegate: ListRow {
-        id: row
-        width: list.width
+    delegate: FileRow {
         size: list.size
-        text: fileName
-        elide: Text.ElideMiddle
-        faIcon: fileIsDir ? "fa-folder" : "fa-file-o"
-        iconColor: fileIsDir ? Theme.accent : Theme.mutedInk
         highlighted: ListView.isCurrentItem
-        focusPolicy: Qt.NoFocus
-        // The list gives its current row the focus; the keys are the list's.
-        Keys.enabled: false
         onClicked: {
             list.forceActiveFocus();
             list.currentIndex = index;
@@ -112,21 +102,5 @@ ListView {
                 list.open(index);
         }
         onDoubleClicked: list.open(index)
-
-        Label {
-            visible: !fileIsDir && list.width > 45 * Theme.unit
-            width: 10 * Theme.unit
-            text: Format.bytes(fileSize)
-            muted: true
-            horizontalAlignment: Text.AlignRight
-        }
-
-        Label {
-            visible: list.width > 70 * Theme.unit
-            width: 18 * Theme.unit
-            text: Qt.formatDateTime(fileModified, Qt.DefaultLocaleShortDate)
-            muted: true
-            horizontalAlignment: Text.AlignRight
-        }
     }
 }

@@ -120,6 +120,36 @@ Item {
             verify(green > 20, green);
         }
 
+        // Positions that have a frame, in "Item { a: [1] }".
+        function framed(area) {
+            const found = [];
+            for (let i = 0; i < area.edit.children.length; ++i) {
+                const mark = area.edit.children[i];
+                if (mark.place !== undefined)
+                    found.push(area.edit.positionAt(mark.x + mark.width / 2 - 2, mark.y + 2));
+            }
+            return found.sort((a, b) => a - b);
+        }
+
+        function test_bracketsBelongTogether_data() {
+            return [
+                { tag: "before the brace", at: 5, marks: [5, 14] }, { tag: "behind the brace", at: 6, marks: [5, 14] },
+                { tag: "at the end", at: 15, marks: [5, 14] }, { tag: "square", at: 13, marks: [10, 12] },
+                { tag: "no bracket", at: 2, marks: [] }
+            ];
+        }
+
+        function test_bracketsBelongTogether(row) {
+            const area = make("QMLTextArea { width: 400; height: 200; text: 'Item { a: [1] }' }");
+            area.forceActiveFocus();
+            wait(0);
+            area.cursorPosition = 1;
+            area.cursorPosition = row.at;
+            compare(framed(area), row.marks);
+            area.edit.focus = false;
+            compare(framed(area), []);
+        }
+
         function test_errorLineIsMarkedAndShown() {
             const area = make("QMLTextArea { width: 400; height: 120; errorLine: 40; text: Array(60).join('x\\n') }");
             area.goToLine(40);

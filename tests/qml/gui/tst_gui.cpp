@@ -14,7 +14,8 @@
 #include <QTemporaryDir>
 #include <QtQuickTest>
 
-/// Gives the widgets' tests what the program gives the widgets, a log of warnings and a folder of files to browse.
+/// Gives the widgets' tests what the program gives the widgets, a log of warnings and a folder of files to
+/// browse.
 class Setup : public QObject
 {
     Q_OBJECT
@@ -30,7 +31,8 @@ private:
 void Setup::applicationAvailable()
 {
     QFontDatabase::addApplicationFont(QStringLiteral(":/Nuvex/font/fontawesome-webfont.ttf"));
-    QFontDatabase::addApplicationFont(QStringLiteral(":/Nuvex/Components/fonts/opensans-regular-webfont.ttf"));
+    QFontDatabase::addApplicationFont(
+        QStringLiteral(":/Nuvex/Components/fonts/opensans-regular-webfont.ttf"));
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
 }
 
@@ -63,7 +65,8 @@ void Setup::qmlEngineAvailable(QQmlEngine* engine)
                                 textOf(QStringLiteral(":/Nuvex/GUI/RoundedImage.frag")));
     context->setContextProperty(QStringLiteral("imageScopeFragShader"),
                                 textOf(QStringLiteral(":/Nuvex/GUI/ImageScope.frag")));
-    context->setContextProperty(QStringLiteral("testFolder"), QUrl::fromLocalFile(makeFiles(m_folder.path())));
+    context->setContextProperty(QStringLiteral("testFolder"),
+                                QUrl::fromLocalFile(makeFiles(m_folder.path())));
     context->setContextProperty(QStringLiteral("warningLog"), new WarningLog(engine));
 }
 
