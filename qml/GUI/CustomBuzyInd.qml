@@ -72,7 +72,7 @@ Item {
 
     Rectangle {
         anchors.centerIn: parent
-        width: Math.min(parent.width - 4 * Theme.unit, Math.max(26 * Theme.unit, content.implicitWidth + 6 * Theme.unit))
+        width: Math.max(0, Math.min(parent.width - 4 * Theme.unit, 36 * Theme.unit))
         height: content.height + 5 * Theme.unit
         radius: Theme.radius("xlarge")
         color: Theme.surface
@@ -80,7 +80,7 @@ Item {
         Column {
             id: content
             anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width - 4 * Theme.unit)
+            width: Math.max(0, parent.width - 4 * Theme.unit)
             spacing: 1.5 * Theme.unit
 
             Spinner {
@@ -99,8 +99,7 @@ Item {
             }
 
             Label {
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(implicitWidth, indicator.width - 8 * Theme.unit)
+                width: parent.width
                 visible: text !== ""
                 size: "large"
                 text: indicator.ending ? indicator.message : indicator.text
@@ -110,7 +109,7 @@ Item {
 
             ProgressBar {
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: 20 * Theme.unit
+                width: Math.min(parent.width, 20 * Theme.unit)
                 visible: indicator.running && indicator.progress >= 0
                 value: indicator.progress
             }

@@ -24,6 +24,21 @@ Item {
             verify(!item.busy.visible);
         }
 
+        function test_busyIndicatorFits_data() {
+            return [{ tag: "no room yet", width: 0 }, { tag: "narrow", width: 160 }, { tag: "wide", width: 1200 }];
+        }
+
+        function test_busyIndicatorFits(row) {
+            const item = make("Item { width: " + row.width + "; height: 300; CustomBuzyInd { running: true; progress: "
+                              + "0.5; text: 'Importing an archive with quite a long name.zip' } }");
+            settle(stage);
+            const label = findBy(item, "horizontalAlignment", Text.AlignHCenter);
+            verify(row.width === 0 || label.width <= row.width - 64, label.width);
+            item.width = 400;
+            settle(stage);
+            verify(label.width >= label.contentWidth);
+        }
+
         function test_busyIndicatorEndsWithAMessage() {
             const busy = make("CustomBuzyInd { messageTime: 50; text: 'Please wait...'; running: true }");
             const finished = makeSpy(busy, "finished");
