@@ -86,7 +86,7 @@ Rectangle {
     EditorHint {
         target: root
         label: qsTr("Slideshow")
-        visible: isEdited && root.slides.length === 0
+        isEmpty: root.slides.length === 0
     }
 
     Component {

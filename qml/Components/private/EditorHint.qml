@@ -11,12 +11,14 @@ Item {
     property Item target: parent
     property string label
     property color tint: "#8096a8"
+    /// Whether the container has nothing else in it.
+    property bool isEmpty: target.children.length === 1
     // Only numbered objects are open in the editor; numbers are given once, before completion.
     property bool isEdited: false
 
     anchors.fill: parent
     z: -1
-    visible: isEdited && target.children.length === 1
+    visible: isEdited && isEmpty
     Component.onCompleted: isEdited = Presence.isEdited(target)
 
     Loader {

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+
+/// The title of a CartaMenu, which stays in place while pages turn below it.
+Rectangle {
+    id: root
+
+    /// The CartaMenu.
+    property Item menu
+
+    z: 2
+    width: Math.max(0, menu.width - menu.leftMargin - menu.rightMargin)
+    height: menu.title === "" ? 24 : label.height + 40
+    color: menu.backColor
+
+    Text {
+        id: label
+        y: 22
+        width: parent.width
+        text: root.menu.title
+        color: root.menu.titleColor
+        font: root.menu.titleFont
+        elide: Text.ElideRight
+    }
+}
