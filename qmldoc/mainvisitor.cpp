@@ -19,13 +19,16 @@ bool isNumbered(const UiObjectDefinition* object)
 
 bool MainVisitor::visit(UiObjectDefinition* object)
 {
-    return isNumbered(object);
+    m_skipping = !isNumbered(object);
+    return !m_skipping;
 }
 
+// Nothing is visited between the two visits of an object that is skipped.
 void MainVisitor::endVisit(UiObjectDefinition* object)
 {
-    if (isNumbered(object))
+    if (!m_skipping)
         m_objects.push_back(object);
+    m_skipping = false;
 }
 
 // Scripts hold no objects: walking them would cost time, and their depth would count.

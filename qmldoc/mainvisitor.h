@@ -30,5 +30,6 @@ public:
 
 private:
     std::vector<QQmlJS::AST::UiObjectDefinition*> m_objects;
+    bool m_skipping = false; // between the visits of an object that is not numbered
     bool m_tooDeep = false;
 };

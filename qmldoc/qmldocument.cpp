@@ -93,13 +93,20 @@ QVariantList QmlDocument::itemMap()
 
 QVariantMap QmlDocument::record(int i)
 {
+    static const QVariantMap empty{{QStringLiteral("pfirst"), 0},
+                                   {QStringLiteral("pfirstL"), 0},
+                                   {QStringLiteral("plast"), 0},
+                                   {QStringLiteral("properties"), QVariantMap()},
+                                   {QStringLiteral("typename"), QString()}};
     const AST::UiObjectDefinition* object = m_objects.at(i);
-    const QByteArray type = object->qualifiedTypeNameId->name.toLatin1();
-    return {{QStringLiteral("pfirst"), int(object->firstSourceLocation().begin())},
-            {QStringLiteral("pfirstL"), int(object->initializer->lbraceToken.end())},
-            {QStringLiteral("plast"), int(object->initializer->rbraceToken.end())},
-            {QStringLiteral("typename"), QString::fromLatin1(type.constData())},
-            {QStringLiteral("properties"), propertiesOfObject(i)}};
+    QVariantMap record = empty;
+    auto entry = record.begin();
+    *entry++ = int(object->firstSourceLocation().begin());
+    *entry++ = int(object->initializer->lbraceToken.end());
+    *entry++ = int(object->initializer->rbraceToken.end());
+    *entry++ = propertiesOfObject(i);
+    *entry = QString::fromLatin1(object->qualifiedTypeNameId->name.toLatin1().constData());
+    return record;
 }
 
 QVariantMap QmlDocument::propertiesOfObject(int i)

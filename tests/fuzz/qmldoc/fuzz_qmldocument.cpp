@@ -68,12 +68,12 @@ QString damaged(QString text, const QByteArray& damages)
     return text;
 }
 
-QString sourceOf(const QByteArray& input)
+QString sourceOf(const char* data, int size)
 {
-    if (!input.startsWith('\xff') || input.size() < 3)
-        return QString::fromUtf8(input.constData(), input.size());
-    const unsigned seed = uchar(input[1]) << 8 | uchar(input[2]);
-    return damaged(generateDocument(seed, Flavour::Parses).text, input.mid(3));
+    if (size < 3 || data[0] != '\xff')
+        return QString::fromUtf8(data, size);
+    const unsigned seed = uchar(data[1]) << 8 | uchar(data[2]);
+    return damaged(generateDocument(seed, Flavour::Parses).text, QByteArray(data + 3, size - 3));
 }
 
 // The generated text, with the insertions taken out again.
@@ -88,8 +88,9 @@ QString withoutInsertions(QString text, const QVariantList& map)
 
 extern "C" int LLVMFuzzerTestOneInput(const uchar* data, size_t size)
 {
-    QLoggingCategory::setFilterRules("nuvex.qmldoc=false");
-    const QString source = sourceOf(QByteArray(reinterpret_cast<const char*>(data), int(size)));
+    static const bool silent = (QLoggingCategory::setFilterRules("nuvex.qmldoc=false"), true);
+    Q_UNUSED(silent)
+    const QString source = sourceOf(reinterpret_cast<const char*>(data), int(size));
     EditingSession session([](const QString&, const QString&) { return true; });
     session.generateEditor("Item { x: 1; Text { text: \"good\" } }");
     session.begin(source);
