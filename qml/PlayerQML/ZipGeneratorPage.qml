@@ -81,6 +81,7 @@ FormPage {
 
         BGUI.Input {
             id: path
+            objectName: "path"
             width: parent.width
             faIcon: "fa-archive"
         }

@@ -18,10 +18,18 @@ FocusScope {
     readonly property real gap: 3 * BGUI.Theme.unit
     readonly property real tileSize: Math.min(40 * BGUI.Theme.unit, (width - 4 * gap) / 3, height - 2 * gap)
 
-    Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-    Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+    function step(by) {
+        const reachable = Array.from(grid.children).filter(tile => tile.visible);
+        const next = reachable[reachable.findIndex(tile => tile.activeFocus) + by];
+        if (next)
+            next.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    Keys.onLeftPressed: step(-1)
+    Keys.onRightPressed: step(1)
 
     Grid {
+        id: grid
         anchors.centerIn: parent
         columns: 3
         spacing: tiles.gap

@@ -19,6 +19,7 @@ FocusScope {
 
     function removeRow(index) {
         rows.remove(index);
+        list.forceActiveFocus(Qt.TabFocusReason);
     }
 
     Rectangle {
@@ -45,10 +46,13 @@ FocusScope {
             id: row
 
             readonly property bool isOpen: name === CAPI.getSSetting("lastProject")
+            // Only the current row and its button are stops for the Tab key.
+            readonly property bool isCurrent: ListView.isCurrentItem
 
             width: list.width
             height: 6 * BGUI.Theme.unit
             focus: true
+            focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             highlighted: isOpen
             faIcon: isOpen ? "fa-folder-open" : "fa-folder"
             text: name
@@ -56,6 +60,7 @@ FocusScope {
             Keys.onDeletePressed: projectList.removeRequested(index, name)
 
             BGUI.ActionButton {
+                focusPolicy: row.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 faIcon: "fa-times"
                 toolTip: qsTr("Delete %1").arg(row.text)
                 onClicked: projectList.removeRequested(index, row.text)

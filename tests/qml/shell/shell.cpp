@@ -24,6 +24,12 @@ QDir workDirectory()
                 "/PlayerQML/Work");
 }
 
+QString resourceText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 void publish(QQmlContext* context, CAPI* api, const QSize& size)
 {
     context->setContextProperty("CAPI", api);
@@ -31,6 +37,8 @@ void publish(QQmlContext* context, CAPI* api, const QSize& size)
     context->setContextProperty("dp", 1.0);
     context->setContextProperty("faIcons", iconTable());
     context->setContextProperty("bs", themeTable());
+    context->setContextProperty("roundedImageFragShader", resourceText(":/Nuvex/GUI/RoundedImage.frag"));
+    context->setContextProperty("imageScopeFragShader", resourceText(":/Nuvex/GUI/ImageScope.frag"));
     context->setContextProperty("asw", size.width());
     context->setContextProperty("ash", size.height());
 }

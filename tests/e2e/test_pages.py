@@ -1,0 +1,333 @@
+# SPDX-FileCopyrightText: 2026 The Nuvex developers
+# SPDX-License-Identifier: MIT
+"""Every button of every page, by mouse and by keyboard, in the real program."""
+
+import sys
+import unittest
+import zipfile
+
+from driver import Profile, Program, Screen, read_setup, wait_for
+
+ACCOUNT = {"userEmail": "ann@example.org", "playerUID": "west_12", "doOnStart": "", "lastProject": "Shop"}
+
+# How to get from the main page to a page.
+WAYS = {
+    "MainPage": [],
+    "menu": ["fa-cog"],
+    "ProjectsPage": ["Open"],
+    "SettingsPage": ["fa-cog", "Settings"],
+    "AboutPage": ["fa-cog", "About"],
+    "HelpPage": ["fa-cog", "About", "Help"],
+    "RADEditorPage": ["Edit"],
+    "ConnectedPlayers": ["Dashboard"],
+    "AdvancedEditPage": ["fa-cog", "Advanced Editor"],
+}
+
+# Page, its buttons, and the page that each leads to.
+LEADS = [
+    ("MainPage", {"Open": "ProjectsPage", "Edit": "RADEditorPage", "Dashboard": "ConnectedPlayers"}),
+    ("menu", {"Settings": "SettingsPage", "Advanced Editor": "AdvancedEditPage", "About": "AboutPage"}),
+    ("ProjectsPage", {"Back": "MainPage", "Shop": "MainPage"}),
+    ("SettingsPage", {"Back": "MainPage"}),
+    ("AboutPage", {"Back": "MainPage", "Help": "HelpPage"}),
+    ("HelpPage", {"Back": "AboutPage", "Go back": "AboutPage"}),
+    ("RADEditorPage", {"Back": "MainPage", "Go back": "MainPage"}),
+    ("ConnectedPlayers", {"Back": "MainPage", "Go back": "MainPage"}),
+    ("AdvancedEditPage", {"Back": "MainPage", "Go back": "MainPage"}),
+]
+
+# Buttons whose effect is another one; each is pressed in a test of its own below.
+OTHERS = {
+    "MainPage": {"Menu"},
+    "menu": {"fa-cog", "Open", "Edit", "Dashboard"},  # those of the page beneath
+    "ProjectsPage": {"Delete Shop"},
+    "SettingsPage": {"Logout", "runAtStartup", "None", "Cloud", "Play", "Edit", "Dash", "Main", "save"},
+    "AboutPage": {"Web Site"},
+}
+
+
+class PagesTest(unittest.TestCase):
+    def setUp(self):
+        self.profile = Profile()
+        self.addCleanup(self.profile.remove)
+        self.profile.write_settings(**ACCOUNT)
+        self.profile.add_project("Shop")
+
+    def start(self, *arguments):
+        program = Program(SETUP, SCREEN, self.profile, *arguments)
+        self.addCleanup(program.close)
+        return program
+
+    def go_to(self, program, page):
+        while program.page() != "MainPage":
+            before = program.page()
+            program.key("Escape")
+            wait_for(lambda: program.page() != before, f"the way out of {before}")
+        if program.find("Advanced Editor"):
+            program.key("Escape")
+            wait_for(lambda: not program.find("Advanced Editor"), "the menu to close")
+        for step in WAYS[page]:
+            program.click(step)
+        if page == "menu":
+            program.wait_text("Advanced Editor")
+        else:
+            program.wait_page(page)
+
+    def assert_clean(self, program):
+        """Nothing in the log but what the shell says about its pages."""
+        told = [line for line in program.log().splitlines()
+                if not line.startswith("nuvex.") and not line.startswith("ALSA")]
+        self.assertEqual(told, [])
+
+    def test_buttons_lead_to_pages(self):
+        program = self.start()
+        for page, leads in LEADS:
+            self.go_to(program, page)
+            self.assertEqual(set(program.buttons()), set(leads) | OTHERS.get(page, set()), page)
+            program.screen.do("mousemove", 1, 719)
+            for by_keyboard in (False, True):
+                for button, target in leads.items():
+                    with self.subTest(page=page, button=button, by_keyboard=by_keyboard):
+                        self.go_to(program, page)
+                        program.press(button, by_keyboard)
+                        program.wait_page(target)
+                        if page == "menu":
+                            program.key("Escape")
+                            program.wait_page("MainPage")
+                            self.assertIsNone(program.find("Advanced Editor"))
+        self.assert_clean(program)
+
+    def test_menu_opens_and_closes(self):
+        program = self.start()
+        for open_menu in (lambda: program.click("fa-cog"), lambda: program.press("fa-cog", by_keyboard=True)):
+            open_menu()
+            program.wait_text("Advanced Editor")
+            program.key("Escape")
+            wait_for(lambda: not program.find("Advanced Editor"), "the menu to close")
+            self.assertEqual(program.page(), "MainPage")
+        program.click("fa-cog")
+        program.wait_text("Advanced Editor")
+        program.screen.do("mousemove", 100, 600, "click", 1)  # beside it
+        wait_for(lambda: not program.find("Advanced Editor"), "the menu to close")
+
+    def test_arrow_keys_walk_the_tiles(self):
+        program = self.start()
+        program.tab_to("Open")
+        program.key("Right", "Right")
+        wait_for(lambda: program.find("Dashboard")["focus"], "the focus on Dashboard")
+        program.key("Left", "Return")
+        program.wait_page("RADEditorPage")
+        self.assertTrue((self.profile.work / "Shop/editor05.qml").exists())
+
+    def test_first_start_leads_on(self):
+        self.profile.write_settings()
+        program = self.start()
+        program.wait_page("LoginPage")
+        self.assertEqual(set(program.buttons()), {"Back", "Continue without an account"})
+        program.wait_text("No cloud is set up")
+        program.press("Continue without an account", by_keyboard=True)
+        program.wait_page("MainPage")
+        program.wait_text("No Open Project")
+        program.click("Edit")  # without a project it does nothing
+        program.click("Open")
+        program.wait_page("ProjectsPage")
+        self.assert_clean(program)
+
+    def test_escape_quits_from_the_main_page(self):
+        program = self.start()
+        program.key("Escape")
+        self.assertEqual(program.process.wait(10), 0)
+
+    def test_keys_of_the_main_page(self):
+        program = self.start()
+        program.key("F1")
+        program.wait_page("HelpPage")
+        program.wait_text("Wellcome to Nuvex")
+        program.key("Escape")
+        program.wait_page("MainPage")
+        program.key("ctrl+e")
+        program.wait_page("ZipGeneratorPage")
+
+    def test_web_site(self):
+        program = self.start()
+        for by_keyboard in (False, True):
+            self.go_to(program, "AboutPage")
+            program.opened_links.unlink(missing_ok=True)
+            program.press("Web Site", by_keyboard)
+            wait_for(program.opened_links.exists, "the web site")
+        program.wait_text("App version: 118")
+
+    def test_projects_page(self):
+        for name in ("Bakery", "Café Zoë", "Museum"):
+            self.profile.add_project(name)
+        program = self.start()
+        self.go_to(program, "ProjectsPage")
+        self.assertEqual([t for t in program.buttons() if t in ("Bakery", "Café Zoë", "Museum", "Shop")],
+                         ["Bakery", "Café Zoë", "Museum", "Shop"])
+        for tab, text in (("Store", "The store's ready-made projects need a cloud."), ("Cloud", "No cloud is set up")):
+            program.click(tab)
+            program.wait_text(text)
+        program.key("Left", "Left")  # the tabs by keyboard
+        program.wait_text("Bakery")
+
+        program.tab_to("Bakery")
+        program.key("Down", "Return")
+        program.wait_page("MainPage")
+        wait_for(lambda: self.profile.setting("lastProject") == r"Caf\xe9 Zo\xeb", "the chosen project")
+        program.wait_text("Working on: <b>Café Zoë</b>")
+
+        self.go_to(program, "ProjectsPage")
+        program.click("Delete Museum")
+        wait_for(lambda: not (self.profile.work / "Museum").exists(), "the project's end")
+        program.tab_to("Bakery")
+        program.key("Down")  # each row's button is reached from its row
+        program.press("Delete Café Zoë", by_keyboard=True)
+        wait_for(lambda: not (self.profile.work / "Café Zoë").exists(), "the project's end")
+        self.assertEqual(self.profile.setting("lastProject"), "")
+        program.key("Up", "Up")  # the list keeps the keyboard
+        wait_for(lambda: program.find("Bakery")["focus"], "the focus on Bakery")
+        program.key("Delete")
+        wait_for(lambda: not (self.profile.work / "Bakery").exists(), "the project's end")
+        self.assertEqual(sorted(p.name for p in self.profile.work.iterdir()), ["Shop"])
+        self.assert_clean(program)
+
+    def test_import(self):
+        archive = self.profile.work / "Shop/Museum.zip"
+        with zipfile.ZipFile(archive, "w") as zipped:
+            zipped.mkdir("Museum")
+            zipped.writestr("Museum/main.qml", "import QtQuick 2.15\nItem {}\n")
+        program = self.start()
+        self.go_to(program, "ProjectsPage")
+        program.key("ctrl+i")
+        program.wait_page("ImportPage")
+        program.wait_text("Museum.zip")
+        program.key("Down", "Return")
+        program.wait_page("ProjectsPage")
+        program.wait_text("Museum")
+        wait_for((self.profile.work / "Museum/main.qml").exists, "the imported project")
+        program.key("ctrl+i")
+        program.wait_page("ImportPage")
+        program.key("Escape")
+        program.wait_page("ProjectsPage")
+
+    def test_export(self):
+        program = self.start()
+        for by_keyboard in (False, True):
+            target = self.profile.folder / f"out{by_keyboard}.zip"
+            program.key("ctrl+e")
+            program.wait_page("ZipGeneratorPage")
+            program.tab_to("path")
+            program.key("ctrl+a")
+            program.type(str(target))
+            program.press("Export", by_keyboard)
+            program.wait_text(f"Saved as {target}")
+            self.assertEqual(zipfile.ZipFile(target).namelist(), ["main.qml"])
+            program.key("Escape")
+            program.wait_page("MainPage")
+
+    def test_export_into_nothing(self):
+        program = self.start()
+        program.key("ctrl+e")
+        program.wait_page("ZipGeneratorPage")
+        program.tab_to("path")
+        program.key("ctrl+a")
+        program.type("/proc/nowhere/out.zip")
+        program.click("Export")
+        program.wait_text("/proc/nowhere/out.zip could not be written")
+
+    def test_settings_choices(self):
+        program = self.start()
+        self.go_to(program, "SettingsPage")
+        program.click("None")
+        wait_for(lambda: self.profile.setting("shareFolder") == "false", "sharing off")
+        program.tab_to("None")
+        program.key("Right")
+        wait_for(lambda: self.profile.setting("shareFolder") == "true", "sharing on")
+        program.click("runAtStartup")
+        wait_for(lambda: program.find("runAtStartup")["focus"], "the press")
+        self.assertFalse(program.find("runAtStartup")["checked"])
+        program.key("space")
+        self.assertFalse(program.find("runAtStartup")["checked"])
+        program.click("Dash")
+        wait_for(lambda: program.find("Dash")["checked"], "the choice")
+        program.key("Escape")
+        program.wait_page("MainPage")
+        self.assertEqual(self.profile.setting("doOnStart"), "")  # only stored by the save button
+        self.assert_clean(program)
+
+    def test_sharing_needs_an_account(self):
+        self.profile.write_settings(**{**ACCOUNT, "userEmail": "", "shareFolder": "false"})
+        program = self.start()
+        program.wait_page("LoginPage")
+        self.go_to(program, "SettingsPage")
+        program.click("Cloud")
+        program.wait_text("The cloud needs an account. Log in first.")
+        self.assertFalse(program.find("Cloud")["checked"])
+        wait_for(lambda: self.profile.setting("shareFolder") == "true", "the setting, stored all the same")
+
+    def test_save_renames_and_restarts(self):
+        program = self.start()
+        for start_screen, value, name, host, by_keyboard in (("Main", "", "Pâtisserie", "east", False),
+                                                             ("Edit", "edit", "Deli", "north-2", True)):
+            self.go_to(program, "SettingsPage")
+            pid = program.tree()["pid"]
+            program.click(start_screen)
+            for field, text in (("projectName", name), ("hostName", host)):
+                program.tab_to(field)
+                program.key("ctrl+a")
+                program.type(text)
+                wait_for(lambda: program.find(field)["text"] == text, f"{text} in {field}")
+            program.press("save", by_keyboard)
+            program.wait_restarted(pid)
+            self.assertEqual(self.profile.setting("doOnStart"), value)
+            self.assertEqual(self.profile.setting("playerUID"), host + "_12")
+            self.assertTrue((self.profile.work / name / "main.qml").exists())
+        program.wait_page("RADEditorPage")
+        self.assertEqual([p.name for p in self.profile.work.iterdir()], ["Deli"])
+
+    def test_save_refuses_a_bad_project_name(self):
+        program = self.start()
+        self.go_to(program, "SettingsPage")
+        for name in ("../Shop", "..", ""):
+            program.tab_to("projectName")
+            program.key("ctrl+a", "Delete")
+            program.type(name)
+            program.tab_to("hostName")
+            program.key("ctrl+a", "Delete")  # without a host name it does not restart
+            program.click("save")
+            program.wait_page("MainPage")
+            self.assertEqual(self.profile.setting("lastProject"), "Shop")
+            self.assertTrue((self.profile.work / "Shop/main.qml").exists())
+            self.go_to(program, "SettingsPage")
+
+    def test_logout_restarts_at_the_login_page(self):
+        program = self.start()
+        for by_keyboard in (False, True):
+            self.go_to(program, "SettingsPage")
+            pid = program.tree()["pid"]
+            program.press("Logout", by_keyboard)
+            program.wait_restarted(pid)
+            program.wait_page("LoginPage")
+            self.assertEqual(self.profile.setting("userEmail"), "")
+
+    def test_wall_shows_nothing_of_the_machinery(self):
+        self.profile.write_settings(**{**ACCOUNT, "doOnStart": "play"})
+        program = self.start()
+        program.wait_page("PlayerPage")
+        program.screen.do("mousemove", 640, 300)
+        wait_for(lambda: program.tree()["cursorHidden"], "the cursor to hide")
+        self.assertEqual(program.buttons(), [])
+        self.assertEqual(program.texts(), [])
+        program.key("Escape")
+        program.wait_page("MainPage")
+        wait_for(lambda: not program.tree()["cursorHidden"], "the cursor to come back")
+        self.assert_clean(program)
+
+
+if __name__ == "__main__":
+    SETUP, rest = read_setup()
+    SCREEN = Screen()
+    try:
+        unittest.main(argv=[sys.argv[0], *rest])
+    finally:
+        SCREEN.close()
