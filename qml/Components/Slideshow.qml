@@ -3,7 +3,6 @@
 import QtQuick 2.15
 import "private"
 import "private/presence.js" as Presence
-import "private/transitions.js" as Transitions
 
 /// Shows its Slide children one after the other, in their order, again and again. The next slide is loaded, and the
 /// first frames of its videos are decoded, before it comes in. Only the slide that is shown and, shortly before its
@@ -37,8 +36,8 @@ Rectangle {
     readonly property Item currentSlide: turner.current
     /// Whether a transition is under way.
     readonly property bool turning: turner.turning
-    /// Chooses the slide that follows slide `index`; -1 for none, which stops the show there.
-    property var slideAfter: function(index) { return (index + 1) % slides.length; }
+    /// Positions of the slides that take turns; null for all, in their order; empty for none.
+    property var turnOrder: null
 
     /// Slide `index` has come in completely.
     signal slideShown(int index)
@@ -49,11 +48,11 @@ Rectangle {
     }
 
     function next() {
-        turner.turnTo(root.slideAfter(root.currentIndex));
+        turner.turnTo(turner.neighbour(1));
     }
 
     function previous() {
-        turner.turnTo((root.currentIndex - 1 + root.slides.length) % root.slides.length);
+        turner.turnTo(turner.neighbour(-1));
     }
 
     function collectSlides() {

@@ -18,6 +18,9 @@ Item {
     // Set when the document is complete: before, slides come one by one.
     property bool hasBegun: false
     readonly property var slides: show.slides
+    // Positions of the slides that take turns.
+    readonly property var order: isStill || show.turnOrder === null ? slides.map(function(slide, i) { return i; })
+                                                         : show.turnOrder.filter(function(i) { return slides[i] !== undefined; })
     property Item current: null
     /// The next slide while it loads and while it comes in.
     property Item incoming: null
@@ -36,13 +39,22 @@ Item {
     /// Shows the first slide, if none is shown.
     function begin() {
         root.hasBegun = true;
-        if (root.current || root.slides.length === 0)
+        if (root.current)
             return;
         root.slides.forEach(function(slide) { Stage.leaveStage(slide, root.isStill); });
-        root.current = root.slides[0];
+        if (root.order.length === 0)
+            return;
+        root.current = root.slides[root.order[0]];
         Stage.takeStage(root.current);
         root.dueAt = Date.now() + timeOf(root.current) + root.show.offsetTime;
         plan();
+    }
+
+    /// Position of the slide that follows (1) or precedes (-1) the one that is shown; undefined without any.
+    function neighbour(step) {
+        var count = root.order.length;
+        var place = root.order.indexOf(root.currentIndex);
+        return root.order[place < 0 ? 0 : (place + step + count) % count];
     }
 
     /// Turns to slide `index` once it is loaded; where nobody sees it, at once.
@@ -85,7 +97,7 @@ Item {
         if (root.incoming)
             turnWhenReady();
         else
-            load(root.slides[root.show.slideAfter(root.currentIndex)]);
+            load(root.slides[neighbour(1)]);
     }
 
     function load(slide) {
@@ -136,11 +148,15 @@ Item {
         begin();
     }
 
-    // After a change of the list: goes on with what is left.
+    function isDue(slide) {
+        return slide !== null && root.order.indexOf(root.slides.indexOf(slide)) >= 0;
+    }
+
+    // After a change of the list or its order: goes on with what is left.
     function checkSlides() {
         if (!root.hasBegun)
             return;
-        if (root.slides.indexOf(root.incoming) < 0) {
+        if (!isDue(root.incoming)) {
             animation.stop();
             root.incoming = null;
         }
@@ -148,12 +164,14 @@ Item {
             if (slide !== root.current && slide !== root.incoming)
                 Stage.leaveStage(slide, root.isStill);
         });
-        if (root.slides.indexOf(root.current) < 0)
+        if (root.slides.indexOf(root.current) < 0 || root.order.length === 0)
             rewind();
+        else if (!isDue(root.current) && !root.turning)
+            turnTo(root.order[0]);
         plan();
     }
 
-    onSlidesChanged: checkSlides()
+    onOrderChanged: checkSlides()
     onIsSeenChanged: {
         if (!isSeen && turning)
             finish();

@@ -14,6 +14,8 @@
 #include <QQmlContext>
 #include <QQmlPropertyMap>
 
+#include <ctime>
+
 namespace {
 
 const QString library = QStringLiteral(":/Nuvex/Components/");
@@ -130,6 +132,12 @@ void ComponentFixture::makeClip(const QString& name, const QString& color, doubl
 void ComponentFixture::makeGarbage(const QString& name) const
 {
     m_capi->writeToFile(QStringLiteral("not what the name says"), name);
+}
+
+void ComponentFixture::setTimeZone(const QString& name)
+{
+    qputenv("TZ", name.toLatin1());
+    tzset();
 }
 
 QStringList ComponentFixture::takeWarnings()

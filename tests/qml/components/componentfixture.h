@@ -36,6 +36,8 @@ public:
     Q_INVOKABLE void makeClip(const QString& name, const QString& color, double seconds) const;
     /// Writes bytes that are no picture and no video.
     Q_INVOKABLE void makeGarbage(const QString& name) const;
+    /// Sets the time zone of the process, as "Europe/Berlin".
+    Q_INVOKABLE void setTimeZone(const QString& name);
     /// Starts taking down warnings, those of the QML engine and logged ones.
     Q_INVOKABLE void recordWarnings();
     /// Warnings since recordWarnings() or the last call.
