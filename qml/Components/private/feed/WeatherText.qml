@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+
+/// The words of a Weather: a large headline, a line of detail, the place. Empty lines take no room.
+Column {
+    id: root
+
+    property string headline
+    property string detail
+    property string place
+    property color color: "white"
+    /// What all sizes are measured by, and the most that a line may take, in pixels.
+    property real measure: 100
+    property real room: 200
+    property bool isCentred: false
+
+    Text {
+        anchors.horizontalCenter: root.isCentred ? parent.horizontalCenter : undefined
+        width: Math.min(implicitWidth, root.room)
+        text: root.headline
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: root.color
+        font.family: "Open Sans"
+        font.pixelSize: Math.max(1, root.measure * 0.36)
+    }
+
+    Text {
+        anchors.horizontalCenter: root.isCentred ? parent.horizontalCenter : undefined
+        width: Math.min(implicitWidth, root.room)
+        visible: text !== ""
+        text: root.detail
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: root.color
+        font.family: "Open Sans"
+        font.pixelSize: Math.max(1, root.measure * 0.13)
+    }
+
+    Text {
+        anchors.horizontalCenter: root.isCentred ? parent.horizontalCenter : undefined
+        width: Math.min(implicitWidth, root.room)
+        visible: text !== ""
+        text: root.place
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: root.color
+        opacity: 0.7
+        font.family: "Open Sans"
+        font.pixelSize: Math.max(1, root.measure * 0.11)
+    }
+}
