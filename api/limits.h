@@ -11,7 +11,7 @@
 namespace limits {
 
 /// Size of a document or other text file of a project.
-constexpr qint64 textFileBytes = 64 * 1024 * 1024;
+constexpr qint64 textFileBytes = 64LL * 1024 * 1024;
 
 /// Entries of a project archive.
 constexpr int archiveEntries = 100'000;
@@ -20,7 +20,7 @@ constexpr int archiveNameBytes = 1024;
 constexpr int archiveNameParts = 64;
 constexpr int archivePartBytes = 255;
 /// An archive, or an entry of it, that unpacks to more than this must not grow more than by the ratio.
-constexpr qint64 archiveRatioFreeBytes = 1024 * 1024;
+constexpr qint64 archiveRatioFreeBytes = 1024LL * 1024;
 constexpr qint64 archiveRatio = 200;
 /// Age at which a folder that an interrupted import left is deleted.
 constexpr std::chrono::hours abandonedImportAge{24};

@@ -68,7 +68,7 @@ public:
 
     QString filledText(const QString& member)
     {
-        const QString value = text(member);
+        QString value = text(member);
         if (value.isEmpty())
             fail(member, "is empty");
         return value;

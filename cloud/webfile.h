@@ -59,15 +59,14 @@ signals:
     /// thread.
     void signalProgress(qlonglong i, qlonglong total);
 
-private slots:
-    void slotPost(void* pReturnSuccess, void* pLoop, QIODevice* file);
-    void slotGet(void* pReturnSuccess, void* pLoop, QIODevice* file);
-    void slotError(QNetworkReply::NetworkError error);
-    void progress(qlonglong i, qlonglong total);
-    void timeoutCheck();
-    void tickTimeOut();
-
 private:
+    Q_SLOT void slotPost(void* pReturnSuccess, void* pLoop, QIODevice* file);
+    Q_SLOT void slotGet(void* pReturnSuccess, void* pLoop, QIODevice* file);
+    Q_SLOT void slotError(QNetworkReply::NetworkError error);
+    Q_SLOT void progress(qlonglong i, qlonglong total);
+    Q_SLOT void timeoutCheck();
+    Q_SLOT void tickTimeOut();
+
     using Progress = void (QNetworkReply::*)(qint64, qint64);
 
     bool transfer(const char* slot, QIODevice* device);
