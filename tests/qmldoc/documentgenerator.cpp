@@ -127,7 +127,7 @@ private:
     {
         const QStringList wild{"Item",    "X.Panel", "Größe", "Component",
                                "anchors", "font",    "A.B.C", "Component.Inner"};
-        return any(m_real ? QStringList{"Item", "Rectangle", "Text", "Row", "Component"} : wild);
+        return any(m_real ? QStringList{"Item", "Rectangle", "MouseArea", "Row", "Component"} : wild);
     }
 
     // --- objects ---
