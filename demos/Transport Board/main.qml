@@ -55,7 +55,7 @@ Rectangle {
         fontFamily: "Manrope"
     }
 
-    Slideshow {
+    Schedule {
         id: "departures"
         x: 72
         y: 168
@@ -64,6 +64,10 @@ Rectangle {
         color: "#10192e"
         transType: "fade"
         transTime: 800
+        schedules: [
+            { name: "Day", slides: [0, 1], begin: "04:45", end: "00:30" },
+            { name: "Night", slide: 2, begin: "00:30", end: "04:45" }
+        ]
 
         Slide {
             id: rails
@@ -130,85 +134,6 @@ Rectangle {
                 color: "#d93a43"
             }
 
-            BasicText {
-                x: 16
-                y: 72
-                width: 64
-                height: 56
-                text: "1"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 64
-                width: 512
-                text: "Northfields"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 104
-                width: 512
-                text: "Mill Lane"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 56
-                width: 120
-                height: 88
-                text: "1"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 56
-                width: 144
-                height: 88
-                text: "4 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 56
-                width: 128
-                height: 88
-                text: "00:42"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
             BasicRectangle {
                 x: 16
                 y: 160
@@ -218,85 +143,6 @@ Rectangle {
                 color: "#d93a43"
             }
 
-            BasicText {
-                x: 16
-                y: 160
-                width: 64
-                height: 56
-                text: "1"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 152
-                width: 512
-                text: "Lighthouse"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 192
-                width: 512
-                text: "Old Port"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 144
-                width: 120
-                height: 88
-                text: "2"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 144
-                width: 144
-                height: 88
-                text: "4 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 144
-                width: 128
-                height: 88
-                text: "00:51"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
             BasicRectangle {
                 x: 0
                 y: 232
@@ -315,85 +161,6 @@ Rectangle {
                 color: "#2f6fde"
             }
 
-            BasicText {
-                x: 16
-                y: 248
-                width: 64
-                height: 56
-                text: "2"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 240
-                width: 512
-                text: "West End"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 280
-                width: 512
-                text: "Market"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 232
-                width: 120
-                height: 88
-                text: "3"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 232
-                width: 144
-                height: 88
-                text: "6 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 232
-                width: 128
-                height: 88
-                text: "00:36"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
             BasicRectangle {
                 x: 16
                 y: 336
@@ -401,85 +168,6 @@ Rectangle {
                 height: 56
                 radius: 8
                 color: "#2f6fde"
-            }
-
-            BasicText {
-                x: 16
-                y: 336
-                width: 64
-                height: 56
-                text: "2"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 328
-                width: 512
-                text: "Airport"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 368
-                width: 512
-                text: "Museum, Park"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 320
-                width: 120
-                height: 88
-                text: "4"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 320
-                width: 144
-                height: 88
-                text: "6 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 320
-                width: 128
-                height: 88
-                text: "01:12"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
             }
 
             BasicRectangle {
@@ -500,85 +188,6 @@ Rectangle {
                 color: "#23835a"
             }
 
-            BasicText {
-                x: 16
-                y: 424
-                width: 64
-                height: 56
-                text: "4"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 416
-                width: 512
-                text: "Hill View"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 456
-                width: 512
-                text: "change at Opera"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 408
-                width: 120
-                height: 88
-                text: "5"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 408
-                width: 144
-                height: 88
-                text: "8 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 408
-                width: 128
-                height: 88
-                text: "23:58"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
             BasicRectangle {
                 x: 16
                 y: 512
@@ -586,85 +195,6 @@ Rectangle {
                 height: 56
                 radius: 8
                 color: "#23835a"
-            }
-
-            BasicText {
-                x: 16
-                y: 512
-                width: 64
-                height: 56
-                text: "4"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 504
-                width: 512
-                text: "Shipyard"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 544
-                width: 512
-                text: "change at Market"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 496
-                width: 120
-                height: 88
-                text: "6"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 496
-                width: 144
-                height: 88
-                text: "8 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 496
-                width: 128
-                height: 88
-                text: "00:04"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
             }
 
             BasicRectangle {
@@ -682,86 +212,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#f0a92c"
-            }
-
-            BasicText {
-                x: 16
-                y: 600
-                width: 64
-                height: 56
-                text: "7"
-                color: "#10192e"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 592
-                width: 512
-                text: "Opera"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 632
-                width: 512
-                text: "direct"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 584
-                width: 120
-                height: 88
-                text: "7"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 584
-                width: 144
-                height: 88
-                text: "10 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 584
-                width: 128
-                height: 88
-                text: "00:20"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#b06f00"
             }
 
             BasicRectangle {
@@ -770,31 +221,34 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#f0a92c"
+                color: "#b06f00"
             }
 
             BasicText {
                 x: 16
-                y: 688
+                y: 80
                 width: 64
-                height: 56
-                text: "7"
-                color: "#10192e"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 680
-                width: 512
-                text: "Beach"
+                height: 704
+                text: "1\n1\n2\n2\n4\n4\n7\n7"
                 color: "#ffffff"
-                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignHCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
+                font.family: "Manrope"
+                font.bold: true
+                font.pixelSize: 28
+            }
+
+            BasicText {
+                x: 96
+                y: 64
+                width: 512
+                height: 704
+                text: "Northfields\nLighthouse\nWest End\nAirport\nHill View\nShipyard\nOpera\nBeach"
+                color: "#ffffff"
                 wordWrap: false
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
                 font.pixelSize: 32
@@ -802,38 +256,42 @@ Rectangle {
 
             BasicText {
                 x: 96
-                y: 720
+                y: 104
                 width: 512
-                text: "University"
+                height: 704
+                text: "Mill Lane\nOld Port\nMarket\nMuseum, Park\nchange at Opera\nchange at Market\ndirect\nUniversity"
                 color: "#a9b8d6"
-                elide: Text.ElideRight
                 wordWrap: false
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 22
             }
 
             BasicText {
                 x: 616
-                y: 672
+                y: 78
                 width: 120
-                height: 88
-                text: "8"
+                height: 704
+                text: "1\n2\n3\n4\n5\n6\n7\n8"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 32
             }
 
             BasicText {
                 x: 744
-                y: 672
+                y: 78
                 width: 144
-                height: 88
-                text: "10 min"
+                height: 704
+                text: "4 min\n4 min\n6 min\n6 min\n8 min\n8 min\n10 min\n10 min"
                 color: "#ffcf66"
                 horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
                 font.pixelSize: 32
@@ -841,13 +299,14 @@ Rectangle {
 
             BasicText {
                 x: 904
-                y: 672
+                y: 78
                 width: 128
-                height: 88
-                text: "00:30"
+                height: 704
+                text: "00:42\n00:51\n00:36\n01:12\n23:58\n00:04\n00:20\n00:30"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 32
             }
@@ -918,28 +377,121 @@ Rectangle {
                 color: "#7d56c2"
             }
 
-            BasicText {
+            BasicRectangle {
                 x: 16
-                y: 72
+                y: 160
                 width: 64
                 height: 56
-                text: "12"
+                radius: 8
+                color: "#7d56c2"
+            }
+
+            BasicRectangle {
+                x: 0
+                y: 232
+                width: 1056
+                height: 88
+                radius: 8
+                color: "#19264a"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 248
+                width: 64
+                height: 56
+                radius: 8
+                color: "#7d56c2"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 336
+                width: 64
+                height: 56
+                radius: 8
+                color: "#7d56c2"
+            }
+
+            BasicRectangle {
+                x: 0
+                y: 408
+                width: 1056
+                height: 88
+                radius: 8
+                color: "#19264a"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 424
+                width: 64
+                height: 56
+                radius: 8
+                color: "#7d56c2"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 512
+                width: 64
+                height: 56
+                radius: 8
+                color: "#7d56c2"
+            }
+
+            BasicRectangle {
+                x: 0
+                y: 584
+                width: 1056
+                height: 88
+                radius: 8
+                color: "#19264a"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 600
+                width: 64
+                height: 56
+                radius: 8
+                color: "#0f7f8c"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 688
+                width: 64
+                height: 56
+                radius: 8
+                color: "#0f7f8c"
+            }
+
+            BasicText {
+                x: 16
+                y: 80
+                width: 64
+                height: 704
+                text: "12\n18\n21\n34\n40\n52\nF1\nF2"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 32
+                font.pixelSize: 28
             }
 
             BasicText {
                 x: 96
                 y: 64
                 width: 512
-                text: "Old Brewery"
+                height: 704
+                text: "Old Brewery\nHospital\nBotanical Garden\nStadium\nOld Airfield\nVineyards\nFerry, Lighthouse\nFerry, Seal Island"
                 color: "#ffffff"
-                elide: Text.ElideRight
                 wordWrap: false
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
                 font.pixelSize: 32
@@ -949,36 +501,40 @@ Rectangle {
                 x: 96
                 y: 104
                 width: 512
-                text: "Town Hall"
+                height: 704
+                text: "Town Hall\nChestnut Avenue\nPark\nMarket\nRing road\nHill View\nOld Port\ndirect"
                 color: "#a9b8d6"
-                elide: Text.ElideRight
                 wordWrap: false
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 22
             }
 
             BasicText {
                 x: 616
-                y: 56
+                y: 78
                 width: 120
-                height: 88
-                text: "A"
+                height: 704
+                text: "A\nA\nB\nC\nD\nD\nPier\nPier"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 32
             }
 
             BasicText {
                 x: 744
-                y: 56
+                y: 78
                 width: 144
-                height: 88
-                text: "10 min"
+                height: 704
+                text: "10 min\n12 min\n15 min\n10 min\n15 min\n20 min\n20 min\n60 min"
                 color: "#ffcf66"
                 horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
                 font.pixelSize: 32
@@ -986,15 +542,82 @@ Rectangle {
 
             BasicText {
                 x: 904
-                y: 56
+                y: 78
                 width: 128
-                height: 88
-                text: "23:40"
+                height: 704
+                text: "23:40\n00:10\n22:45\n00:25\n23:15\n22:30\n21:50\n19:00"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 32
+            }
+        }
+
+        Slide {
+            id: night
+            duration: 14000
+            tagColor: "#5b6b8c"
+
+            BasicText {
+                x: 96
+                y: 8
+                text: "Night lines"
+                color: "#a9b8d6"
+                font.family: "Manrope"
+                font.pixelSize: 24
+            }
+
+            BasicText {
+                x: 616
+                y: 8
+                width: 120
+                text: "Platform"
+                color: "#a9b8d6"
+                horizontalAlignment: Text.AlignHCenter
+                font.family: "Manrope"
+                font.pixelSize: 24
+            }
+
+            BasicText {
+                x: 760
+                y: 8
+                width: 128
+                text: "Every"
+                color: "#a9b8d6"
+                horizontalAlignment: Text.AlignRight
+                font.family: "Manrope"
+                font.pixelSize: 24
+            }
+
+            BasicText {
+                x: 920
+                y: 8
+                width: 112
+                text: "Last"
+                color: "#a9b8d6"
+                horizontalAlignment: Text.AlignRight
+                font.family: "Manrope"
+                font.pixelSize: 24
+            }
+
+            BasicRectangle {
+                x: 0
+                y: 56
+                width: 1056
+                height: 88
+                radius: 8
+                color: "#19264a"
+            }
+
+            BasicRectangle {
+                x: 16
+                y: 72
+                width: 64
+                height: 56
+                radius: 8
+                color: "#d93a43"
             }
 
             BasicRectangle {
@@ -1003,86 +626,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#7d56c2"
-            }
-
-            BasicText {
-                x: 16
-                y: 160
-                width: 64
-                height: 56
-                text: "18"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 152
-                width: 512
-                text: "Hospital"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 192
-                width: 512
-                text: "Chestnut Avenue"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 144
-                width: 120
-                height: 88
-                text: "A"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 144
-                width: 144
-                height: 88
-                text: "12 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 144
-                width: 128
-                height: 88
-                text: "00:10"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#2f6fde"
             }
 
             BasicRectangle {
@@ -1100,86 +644,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#7d56c2"
-            }
-
-            BasicText {
-                x: 16
-                y: 248
-                width: 64
-                height: 56
-                text: "21"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 240
-                width: 512
-                text: "Botanical Garden"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 280
-                width: 512
-                text: "Park"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 232
-                width: 120
-                height: 88
-                text: "B"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 232
-                width: 144
-                height: 88
-                text: "15 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 232
-                width: 128
-                height: 88
-                text: "22:45"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#2f6fde"
             }
 
             BasicRectangle {
@@ -1188,86 +653,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#7d56c2"
-            }
-
-            BasicText {
-                x: 16
-                y: 336
-                width: 64
-                height: 56
-                text: "34"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 328
-                width: 512
-                text: "Stadium"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 368
-                width: 512
-                text: "Market"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 320
-                width: 120
-                height: 88
-                text: "C"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 320
-                width: 144
-                height: 88
-                text: "10 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 320
-                width: 128
-                height: 88
-                text: "00:25"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#23835a"
             }
 
             BasicRectangle {
@@ -1285,86 +671,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#2f6fde"
-            }
-
-            BasicText {
-                x: 16
-                y: 424
-                width: 64
-                height: 56
-                text: "N1"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 416
-                width: 512
-                text: "Night bus, Northfields"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 456
-                width: 512
-                text: "from 00:30"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 408
-                width: 120
-                height: 88
-                text: "C"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 408
-                width: 144
-                height: 88
-                text: "30 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 408
-                width: 128
-                height: 88
-                text: "04:30"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#23835a"
             }
 
             BasicRectangle {
@@ -1373,86 +680,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#2f6fde"
-            }
-
-            BasicText {
-                x: 16
-                y: 512
-                width: 64
-                height: 56
-                text: "N2"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 504
-                width: 512
-                text: "Night bus, Beach"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 544
-                width: 512
-                text: "from 00:30"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 496
-                width: 120
-                height: 88
-                text: "D"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 496
-                width: 144
-                height: 88
-                text: "30 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 496
-                width: 128
-                height: 88
-                text: "04:30"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#b06f00"
             }
 
             BasicRectangle {
@@ -1470,86 +698,7 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#0f7f8c"
-            }
-
-            BasicText {
-                x: 16
-                y: 600
-                width: 64
-                height: 56
-                text: "F1"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 592
-                width: 512
-                text: "Ferry, Lighthouse"
-                color: "#ffffff"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 96
-                y: 632
-                width: 512
-                text: "Old Port"
-                color: "#a9b8d6"
-                elide: Text.ElideRight
-                wordWrap: false
-                font.family: "Manrope"
-                font.pixelSize: 22
-            }
-
-            BasicText {
-                x: 616
-                y: 584
-                width: 120
-                height: 88
-                text: "Pier"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 744
-                y: 584
-                width: 144
-                height: 88
-                text: "20 min"
-                color: "#ffcf66"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.bold: true
-                font.pixelSize: 32
-            }
-
-            BasicText {
-                x: 904
-                y: 584
-                width: 128
-                height: 88
-                text: "21:50"
-                color: "#ffffff"
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                font.family: "Manrope"
-                font.pixelSize: 32
+                color: "#7d56c2"
             }
 
             BasicRectangle {
@@ -1558,31 +707,34 @@ Rectangle {
                 width: 64
                 height: 56
                 radius: 8
-                color: "#0f7f8c"
+                color: "#7d56c2"
             }
 
             BasicText {
                 x: 16
-                y: 688
+                y: 80
                 width: 64
-                height: 56
-                text: "F2"
+                height: 704
+                text: "N1\nN2\nN3\nN4\nN5\nN7\nN9\nN12"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 32
+                font.pixelSize: 28
             }
 
             BasicText {
                 x: 96
-                y: 680
+                y: 64
                 width: 512
-                text: "Ferry, Seal Island"
+                height: 704
+                text: "Northfields\nAirport\nWest End\nHill View\nShipyard\nBeach\nHospital\nStadium"
                 color: "#ffffff"
-                elide: Text.ElideRight
                 wordWrap: false
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
                 font.pixelSize: 32
@@ -1590,38 +742,42 @@ Rectangle {
 
             BasicText {
                 x: 96
-                y: 720
+                y: 104
                 width: 512
-                text: "direct"
+                height: 704
+                text: "Mill Lane\nMuseum, Park\nMarket\nOpera\nMarket\nUniversity\nChestnut Avenue\nOld Brewery"
                 color: "#a9b8d6"
-                elide: Text.ElideRight
                 wordWrap: false
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 22
             }
 
             BasicText {
                 x: 616
-                y: 672
+                y: 78
                 width: 120
-                height: 88
-                text: "Pier"
+                height: 704
+                text: "A\nA\nB\nB\nC\nC\nD\nD"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 32
             }
 
             BasicText {
                 x: 744
-                y: 672
+                y: 78
                 width: 144
-                height: 88
-                text: "60 min"
+                height: 704
+                text: "30 min\n20 min\n30 min\n30 min\n60 min\n30 min\n60 min\n60 min"
                 color: "#ffcf66"
                 horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.bold: true
                 font.pixelSize: 32
@@ -1629,13 +785,14 @@ Rectangle {
 
             BasicText {
                 x: 904
-                y: 672
+                y: 78
                 width: 128
-                height: 88
-                text: "19:00"
+                height: 704
+                text: "04:30\n04:40\n04:30\n04:15\n04:00\n04:30\n04:10\n04:20"
                 color: "#ffffff"
                 horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
+                lineHeightMode: Text.FixedHeight
+                lineHeight: 88
                 font.family: "Manrope"
                 font.pixelSize: 32
             }
