@@ -6,12 +6,12 @@ from PIL import Image
 from scipy.ndimage import gaussian_filter
 
 
-def picture(source, target, bloom=0.12, vignette=0.16, grain=1.1, quality=88, size=None):
+def picture(source, target, exposure=1.0, bloom=0.12, vignette=0.16, grain=1.1, quality=88, size=None):
     """Finishes one picture and saves it as JPEG. Grain is in eight-bit steps; size is (width, height)."""
     image = Image.open(source).convert("RGB")
     if size:
         image = image.resize(size, Image.LANCZOS)
-    light = np.asarray(image, dtype=np.float32) / 255
+    light = np.asarray(image, dtype=np.float32) / 255 * exposure
     light = glow(light, bloom)
     light = darken_corners(light, vignette)
     light = soften_ends(light)

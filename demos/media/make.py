@@ -31,7 +31,7 @@ STILLS = {
     "menu-pasta": ("Menu Board/images/pasta.jpg", 840, 432, {"bloom": 0.2}),
     "menu-tomato": ("Menu Board/images/tomatoes.jpg", 840, 432, {"bloom": 0.2}),
     "menu-olives": ("Menu Board/images/olives.jpg", 840, 432, {"bloom": 0.2}),
-    "menu-wine": ("Menu Board/images/wine.jpg", 840, 432, {"bloom": 0.2}),
+    "menu-wine": ("Menu Board/images/wine.jpg", 840, 432, {"bloom": 0.2, "exposure": 1.5}),
     "menu-gelato": ("Menu Board/images/gelato.jpg", 840, 432, {"bloom": 0.2}),
     "retail-scent": ("Retail Window/images/scent.jpg", 810, 1440, {"size": (1080, 1920)}),
     "retail-boxes": ("Retail Window/images/boxes.jpg", 810, 1440, {"size": (1080, 1920)}),
