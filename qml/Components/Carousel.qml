@@ -61,9 +61,10 @@ Item {
             height: root.height * 0.78
             entry: Entries.of(model)
         }
+        // Qt's path does not survive lengths beyond reason.
         path: CarouselPath {
-            width: root.width
-            height: root.height
+            width: Math.max(1, Math.min(20000, root.width))
+            height: Math.max(1, Math.min(20000, root.height))
         }
     }
 

@@ -64,7 +64,7 @@ ListView {
     PageTurner {
         view: root
         running: root.visible && root.pageTime > 0 && Presence.presenceOf(root) === Presence.shown
-        interval: Math.max(1000, root.pageTime)
+        pageTime: root.pageTime
     }
 
     // They only hold the fonts, so that a document can set one part of a font and keep the others.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/limits.js" as Limits
 import "private/presence.js" as Presence
 
 /// One slide of a Slideshow: an area as large as the show, filled with any items. The show moves it, shows it and
@@ -37,7 +38,7 @@ Item {
 
     width: parent ? parent.width : 640
     height: parent ? parent.height : 360
-    layer.enabled: isGrouped && width > 0 && height > 0
+    layer.enabled: isGrouped && width > 0 && height > 0 && Math.max(width, height) <= Limits.pictureEdge
     layer.smooth: true
     layer.effect: SlideEffect {
         reveal: root.reveal

@@ -10,6 +10,9 @@ Timer {
     /// The ListView.
     property ListView view
 
+    /// How long a page stands still, in milliseconds.
+    property int pageTime: 8000
+
     readonly property real top: view.originY - view.topMargin
     readonly property real end: view.originY + view.contentHeight + view.bottomMargin - view.height
     readonly property real covered: view.headerItem ? view.headerItem.height : 0
@@ -30,6 +33,7 @@ Timer {
         return next > root.view.contentY + 1 ? next : bottom;
     }
 
+    interval: Math.max(500, root.pageTime) + glide.duration
     repeat: true
     onTriggered: turn()
 

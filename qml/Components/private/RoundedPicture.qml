@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import "limits.js" as Limits
 
 /// A Picture with rounded corners, which crops to fill its place.
 Item {
@@ -11,7 +12,7 @@ Item {
     /// Corner radius in pixels; half the size and more makes a circle or a stadium.
     property real radius: 12
 
-    layer.enabled: width > 0 && height > 0
+    layer.enabled: width > 0 && height > 0 && Math.max(width, height) <= Limits.pictureEdge
     layer.smooth: true
     layer.effect: ShaderEffect {
         readonly property size extent: Qt.size(root.width, root.height)

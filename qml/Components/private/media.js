@@ -4,16 +4,21 @@
 // Media addresses and sizes. Not a shared library: it needs the importing document's CAPI.
 .import "limits.js" as Limits
 
-/// The address to load for `source`, a url or text as written in a project: a relative path is the project's own file,
-/// else one of the component library; anything else stays as it is. "" for nothing.
+/// The address to load for `source`, a url or text as written in a project: a path is the project's own file, else one
+/// of the component library; an url stays as it is. "" for nothing.
 function address(source) {
-    var text = source ? String(source) : "";
     // A relative path that an item dropped by the editor was given has been resolved against the library.
-    var path = text.replace(/^qrc:\/*Nuvex\/Components\/(?!icons\/)/, "");
+    var path = source ? String(source).replace(/^qrc:\/*Nuvex\/Components\/(?!icons\/)/, "") : "";
     if (path === "" || /^[a-zA-Z][a-zA-Z0-9+.-]+:/.test(path))
         return path;
     var found = CAPI.resolveUrl(path);
-    return found === path ? text : found;
+    return found === path ? expectedAddress(path) : found;
+}
+
+// Where a file that is not there yet will be.
+function expectedAddress(path) {
+    var file = path.charAt(0) === "/" ? path : CAPI.getBaseFolder() + "/" + path;
+    return "file://" + file.split("/").map(encodeURIComponent).join("/");
 }
 
 // Image.PreserveAspectFit and Image.PreserveAspectCrop, which scripts cannot see.

@@ -81,6 +81,44 @@ ComponentCase {
         waitForRendering(tile);
     }
 
+    // Every number of the prototype takes any value without a warning.
+    function test_absurdNumbersAreQuiet_data() {
+        return rows(fixture.components());
+    }
+    function test_absurdNumbersAreQuiet(data) {
+        var component = Qt.createComponent("qrc:/Nuvex/Components/" + data.file);
+        var item = createTemporaryObject(component, test);
+        var properties = CAPI.parseAndGetMap(item.cPrototype)[0].properties;
+        [-1, 0, 1e9].forEach(function(absurd) {
+            Object.keys(properties).forEach(function(key) {
+                if (typeof item[key] !== "number")
+                    return;
+                var usual = item[key];
+                item[key] = absurd;
+                wait(0);
+                item[key] = usual;
+            });
+        });
+    }
+
+    // Without size and with too much of it, and while not seen.
+    function test_absurdSizesAreQuiet_data() {
+        return rows(fixture.components());
+    }
+    function test_absurdSizesAreQuiet(data) {
+        var component = Qt.createComponent("qrc:/Nuvex/Components/" + data.file);
+        var item = createTemporaryObject(component, test);
+        [[0, 0], [-50, 20], [1, 3000]].forEach(function(size) {
+            item.width = size[0];
+            item.height = size[1];
+            waitForRendering(item, 30);
+        });
+        item.visible = false;
+        wait(0);
+        item.visible = true;
+        wait(0);
+    }
+
     function test_moduleFile() {
         var lines = fixture.source("qmldir").trim().split("\n");
         compare(lines.shift(), "module Nuvex.Components");
