@@ -11,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSet>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <QTextCodec>
 
@@ -22,6 +21,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <sys/statvfs.h>
 
 namespace {
 
@@ -151,11 +151,14 @@ private:
 
 bool fits(const QVector<QuaZipFileInfo64>& entries, const QString& folder)
 {
-    const QStorageInfo storage(folder);
+    // Asked of the kernel: QStorageInfo finds no file system where the root is not in the list of mounts.
+    struct statvfs storage = {};
+    if (statvfs(QFile::encodeName(folder).constData(), &storage) != 0)
+        return false;
     quint64 needed = 0;
     for (const QuaZipFileInfo64& entry : entries)
-        needed += entry.uncompressedSize + quint64(qMax(storage.blockSize(), 0));
-    return needed <= quint64(qMax<qint64>(storage.bytesAvailable(), 0));
+        needed += entry.uncompressedSize + storage.f_frsize;
+    return needed <= quint64(storage.f_bavail) * storage.f_frsize;
 }
 
 QFileInfoList childrenOf(const QString& folder)
