@@ -41,7 +41,8 @@ void NetworkFixture::serveFile(const QString& path, const QString& name)
 
 void NetworkFixture::serveStatus(const QString& path, int status, const QString& headers)
 {
-    m_server.setAnswer(path.toLatin1(), HttpAnswer::complete(status, {}, headers.toLatin1()));
+    const QByteArray body = status == 204 ? "" : "{\"reason\": \"told\"}";
+    m_server.setAnswer(path.toLatin1(), HttpAnswer::complete(status, body, headers.toLatin1()));
 }
 
 void NetworkFixture::serveSilence(const QString& path)

@@ -18,7 +18,7 @@ public:
                            const QString& charset = QStringLiteral("UTF-8"));
     /// Answers `path` with a file of the test data.
     Q_INVOKABLE void serveFile(const QString& path, const QString& name);
-    /// Answers `path` with a status and no body; `headers` are lines with their ends.
+    /// Answers `path` with a status and a reason; `headers` are lines with their ends.
     Q_INVOKABLE void serveStatus(const QString& path, int status, const QString& headers = {});
     /// Takes requests for `path` and never answers.
     Q_INVOKABLE void serveSilence(const QString& path);

@@ -61,7 +61,7 @@ Item {
         if (!root.active || root.address === "")
             return cancel();
         const latest = Math.max(pauseAfterSuccess(), Limits.longestWish);
-        clock.interval = state.request ? Limits.answerTime : Math.max(1, Math.min(state.dueAt - Date.now(), latest));
+        clock.interval = line.active ? Limits.answerTime : Math.max(1, Math.min(state.dueAt - Date.now(), latest));
         clock.start();
     }
 
@@ -80,38 +80,18 @@ Item {
     }
 
     function send() {
-        const request = new XMLHttpRequest();
-        state.request = request;
-        request.onreadystatechange = () => {
-            if (root && request === state.request)
-                follow(request);
-        };
-        request.open("GET", root.address);
-        // Of bytes the length is known without decoding them; the text is there all the same.
-        request.responseType = "arraybuffer";
-        request.send();
+        line.active = true;
+        line.item.sendMessage({ address: root.address, limit: Limits.answerBytes });
         plan();
     }
 
-    function follow(request) {
-        if (request.readyState === XMLHttpRequest.HEADERS_RECEIVED)
-            checkSize(Number(request.getResponseHeader("Content-Length")));
-        else if (request.readyState === XMLHttpRequest.LOADING)
-            checkSize(request.response.byteLength);
-        else if (request.readyState === XMLHttpRequest.DONE)
-            finish(request);
-    }
-
-    function checkSize(bytes) {
-        if (bytes > Limits.answerBytes)
-            fail("the answer is too large");
-    }
-
-    function finish(request) {
-        if (request.status !== 200)
-            return fail(request.status ? "status " + request.status : "no answer",
-                        Number(request.getResponseHeader("Retry-After")));
-        take(request.responseText);
+    function finish(message) {
+        if (!line.active)
+            return;
+        if (message.reason === "")
+            take(message.text);
+        else
+            fail(message.reason, message.wish);
     }
 
     function take(text) {
@@ -146,10 +126,7 @@ Item {
     }
 
     function cancel() {
-        const request = state.request;
-        state.request = null;
-        if (request)
-            request.abort();
+        line.active = false;
     }
 
     visible: false
@@ -162,7 +139,6 @@ Item {
         state.isComplete = true;
         begin();
     }
-    Component.onDestruction: cancel()
 
     QtObject {
         id: state
@@ -170,14 +146,24 @@ Item {
         property var answer: null
         property real time: 0
         property int failures: 0
-        // The request under way, and when the next one is due, as Date.now() counts.
-        property var request: null
+        // When the next request is due, as Date.now() counts.
         property real dueAt: 0
     }
 
     Timer {
         id: clock
-        onTriggered: state.request ? root.fail("no answer in time") : root.ask()
+        onTriggered: line.active ? root.fail("no answer in time") : root.ask()
+    }
+
+    // A worker for each request. Only its end closes a connection on which nothing comes: a request that is merely
+    // aborted keeps it, and a server gets no more than six.
+    Loader {
+        id: line
+        active: false
+        sourceComponent: WorkerScript {
+            source: "request.js"
+            onMessage: root.finish(messageObject)
+        }
     }
 
     LoggingCategory {

@@ -37,7 +37,7 @@ Item {
         if (picture.status === Image.Ready)
             show();
         else if (picture.status === Image.Error)
-            pass();
+            Qt.callLater(pass);
     }
 
     function show() {
@@ -50,7 +50,7 @@ Item {
     function pass() {
         root.back.source = "";
         if (++root.misses < root.sources.length)
-            Qt.callLater(next);
+            next();
     }
 
     function takeOver() {

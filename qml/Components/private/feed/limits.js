@@ -32,6 +32,6 @@ var textLength = 1000;
 var markupLength = 65536;
 
 /// Elements of a document that are looked at, and how deep they may be nested.
-var xmlElements = 20000;
+var xmlElements = 8000;
 var xmlDepth = 64;
 var xmlAttributes = 32;
