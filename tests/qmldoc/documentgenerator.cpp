@@ -84,7 +84,7 @@ public:
         gap();
         m_text += m_real ? "import QtQuick 2.15\n" : "import QtQuick 2.15; import \"x\" as X\n";
         gap();
-        object(m_real ? "Item" : anyType(), true, 0);
+        object(m_real ? "Item" : any({"Item", "X.Panel", "Größe", "A.B.C"}), true, 0);
         gap();
         return {m_text, m_map, editorText()};
     }
@@ -157,7 +157,7 @@ private:
         if (scope.type == "Component") {
             object("Item", scope.numbered, scope.depth);
         } else {
-            for (int count = below(scope.depth > 5 ? 3 : 8); count > 0; --count)
+            for (int count = below(scope.depth > 3 ? 3 : 7); count > 0; --count)
                 member(scope, count == 1);
         }
         m_text += "}";

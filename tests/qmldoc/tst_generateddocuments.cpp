@@ -32,7 +32,7 @@ void tst_GeneratedDocuments::mapAndTextAreExact_data()
 {
     QTest::addColumn<Flavour>("flavour");
     QTest::addColumn<unsigned>("count");
-    QTest::newRow("any constructs") << Flavour::Parses << 3000U;
+    QTest::newRow("any constructs") << Flavour::Parses << 5000U;
     QTest::newRow("real types") << Flavour::Instantiates << 1000U;
 }
 
@@ -59,7 +59,7 @@ void tst_GeneratedDocuments::mapAndTextAreExact()
 
 void tst_GeneratedDocuments::editorTextShowsWheneverTheSourceDoes()
 {
-    for (unsigned seed = 0; seed < 300; ++seed) {
+    for (unsigned seed = 0; seed < 500; ++seed) {
         const GeneratedDocument generated = generateDocument(seed, Flavour::Instantiates);
         QVERIFY2(errors(generated.text).isEmpty(), qPrintable(errors(generated.text) + generated.text));
         QVERIFY2(errors(generated.editorText).isEmpty(),
