@@ -93,7 +93,8 @@ private:
         constexpr qint64 longBytes = 4'000'000'000;
         m_zip.setZip64Enabled(source.size() >= longBytes || m_archive->pos() >= longBytes);
         const QuaZipNewInfo info(m_root.relativeFilePath(source.filePath()) + nameEnd, source.filePath());
-        return entry.open(QIODevice::WriteOnly, info, nullptr, 0, method) || fail(source.filePath());
+        return entry.open(QIODevice::WriteOnly, info, nullptr, 0, method) ||
+               fail(QStringLiteral("cannot add ") + source.filePath());
     }
 
     bool addFolder(const QFileInfo& folder)
@@ -112,7 +113,8 @@ private:
             return false;
         const bool copied = JlCompress::copyData(source, entry);
         entry.close();
-        return (copied && entry.getZipError() == ZIP_OK) || fail(file.filePath());
+        return (copied && entry.getZipError() == ZIP_OK) ||
+               fail(QStringLiteral("cannot add ") + file.filePath());
     }
 
     QIODevice* m_archive;

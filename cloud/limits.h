@@ -22,7 +22,7 @@ constexpr qint64 deploymentBytes = 1024LL * 1024;
 
 /// Between one and two of these without any progress and a transfer is given up.
 constexpr std::chrono::milliseconds transferStall{8000};
-/// Unread bytes of an answer that a transfer keeps in memory; the server waits meanwhile.
+/// Body of the answer to a POST, which is kept in memory.
 constexpr qint64 answerBytes = 16LL * 1024 * 1024;
 /// How long a transfer's thread may take to end before that is worth a line in the log.
 constexpr std::chrono::milliseconds threadEnd{200};

@@ -126,7 +126,7 @@ void Webfile::slotPost(void* pReturnSuccess, void* pLoop, QIODevice* file)
 {
     const QNetworkRequest request = begin();
     m_reply = m_manager->post(request, file);
-    m_reply->setReadBufferSize(limits::answerBytes);
+    connect(m_reply, &QNetworkReply::readyRead, this, &Webfile::limitAnswer);
     report(finish(&QNetworkReply::uploadProgress), pReturnSuccess, pLoop);
 }
 
@@ -162,6 +162,14 @@ void Webfile::receive(QIODevice* destination)
         return;
     qCWarning(lcCloud) << "Cannot write a downloaded file:" << destination->errorString();
     m_writeFailed = true;
+    m_reply->abort();
+}
+
+void Webfile::limitAnswer()
+{
+    if (m_reply->bytesAvailable() <= limits::answerBytes)
+        return;
+    qCWarning(lcCloud) << "Answer is too large:" << m_url.toDisplayString(QUrl::RemoveQuery);
     m_reply->abort();
 }
 

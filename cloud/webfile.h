@@ -36,7 +36,8 @@ public:
     Webfile(const QString& url, const Headers& headers, QObject* parent = nullptr);
     ~Webfile() override;
 
-    /// Sends what `body`, open for reading, holds. True when the answer has status 200 or 206.
+    /// Sends what `body`, open for reading, holds. True when the answer has status 200 or 206; one whose body
+    /// exceeds limits::answerBytes is a failure.
     bool post(QIODevice* body);
     /// Writes the answer's body to `destination`, open for writing, as it arrives. True when the answer has
     /// status 200 or 206 and every byte could be written. On false, part of a body may have been written.
@@ -74,6 +75,7 @@ private:
 
     QNetworkRequest begin();
     void receive(QIODevice* destination);
+    void limitAnswer();
     bool finish(Progress progressSignal);
     bool wait(std::chrono::milliseconds interval, Progress progressSignal);
     bool judge(bool inTime);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
+#include "cloud/limits.h"
 #include "cloud/webfile.h"
 #include "tests/support/httpserver.h"
 #include "tests/support/logcapture.h"
@@ -100,6 +101,7 @@ private slots:
     void largeBodies();
     void unreachable();
     void fullDestination();
+    void endlessAnswer();
     void answerBeforeTheBodyIsRead();
     void progressIsSignalled();
     void destroyedDuringTransfer();
@@ -244,6 +246,15 @@ void TestWebfile::fullDestination()
     QVERIFY(!transfer.get(&full));
     QVERIFY(transfer.errorCode() != 0);
     QVERIFY(log.contains(QStringLiteral("Cannot write a downloaded file")));
+}
+
+void TestWebfile::endlessAnswer()
+{
+    const LogCapture log;
+    m_server.setAnswer("/huge?secret", HttpAnswer::complete(200, QByteArray(2 * limits::answerBytes, 'x')));
+    QVERIFY(!post(m_server.url("/huge?secret"), "x", {{"Content-Type", "a/b"}}).success);
+    QVERIFY(log.contains(QStringLiteral("too large")));
+    QVERIFY(!log.contains(QStringLiteral("secret")));
 }
 
 // The server refuses while the body is still being sent; nothing may read the body once post() has returned.
