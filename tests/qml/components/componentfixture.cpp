@@ -28,7 +28,8 @@ void record(QtMsgType type, const QMessageLogContext& context, const QString& te
 {
     // Documents' own warnings name the document as their file; a machine without sound card has others.
     const QByteArray file(context.file);
-    const bool isOurs = QByteArray(context.category).startsWith("nuvex") || file.startsWith("qrc:") || file.startsWith("file:");
+    const bool isOurs = QByteArray(context.category).startsWith("nuvex") || file.startsWith("qrc:") ||
+                        file.startsWith("file:");
     if (recorder && type == QtWarningMsg && isOurs)
         recorder->addWarning(text);
     nextHandler(type, context, text);
@@ -122,9 +123,10 @@ void ComponentFixture::makePicture(const QString& name, const QColor& color, int
 
 void ComponentFixture::makeClip(const QString& name, const QString& color, double seconds) const
 {
-    const QString input = QStringLiteral("color=c=%1:size=160x90:rate=25:duration=%2").arg(color).arg(seconds);
-    const QStringList arguments{"-v", "error",   "-y",       "-f",      "lavfi", "-i",
-                                input, "-c:v", "libx264", "-pix_fmt", "yuv420p", m_capi->resolvedPath(name)};
+    const QString input =
+        QStringLiteral("color=c=%1:size=160x90:rate=25:duration=%2").arg(color).arg(seconds);
+    const QStringList arguments{"-v",  "error", "-y",      "-f",       "lavfi",   "-i",
+                                input, "-c:v",  "libx264", "-pix_fmt", "yuv420p", m_capi->resolvedPath(name)};
     if (QProcess::execute(QStringLiteral("ffmpeg"), arguments) != 0)
         qFatal("cannot make %s", qPrintable(name));
 }

@@ -11,8 +11,8 @@
 
 #include <memory>
 
-/// What component tests in QML need of the program: the context properties, a project with media made on the spot, and
-/// everything that was logged as a warning. Published as "fixture". GUI thread.
+/// What component tests in QML need of the program: the context properties, a project with media made on the
+/// spot, and everything that was logged as a warning. Published as "fixture". GUI thread.
 class ComponentFixture : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,8 @@ public:
     /// File URL of `name` in the project.
     Q_INVOKABLE QUrl url(const QString& name) const;
     /// Writes a picture of one colour into the project.
-    Q_INVOKABLE void makePicture(const QString& name, const QColor& color, int width = 64, int height = 64) const;
+    Q_INVOKABLE void makePicture(const QString& name, const QColor& color, int width = 64,
+                                 int height = 64) const;
     /// Writes a clip of one colour, 160 x 90 at 25 frames a second, into the project.
     Q_INVOKABLE void makeClip(const QString& name, const QString& color, double seconds) const;
     /// Writes bytes that are no picture and no video.
