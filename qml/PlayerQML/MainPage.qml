@@ -16,9 +16,9 @@ StackPage {
 
     function workspaceProblem() {
         const work = CAPI.getWorkDirectory();
-        if (!CAPI.fileExist(work))
+        if (!CAPI.fileExist(work + "/."))
             return qsTr("The workspace %1 cannot be used.").arg(work);
-        if (project !== "" && !CAPI.fileExist(work + "/" + project))
+        if (project !== "" && !CAPI.fileExist(work + "/" + project + "/."))
             return qsTr("The project %1 is not in the workspace.").arg(project);
         return "";
     }

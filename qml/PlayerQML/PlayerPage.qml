@@ -12,7 +12,7 @@ StackPage {
     property url documentUrl
     property string notice
 
-    readonly property bool failed: thePlayer.status === Loader.Error
+    readonly property bool failed: thePlayer.status === Loader.Error || (thePlayer.item !== null && !thePlayer.isShown)
 
     // Paths may hold characters that mean something in a URL.
     function fileUrl(path) {
@@ -40,7 +40,7 @@ StackPage {
 
     Standby {
         anchors.fill: parent
-        visible: thePlayer.item === null
+        visible: !thePlayer.isShown
         project: playerPage.project
         documentName: SS.qmlFileName
         documentUrl: playerPage.documentUrl

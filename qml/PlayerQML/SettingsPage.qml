@@ -30,17 +30,12 @@ FormPage {
         message.text = qsTr("The cloud needs an account. Log in first.");
     }
 
-    // A project's name is the name of one folder.
-    function isFolderName(name) {
-        return name !== "." && name !== ".." && !/[\/\\]/.test(name);
-    }
-
     function renameProject() {
         const oldName = CAPI.getSSetting("lastProject");
         const newName = form.projectName;
         if (newName === oldName)
             return;
-        if (isFolderName(newName) && CAPI.renameDir(oldName, newName)) {
+        if (CAPI.renameDir(oldName, newName)) {
             CAPI.setSetting("lastProject", newName);
             CAPI.trimComponentCache();
         } else {

@@ -5,9 +5,11 @@
 import argparse
 import json
 import os
+import re
 import shutil
 import signal
 import socket
+import string
 import subprocess
 import tempfile
 import time
@@ -58,18 +60,28 @@ class Profile:
         self.work = self.folder / "data/Nuvex/Nuvex/PlayerQML/Work"
 
     def write_settings(self, **settings):
-        lines = ["[General]"] + [f"{key}={value}" for key, value in settings.items()]
+        lines = ["[General]"] + [f'{key}="{self._escaped(value)}"' for key, value in settings.items()]
         self.config.parent.mkdir(parents=True, exist_ok=True)
         self.config.write_text("\n".join(lines) + "\n", "utf-8")
+
+    @staticmethod
+    def _escaped(text):
+        """As the settings store writes it: a hexadecimal digit after an escape is escaped as well."""
+        escaped = ""
+        for character in text:
+            after_escape = re.search(r"\\x[0-9a-f]+$", escaped) and character in string.hexdigits
+            plain = " " <= character < "\x7f" and not after_escape
+            escaped += re.sub(r'(["\\])', r"\\\1", character) if plain else f"\\x{ord(character):x}"
+        return escaped
 
     def setting(self, key):
         """The stored value as text; None when there is none."""
         if not self.config.exists():
             return None
-        for line in self.config.read_text("utf-8").splitlines():
+        for line in self.config.read_text("utf-8", "replace").splitlines():
             name, _, value = line.partition("=")
             if name == key:
-                return value
+                return re.sub(r"\\x([0-9a-f]{1,4})", lambda code: chr(int(code[1], 16)), value)
         return None
 
     def add_project(self, name, document="import QtQuick 2.15\nRectangle { color: 'teal' }\n"):
@@ -89,8 +101,8 @@ class Program:
     def __init__(self, setup, screen, profile, *arguments):
         self.screen = screen
         self.profile = profile
-        self.probe = profile.folder / "probe"
-        self.probe.mkdir(exist_ok=True)
+        self.nudge = 4
+        self.probe = Path(tempfile.mkdtemp(dir=profile.folder))
         self.log_file = profile.folder / "log"
         fake_tools = profile.folder / "bin"
         self._make_link_opener(fake_tools)
@@ -101,7 +113,17 @@ class Program:
         with self.log_file.open("wb") as log:
             self.process = subprocess.Popen([setup.program, "--profile", str(profile.folder), *arguments],
                                             env=environment, stdout=log, stderr=log)
-        self.focus()
+        try:
+            self.focus()
+        except BaseException:
+            self.close()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
 
     def _make_link_opener(self, folder):
         self.opened_links = self.profile.folder / "links"
@@ -117,7 +139,7 @@ class Program:
 
     def _take_focus(self):
         """One try: right after the start the window may not be there for the X server yet."""
-        self.screen.do("search", "--pid", self.tree()["pid"], "--onlyvisible", "--class", ".", "windowfocus")
+        self.screen.do("search", "--all", "--onlyvisible", "--pid", self.tree()["pid"], "--class", ".", "windowfocus")
         return self.tree().get("active")
 
     # What it shows
@@ -177,7 +199,9 @@ class Program:
 
     def click(self, label):
         x, y, width, height = wait_for(lambda: self.find(label), lambda: f"'{label}' on {self.page()}")["rect"]
-        self.screen.do("mousemove", "--sync", round(x + width / 2), round(y + height / 2), "click", 1)
+        # Now left, now right of the middle, so that two clicks are never taken for a double click.
+        self.nudge = -self.nudge
+        self.screen.do("mousemove", round(x + width / 2) + self.nudge, round(y + height / 2), "click", 1)
 
     def key(self, *keys):
         self.screen.do("key", *keys)
@@ -217,14 +241,12 @@ class Program:
         self.focus()
 
     def close(self):
-        pid = self.tree().get("pid", self.process.pid)
-        try:
-            os.kill(pid, signal.SIGTERM)
-        except ProcessLookupError:
-            pass
+        restarted = self.tree().get("pid")
         self.process.kill()
         self.process.wait()
-        wait_for(lambda: not Path(f"/proc/{pid}").exists() or pid == self.process.pid, "the end of the program")
+        if restarted not in (None, self.process.pid):
+            os.kill(restarted, signal.SIGKILL)
+            wait_for(lambda: not Path(f"/proc/{restarted}").exists(), "the end of the program")
 
 
 def read_setup():

@@ -173,7 +173,7 @@ class PagesTest(unittest.TestCase):
         program.tab_to("Bakery")
         program.key("Down", "Return")
         program.wait_page("MainPage")
-        wait_for(lambda: self.profile.setting("lastProject") == r"Caf\xe9 Zo\xeb", "the chosen project")
+        wait_for(lambda: self.profile.setting("lastProject") == "Café Zoë", "the chosen project")
         program.wait_text("Working on: <b>Café Zoë</b>")
 
         self.go_to(program, "ProjectsPage")

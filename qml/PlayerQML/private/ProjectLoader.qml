@@ -8,6 +8,8 @@ import "fit.js" as Fit
 Loader {
     id: loader
 
+    // Not everything that loads can be seen.
+    readonly property bool isShown: item instanceof Item
     readonly property real pageWidth: parent.width
     readonly property real pageHeight: parent.height
 
@@ -20,7 +22,7 @@ Loader {
     }
 
     function place() {
-        const fitted = item ? Fit.fit(item.width, item.height, pageWidth, pageHeight) : null;
+        const fitted = isShown ? Fit.fit(item.width, item.height, pageWidth, pageHeight) : null;
         if (!fitted)
             return;
         item.transform = fitted.turned ? [quarterTurn, lift] : [];
@@ -35,6 +37,10 @@ Loader {
     onWidthChanged: place()
     onHeightChanged: place()
     onLoaded: {
+        if (!isShown) {
+            console.warn(source + ": its root is no visual item");
+            return;
+        }
         giveSize();
         place();
     }
@@ -46,6 +52,6 @@ Loader {
 
     Translate {
         id: lift
-        y: loader.item ? loader.item.width : 0
+        y: loader.isShown ? loader.item.width : 0
     }
 }
