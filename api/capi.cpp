@@ -182,7 +182,7 @@ bool CAPI::renameDir(QString oldName, QString newName)
 QString CAPI::extractToWorkDirectory(QString zipFile)
 {
     const QString archive = m_folder.resolved(zipFile);
-    const QString name = archiveProjectName(archive);
+    QString name = archiveProjectName(archive);
     if (name.isEmpty())
         return name;
     m_workspace.addToCache(name);
@@ -298,14 +298,14 @@ int CAPI::prevPosInSourceCode(QString s, int from)
 
 QString CAPI::getForwardSource()
 {
-    const QString source = m_editing.forward();
+    QString source = m_editing.forward();
     emitEditingState();
     return source;
 }
 
 QString CAPI::getBackwardSource()
 {
-    const QString source = m_editing.backward();
+    QString source = m_editing.backward();
     emitEditingState();
     return source;
 }

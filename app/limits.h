@@ -8,6 +8,6 @@
 namespace limits {
 
 /// Size at which the log goes on in a new file.
-constexpr qint64 logFileBytes = 8 * 1024 * 1024;
+constexpr qint64 logFileBytes = qint64(8) * 1024 * 1024;
 
 } // namespace limits
