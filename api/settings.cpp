@@ -24,6 +24,12 @@ QList<Default> firstRunDefaults()
             {"userEmail", QString()}, {"playerUID", QString()},   {"shareFolder", true}};
 }
 
+// A line without a key is not reported on reading, but makes the file unreadable once it is written again.
+bool isDamaged(const QSettings& store)
+{
+    return store.status() == QSettings::FormatError || store.allKeys().contains(QString());
+}
+
 QByteArray fileContent(const QString& path)
 {
     QFile file(path);
@@ -34,51 +40,62 @@ QByteArray fileContent(const QString& path)
 
 Settings::Settings()
 {
+    m_store.emplace();
     setBrokenStoreAside();
     writeDefaults();
 }
 
 bool Settings::boolean(const QString& name) const
 {
-    return m_store.value(name).toBool();
+    return m_store->value(name).toBool();
 }
 
 QString Settings::text(const QString& name) const
 {
-    return m_store.value(name).toString();
+    return m_store->value(name).toString();
 }
 
 int Settings::integer(const QString& name) const
 {
-    const QVariant value = m_store.value(name);
+    const QVariant value = m_store->value(name);
     // The store's text form of a bool is a word, which toInt() would read as 0.
     return value.toString() == QLatin1String("true") ? 1 : value.toInt();
 }
 
 void Settings::set(const QString& name, const QVariant& value)
 {
-    m_store.setValue(name, value);
+    m_store->setValue(name, value);
     save();
 }
 
+// A store that has met a damaged file never writes again, so another one takes over what could be read.
 void Settings::setBrokenStoreAside()
 {
-    if (m_store.status() == QSettings::NoError)
+    if (!isDamaged(*m_store))
         return;
-    const QString aside = fileName() + QStringLiteral(".broken");
+    const QString file = fileName();
+    const QString aside = file + QStringLiteral(".broken");
+    QVariantMap readable; // only keys that the program knows: others may be debris
+    for (const Default& entry : firstRunDefaults()) {
+        if (m_store->contains(entry.key))
+            readable[entry.key] = m_store->value(entry.key);
+    }
     QFile::remove(aside);
-    const bool kept = QFile::copy(fileName(), aside);
-    qCWarning(lcApi) << "The settings file" << fileName() << "is damaged; going on with what is readable."
-                     << (kept ? "A copy is kept as " + aside : QStringLiteral("No copy could be kept."));
+    const bool kept = QFile::rename(file, aside);
+    qCWarning(lcApi) << "The settings file" << file << "is damaged; going on with what is readable."
+                     << (kept ? "It is kept as " + aside : QStringLiteral("It could not be set aside."));
+    m_store.emplace();
+    for (auto it = readable.cbegin(); it != readable.cend(); ++it)
+        m_store->setValue(it.key(), it.value());
 }
 
 void Settings::writeDefaults()
 {
     for (const Default& entry : firstRunDefaults()) {
-        if (!m_store.contains(entry.key))
-            m_store.setValue(entry.key, entry.value);
+        if (!m_store->contains(entry.key))
+            m_store->setValue(entry.key, entry.value);
     }
-    m_store.setValue(QStringLiteral("version"), programVersion);
+    m_store->setValue(QStringLiteral("version"), programVersion);
     save();
 }
 
@@ -87,8 +104,8 @@ void Settings::writeDefaults()
 void Settings::save()
 {
     const QByteArray before = fileContent(fileName());
-    m_store.sync();
-    if (m_store.status() == QSettings::NoError && !fileContent(fileName()).isEmpty())
+    m_store->sync();
+    if (m_store->status() == QSettings::NoError && !fileContent(fileName()).isEmpty())
         return;
     qCWarning(lcApi) << "Settings could not be saved to" << fileName();
     if (!before.isEmpty())

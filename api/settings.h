@@ -5,6 +5,8 @@
 
 #include <QSettings>
 
+#include <optional>
+
 /// The program's settings: one flat namespace of keys in the platform's store, user scope, under the
 /// application's organisation and name. GUI thread.
 ///
@@ -26,12 +28,12 @@ public:
     void set(const QString& name, const QVariant& value);
 
     /// Path of the file behind the store.
-    QString fileName() const { return m_store.fileName(); }
+    QString fileName() const { return m_store->fileName(); }
 
 private:
     void setBrokenStoreAside();
     void writeDefaults();
     void save();
 
-    QSettings m_store;
+    std::optional<QSettings> m_store;
 };

@@ -23,6 +23,7 @@ private slots:
     void storedValuesSurviveButTheVersionIsRenewed();
     void conversions_data();
     void conversions();
+    void brokenStoreIsSetAside_data();
     void brokenStoreIsSetAside();
     void failedWriteKeepsThePreviousFile();
 
@@ -105,16 +106,31 @@ void SettingsTest::conversions()
     QTEST(again.integer("key"), "integer");
 }
 
+void SettingsTest::brokenStoreIsSetAside_data()
+{
+    QTest::addColumn<QByteArray>("damage");
+    QTest::newRow("half a file") << QByteArray(
+        "[General]\ndoOnStart=edit\n\xff\xfe garbage without meaning\n[[[\n");
+    QTest::newRow("cut short") << QByteArray("[General\nlas");
+    QTest::newRow("zeros and marks") << QByteArray("\0\xff\xfe[[[\n=%%=\n", 12);
+}
+
 void SettingsTest::brokenStoreIsSetAside()
 {
+    QFile::remove(storeFile() + ".broken");
     QFile file(storeFile());
     QVERIFY(file.open(QIODevice::WriteOnly));
-    const QByteArray damage = "[General]\ndoOnStart=edit\n\xff\xfe garbage without meaning\n[[[\n";
+    QFETCH(QByteArray, damage);
     file.write(damage);
     file.close();
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("settings file .* is damaged"));
-    const Settings settings;
-    QCOMPARE(settings.text("version"), QString("118"));
+    {
+        Settings settings;
+        settings.set("lastProject", "Shop");
+    }
+    const Settings again;
+    QCOMPARE(again.text("lastProject"), QString("Shop"));
+    QCOMPARE(again.text("version"), QString("118"));
     QFile aside(storeFile() + ".broken");
     QVERIFY(aside.open(QIODevice::ReadOnly));
     QCOMPARE(aside.readAll(), damage);
