@@ -24,10 +24,12 @@ QList<Default> firstRunDefaults()
             {"userEmail", QString()}, {"playerUID", QString()},   {"shareFolder", true}};
 }
 
-// A line without a key is not reported on reading, but makes the file unreadable once it is written again.
 bool isDamaged(const QSettings& store)
 {
-    return store.status() == QSettings::FormatError || store.allKeys().contains(QString());
+    // Sections are only parsed, and faults in them noticed, when their keys are asked for. A line without a
+    // key is not noticed at all, but makes the file unreadable once it is written again.
+    const QStringList keys = store.allKeys();
+    return keys.contains(QString()) || store.status() == QSettings::FormatError;
 }
 
 QByteArray fileContent(const QString& path)

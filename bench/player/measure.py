@@ -64,7 +64,7 @@ def main():
             for name, command in commands.items():
                 results[name].append(play(command, options.seconds))
     print(f"{pathlib.Path(options.project).name}, {options.rounds - 1} rounds, {options.seconds:.0f} s each\n")
-    print("| program | first frame, ms | CPU, % of a core | memory (PSS), MiB |\n|---|---|---|---|")
+    print("| program | first frame, ms | CPU, % of a core | private memory, MiB |\n|---|---|---|---|")
     for name, rounds in results.items():
         columns = zip(*rounds[1:])
         print(f"| {name} | " + " | ".join(spread(column) for column in columns) + " |")

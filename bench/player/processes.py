@@ -48,8 +48,9 @@ class Player:
         return (int(fields[11]) + int(fields[12])) / CLOCK_TICKS
 
     def memory_mib(self):
+        """Memory of its own, without what it shares with the files and programs around it."""
         lines = pathlib.Path(f"/proc/{self.process.pid}/smaps_rollup").read_text().splitlines()
-        return next(int(line.split()[1]) for line in lines if line.startswith("Pss:")) / 1024
+        return next(int(line.split()[1]) for line in lines if line.startswith("Anonymous:")) / 1024
 
     def cpu_percent(self, seconds):
         """Percent of one core used during the next `seconds`."""

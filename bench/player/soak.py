@@ -54,7 +54,7 @@ def main():
                 frames, black = near_black_frames(options.size, options.grab)
                 print(f"{frames} frames grabbed at 30 Hz, {black} near black\n")
             print(f"{pathlib.Path(options.project).name} at {options.size}, {options.minutes:.0f} minutes\n")
-            print("| minutes | frames | median, ms | 95 %, ms | CPU, % of a core | memory (PSS), MiB |")
+            print("| minutes | frames | median, ms | 95 %, ms | CPU, % of a core | private memory, MiB |")
             print("|---|---|---|---|---|---|")
             for interval in range(INTERVALS):
                 seen = len(player.frames)

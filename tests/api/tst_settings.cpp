@@ -112,6 +112,7 @@ void SettingsTest::brokenStoreIsSetAside_data()
     QTest::newRow("half a file") << QByteArray(
         "[General]\ndoOnStart=edit\n\xff\xfe garbage without meaning\n[[[\n");
     QTest::newRow("cut short") << QByteArray("[General\nlas");
+    QTest::newRow("noise") << QByteArray("\xea\x03Z\xe3\x0f\x83\n\xd8\x91\x14\xa9\xd0");
     QTest::newRow("zeros and marks") << QByteArray("\0\xff\xfe[[[\n=%%=\n", 12);
 }
 

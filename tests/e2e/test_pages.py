@@ -267,7 +267,7 @@ class PagesTest(unittest.TestCase):
 
     def test_save_renames_and_restarts(self):
         program = self.start()
-        for start_screen, value, name, host, by_keyboard in (("Main", "", "Pâtisserie", "east", False),
+        for start_screen, value, name, host, by_keyboard in (("Main", "", "Bistro", "east", False),
                                                              ("Edit", "edit", "Deli", "north-2", True)):
             self.go_to(program, "SettingsPage")
             pid = program.tree()["pid"]

@@ -4,6 +4,7 @@
 #include "tree.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QGenericPlugin>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -29,6 +30,13 @@ public:
     }
 
 private:
+    static void listen(QLocalServer& server, const QString& name)
+    {
+        server.close();
+        QLocalServer::removeServer(name);
+        server.listen(name);
+    }
+
     static void answer(QLocalSocket* socket)
     {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
