@@ -32,10 +32,10 @@ Rectangle {
     /// Duration of a transition in milliseconds; 0 and less: a cut.
     property int transTime: 800
     /// Position of the slide that is shown, -1 while there is none. During a transition it is the incoming one.
-    readonly property int currentIndex: turner.currentIndex
-    readonly property Item currentSlide: turner.current
+    readonly property int currentIndex: slides.indexOf(turning ? platform.incoming : platform.current)
+    readonly property Item currentSlide: platform.current
     /// Whether a transition is under way.
-    readonly property bool turning: turner.turning
+    readonly property bool turning: platform.turning
     /// Positions of the slides that take turns; null for all, in their order; empty for none.
     property var turnOrder: null
 
@@ -48,11 +48,11 @@ Rectangle {
     }
 
     function next() {
-        turner.turnTo(turner.neighbour(1));
+        turner.turnTo(turner.neighbour(root.currentIndex, 1));
     }
 
     function previous() {
-        turner.turnTo(turner.neighbour(-1));
+        turner.turnTo(turner.neighbour(root.currentIndex, -1));
     }
 
     function collectSlides() {
@@ -71,15 +71,21 @@ Rectangle {
     onChildrenChanged: collectSlides()
     Component.onCompleted: {
         editor = Qt.createComponent("SlideshowEditor.qml");
-        turner.isStill = Presence.isEdited(root);
+        platform.isStill = Presence.isEdited(root);
         collectSlides();
         turner.begin();
+    }
+
+    SlideStage {
+        id: platform
+        show: root
+        onTurned: root.slideShown(root.currentIndex)
     }
 
     SlideTurner {
         id: turner
         show: root
-        onTurned: root.slideShown(turner.currentIndex)
+        stage: platform
     }
 
     EditorHint {

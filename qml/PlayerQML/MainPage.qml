@@ -1,18 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import Nuvex.Editor 1.0
-import Nuvex.GUI 1.0 as BGUI
 import "SharedVars.js" as SS
 import "private"
 
-// The first page: the project being worked on, and the ways from here.
+// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
+// one sees of it is made only when it is shown: a wall starts without it.
 StackPage {
     id: mainPage
 
     property string project
-
-    readonly property bool canEdit: !CAPI.isDevice() || CAPI.haveTouch()
+    property bool busy: false
 
     function workspaceProblem() {
         const work = CAPI.getWorkDirectory();
@@ -25,12 +23,11 @@ StackPage {
 
     function refresh() {
         const name = CAPI.getSSetting("lastProject");
-        if (name !== project || name === "") {
-            project = name;
-            if (name !== "")
-                CAPI.setBaseFolder(name);
-        }
-        message.text = workspaceProblem();
+        if (name === project && name !== "")
+            return;
+        project = name;
+        if (name !== "")
+            CAPI.setBaseFolder(name);
     }
 
     // A project that the command line started ends when this page is shown again.
@@ -41,17 +38,41 @@ StackPage {
         project = "";
     }
 
+    function show() {
+        if (!active)
+            return;
+        if (view.status === Loader.Null)
+            view.setSource("private/MainView.qml", {"page": mainPage});
+        view.item.showMessage(workspaceProblem());
+    }
+
+    function open(page) {
+        shell.open(page);
+    }
+
+    function edit() {
+        whenDrawn(shell.edit);
+    }
+
+    function play() {
+        whenDrawn(shell.play);
+    }
+
+    function openDashboard() {
+        shell.openDashboard();
+    }
+
     function whenDrawn(task) {
         if (project === "")
             return;
-        busy.start("Loading...");
+        busy = true;
         later.task = task;
         later.start();
     }
 
     function back() {
-        if (menu.visible)
-            menu.close();
+        if (view.item && view.item.menuOpen)
+            view.item.closeMenu();
         else
             Qt.quit();
     }
@@ -60,66 +81,20 @@ StackPage {
     onActiveChanged: {
         if (!active)
             return;
-        busy.running = false;
+        busy = false;
         leaveStartedProject();
         refresh();
         CAPI.setFullScreen(CAPI.isDevice());
         SS.isPlaying = false;
+        // At the start another page may follow at once.
+        Qt.callLater(show);
     }
-    Component.onCompleted: {
-        SS.JCAPI = CAPI;
-        Ejs.JCAPI = CAPI;
-    }
+    Component.onCompleted: SS.JCAPI = CAPI
 
-    Rectangle {
+    Loader {
+        id: view
         anchors.fill: parent
-        color: BGUI.Theme.ground
-    }
-
-    MainHeader {
-        id: header
-        menuOpen: menu.visible
-        onMenuRequested: menu.toggle()
-    }
-
-    MainBanner {
-        id: banner
-        anchors.top: header.bottom
-        width: parent.width
-        project: mainPage.project
-    }
-
-    MainTiles {
-        id: tiles
-        anchors.top: banner.bottom
-        anchors.bottom: message.top
-        width: parent.width
         focus: true
-        enabled: !busy.running
-        canEdit: mainPage.canEdit
-        canPlay: CAPI.isDevice()
-        onOpenChosen: mainPage.shell.open("ProjectsPage")
-        onEditChosen: mainPage.whenDrawn(mainPage.shell.edit)
-        onPlayChosen: mainPage.whenDrawn(mainPage.shell.play)
-        onDashboardChosen: mainPage.shell.openDashboard()
-    }
-
-    FooterMessage {
-        id: message
-        anchors.bottom: parent.bottom
-        width: parent.width
-    }
-
-    MainMenu {
-        id: menu
-        anchors.fill: parent
-        anchors.topMargin: header.height
-        onChosen: mainPage.shell.open(page)
-        onClosed: tiles.forceActiveFocus()
-    }
-
-    BGUI.CustomBuzyInd {
-        id: busy
     }
 
     // Gives the busy indicator time to be drawn before the work that blocks.
@@ -128,17 +103,5 @@ StackPage {
         property var task
         interval: 10
         onTriggered: task()
-    }
-
-    Shortcut {
-        sequence: "F1"
-        enabled: mainPage.active
-        onActivated: mainPage.shell.open("HelpPage")
-    }
-
-    Shortcut {
-        sequence: "Ctrl+E"
-        enabled: mainPage.active
-        onActivated: mainPage.shell.open("ZipGeneratorPage")
     }
 }

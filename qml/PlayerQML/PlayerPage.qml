@@ -11,6 +11,8 @@ StackPage {
     property string project
     property url documentUrl
     property string notice
+    // Set once the first attempt to load is over, so that nothing is made that is not needed.
+    property bool settled: false
 
     readonly property bool failed: thePlayer.status === Loader.Error || (thePlayer.item !== null && !thePlayer.isShown)
 
@@ -38,14 +40,17 @@ StackPage {
 
     objectName: "PlayerPage"
 
-    Standby {
+    Loader {
         anchors.fill: parent
-        visible: !thePlayer.isShown
-        project: playerPage.project
-        documentName: SS.qmlFileName
-        documentUrl: playerPage.documentUrl
-        failed: playerPage.failed
-        networkAddress: playerPage.shell ? playerPage.shell.networkAddress : ""
+        active: playerPage.settled && !thePlayer.isShown
+
+        sourceComponent: Standby {
+            project: playerPage.project
+            documentName: SS.qmlFileName
+            documentUrl: playerPage.documentUrl
+            failed: playerPage.failed
+            networkAddress: playerPage.shell ? playerPage.shell.networkAddress : ""
+        }
     }
 
     ProjectLoader {
@@ -97,5 +102,8 @@ StackPage {
         }
     }
 
-    Component.onCompleted: follower.start(thePlayer.item)
+    Component.onCompleted: {
+        settled = true;
+        follower.start(thePlayer.item);
+    }
 }

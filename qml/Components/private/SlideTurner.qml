@@ -4,148 +4,115 @@ import QtQuick 2.15
 import "limits.js" as Limits
 import "presence.js" as Presence
 import "stage.js" as Stage
-import "transitions.js" as Transitions
 
 /// Gives the slides of a Slideshow their turns. The time of a slide has up to three stretches: alone; with the next
 /// slide loading beside the frame; and, if need be, waiting for that slide. Then the transition runs.
 Item {
     id: root
 
-    /// The Slideshow.
+    /// The Slideshow and its stage.
     property Item show
-    /// In the editor: slides change only when told, at once, and all stay loaded.
-    property bool isStill: false
+    property SlideStage stage
     // Set when the document is complete: before, slides come one by one.
     property bool hasBegun: false
     readonly property var slides: show.slides
-    // Positions of the slides that take turns.
-    readonly property var order: isStill || show.turnOrder === null ? slides.map(function(slide, i) { return i; })
-                                                         : show.turnOrder.filter(function(i) { return slides[i] !== undefined; })
-    property Item current: null
-    /// The next slide while it loads and while it comes in.
-    property Item incoming: null
-    readonly property bool turning: animation.running
-    readonly property int currentIndex: slides.indexOf(turning ? incoming : current)
+    /// Positions of the slides that take turns.
+    readonly property var order: stage.isStill || show.turnOrder === null
+                                 ? slides.map(function(slide, i) { return i; })
+                                 : show.turnOrder.filter(function(i) { return slides[i] !== undefined; })
     readonly property int presence: Presence.presenceOf(show)
-    readonly property bool isSeen: show.visible && presence === Presence.shown && !isStill
+    readonly property bool isSeen: show.visible && presence === Presence.shown && !stage.isStill
     readonly property bool isRunning: isSeen && show.running
-    readonly property string transition: show.transTime > 0 ? Transitions.known(show.transType) : "cut"
-    // When the next turn is due, as Date.now() counts.
+    // When the next turn is due, as Date.now() counts, and how long it has waited since for its slide.
     property real dueAt: 0
+    property int waited: 0
 
-    /// A slide has come in completely.
-    signal turned()
-
-    /// Shows the first slide, if none is shown.
+    /// Shows the first slide, if none is shown yet.
     function begin() {
         root.hasBegun = true;
-        if (root.current)
+        if (root.stage.current)
             return;
-        root.slides.forEach(function(slide) { Stage.leaveStage(slide, root.isStill); });
-        if (root.order.length === 0)
-            return;
-        root.current = root.slides[root.order[0]];
-        Stage.takeStage(root.current);
-        root.dueAt = Date.now() + timeOf(root.current) + root.show.offsetTime;
-        plan();
+        root.stage.startWith(root.order.length > 0 ? root.slides[root.order[0]] : null);
+        startTime(root.show.offsetTime);
     }
 
-    /// Position of the slide that follows (1) or precedes (-1) the one that is shown; undefined without any.
-    function neighbour(step) {
+    /// Position of the slide that follows (1) or precedes (-1) slide `index`; undefined without any.
+    function neighbour(index, step) {
         var count = root.order.length;
-        var place = root.order.indexOf(root.currentIndex);
+        var place = root.order.indexOf(index);
         return root.order[place < 0 ? 0 : (place + step + count) % count];
     }
 
     /// Turns to slide `index` once it is loaded; where nobody sees it, at once.
     function turnTo(index) {
+        begin();
+        root.stage.finish();
         var wanted = root.slides[index];
-        if (root.turning)
-            finish();
-        if (!wanted || wanted === root.current)
+        if (!wanted || wanted === root.stage.current)
             return;
-        if (root.incoming && root.incoming !== wanted)
-            Stage.leaveStage(root.incoming, root.isStill);
         root.dueAt = Date.now();
         load(wanted);
         if (root.isSeen)
             turnWhenReady();
         else
-            finish();
+            root.stage.finish();
     }
 
     function timeOf(slide) {
         return Stage.timeOf(slide, root.show.transTime);
     }
 
+    // The current slide's time begins, with `extra` milliseconds.
+    function startTime(extra) {
+        if (root.stage.current)
+            root.dueAt = Date.now() + timeOf(root.stage.current) + extra;
+        plan();
+    }
+
     // Sets the timer for what comes next in the current slide's time.
     function plan() {
         clock.stop();
-        if (!root.isRunning || !root.current || root.turning)
+        if (!root.isRunning || !root.stage.current || root.stage.turning)
             return;
         var left = root.dueAt - Date.now();
-        if (left > timeOf(root.current) + Math.abs(root.show.offsetTime)) {
+        var longest = timeOf(root.stage.current) + Math.abs(root.show.offsetTime);
+        if (left > longest) {
             // The computer's clock was set back.
-            left = timeOf(root.current);
+            left = longest;
             root.dueAt = Date.now() + left;
         }
-        clock.interval = Math.max(1, root.incoming ? left : left - Limits.slideLead);
+        clock.interval = Math.max(1, root.stage.incoming ? left : left - Limits.slideLead);
         clock.start();
     }
 
     function goOn() {
-        if (root.incoming)
+        if (root.stage.incoming)
             turnWhenReady();
         else
-            load(root.slides[neighbour(1)]);
+            load(root.slides[neighbour(root.slides.indexOf(root.stage.current), 1)]);
     }
 
     function load(slide) {
-        if (!slide || slide === root.current)
+        if (!slide || slide === root.stage.current)
             return;
-        root.incoming = slide;
-        Stage.waitBeside(slide, root.show.width, root.transition);
+        root.waited = 0;
+        root.stage.load(slide);
         plan();
     }
 
     function turnWhenReady() {
         clock.stop();
-        if (Presence.isSettled(root.incoming) || Date.now() > root.dueAt + Limits.slidePatience)
+        if (Presence.isSettled(root.stage.incoming) || root.waited > Limits.slidePatience)
             turn();
         else
-            patience.restart();
+            patience.start();
     }
 
     function turn() {
         // In step with other shows, unless loading or a change of the computer's clock has cost too much time.
         var late = Date.now() - root.dueAt;
-        root.dueAt = Date.now() + timeOf(root.incoming) - (late < Limits.shortestSlide ? Math.max(0, late) : 0);
-        root.incoming.part = Presence.shown;
-        if (root.transition === "cut")
-            finish();
-        else
-            animation.start();
-    }
-
-    function finish() {
-        animation.stop();
-        if (root.incoming) {
-            if (root.current)
-                Stage.leaveStage(root.current, root.isStill);
-            root.current = root.incoming;
-            root.incoming = null;
-            Stage.takeStage(root.current);
-            root.turned();
-        }
-        plan();
-    }
-
-    // Back to the beginning, so that it starts there the next time.
-    function rewind() {
-        animation.stop();
-        root.incoming = null;
-        root.current = null;
-        begin();
+        root.dueAt = Date.now() + timeOf(root.stage.incoming) - (late < Limits.shortestSlide ? Math.max(0, late) : 0);
+        root.stage.turn();
     }
 
     function isDue(slide) {
@@ -156,34 +123,41 @@ Item {
     function checkSlides() {
         if (!root.hasBegun)
             return;
-        if (!isDue(root.incoming)) {
-            animation.stop();
-            root.incoming = null;
-        }
-        root.slides.forEach(function(slide) {
-            if (slide !== root.current && slide !== root.incoming)
-                Stage.leaveStage(slide, root.isStill);
-        });
-        if (root.slides.indexOf(root.current) < 0 || root.order.length === 0)
+        if (!isDue(root.stage.incoming))
+            root.stage.drop();
+        root.stage.clearOthers();
+        if (root.slides.indexOf(root.stage.current) < 0 || root.order.length === 0)
             rewind();
-        else if (!isDue(root.current) && !root.turning)
+        else if (!isDue(root.stage.current) && !root.stage.turning)
             turnTo(root.order[0]);
         plan();
     }
 
+    // Back to the beginning, so that it starts there the next time.
+    function rewind() {
+        root.stage.startWith(null);
+        begin();
+    }
+
     onOrderChanged: checkSlides()
     onIsSeenChanged: {
-        if (!isSeen && turning)
-            finish();
+        if (!isSeen && (stage.turning || patience.running))
+            stage.finish();
     }
     onIsRunningChanged: {
-        if (isRunning && current && !turning)
-            dueAt = Date.now() + timeOf(current);
-        plan();
+        if (hasBegun && !stage.turning)
+            startTime(0);
     }
     onPresenceChanged: {
-        if (presence === Presence.absent && current && !isStill)
+        if (presence === Presence.absent && stage.current && !stage.isStill)
             rewind();
+    }
+
+    Connections {
+        target: root.stage
+        function onTurned() {
+            root.plan();
+        }
     }
 
     Timer {
@@ -195,17 +169,9 @@ Item {
         id: patience
         interval: 40
         onTriggered: {
-            if (root.incoming && root.isSeen && !root.turning)
+            root.waited += interval;
+            if (root.stage.incoming && root.isSeen && !root.stage.turning)
                 root.turnWhenReady();
         }
-    }
-
-    SlideTransition {
-        id: animation
-        show: root.show
-        incoming: root.incoming
-        outgoing: root.current
-        name: root.transition
-        onFinished: root.finish()
     }
 }

@@ -76,7 +76,7 @@ Rectangle {
             objectName: "standbyReason"
             topPadding: facts.step
             visible: text !== ""
-            text: standby.visible ? standby.reason() : ""
+            text: standby.reason()
             color: "#ffd37a"
             font.pixelSize: 1.5 * facts.step
         }

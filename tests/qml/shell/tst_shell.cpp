@@ -124,6 +124,7 @@ void TestShell::mainPageFollowsTheSettings()
     TestProfile::reset(account("", ""));
     TestProfile::addProject("Shop & <Co>");
     Shell shell;
+    QTRY_VERIFY(shell.find("banner"));
     const QQuickItem* banner = shell.find("banner");
     QCOMPARE(banner->property("text").toString(), QString("<b>No Open Project</b>"));
 

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private/editor"
+
+/// The panel of AnimatedItem: how it moves.
+Item {
+    id: root
+
+    property bool radEditor: false
+    property string size: radEditor ? "base" : "large"
+
+    implicitWidth: form.implicitWidth
+    implicitHeight: form.implicitHeight
+
+    PanelForm {
+        id: form
+        anchors.fill: parent
+        panel: root
+
+        ChoiceRow {
+            name: "motion"
+            label: qsTr("Movement")
+            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"].map(name => ({ text: name, is: name }))
+        }
+        SliderRow {
+            name: "strength"
+            label: qsTr("Strength")
+            to: 4
+        }
+        TimeRow {
+            name: "time"
+            label: qsTr("One round")
+        }
+        CheckRow {
+            name: "running"
+            label: qsTr("Runs")
+        }
+        PlateSection {}
+        PlaceSection {}
+    }
+}

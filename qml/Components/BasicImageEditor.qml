@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private/editor"
+
+/// The panel of BasicImage: its picture.
+Item {
+    id: root
+
+    property bool radEditor: false
+    property string size: radEditor ? "base" : "large"
+
+    implicitWidth: form.implicitWidth
+    implicitHeight: form.implicitHeight
+
+    PanelForm {
+        id: form
+        anchors.fill: parent
+        panel: root
+
+        FileRow {
+            name: "source"
+            label: qsTr("Picture")
+        }
+        FillModeRow {}
+        CheckRow {
+            name: "mirror"
+            label: qsTr("Mirrored")
+        }
+        PlaceSection {}
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private/editor"
+
+/// The panel of DigitalClock: what it shows, and how.
+Item {
+    id: root
+
+    property bool radEditor: false
+    property string size: radEditor ? "base" : "large"
+
+    implicitWidth: form.implicitWidth
+    implicitHeight: form.implicitHeight
+
+    PanelForm {
+        id: form
+        anchors.fill: parent
+        panel: root
+
+        ChoiceRow {
+            name: "format"
+            label: qsTr("Shows")
+            choices: ["hh:mm", "hh:mm:ss", "h:mm AP", "dddd", "d MMMM", "d MMMM yyyy", "dddd, d MMMM", "dd.MM.yyyy"]
+                .map(format => ({ text: new Date().toLocaleString(Qt.locale(), format), is: format }))
+        }
+        TextRow {
+            name: "format"
+            label: qsTr("Format")
+        }
+        ColorRow {
+            name: "textColor"
+            label: qsTr("Colour")
+        }
+        ChoiceRow {
+            name: "fontFamily"
+            label: qsTr("Font")
+            choices: form.families.map(family => ({ text: family, is: family }))
+        }
+        NumberRow {
+            name: "pixelSize"
+            label: qsTr("Size")
+            from: 1
+            to: 2000
+            suffix: " px"
+        }
+        LocaleRow {
+        }
+        PlateSection {}
+        PlaceSection {}
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private/editor"
+
+/// The panel of GridOrganizer: its pictures, and how they are laid out.
+Item {
+    id: root
+
+    property bool radEditor: false
+    property string size: radEditor ? "base" : "large"
+
+    implicitWidth: form.implicitWidth
+    implicitHeight: form.implicitHeight
+
+    PanelForm {
+        id: form
+        anchors.fill: parent
+        panel: root
+
+        EntriesRow {
+            name: "model"
+            label: qsTr("Pictures")
+            main: "image"
+            fields: [
+                { name: "name", label: qsTr("Name"), kind: "text" },
+                { name: "image", label: qsTr("Picture"), kind: "picture" }
+            ]
+        }
+        NumberRow {
+            name: "columns"
+            label: qsTr("Columns")
+            from: 1
+            to: 20
+        }
+        NumberRow {
+            name: "spacing"
+            label: qsTr("Between")
+            to: 200
+            suffix: " px"
+        }
+        CheckRow {
+            name: "animated"
+            label: qsTr("Moves")
+        }
+        TimeRow {
+            name: "pageTime"
+            label: qsTr("A page stays")
+        }
+        PlaceSection {}
+    }
+}

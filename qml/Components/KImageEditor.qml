@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private/editor"
+
+/// The panel of KImage: its picture and the movement of the camera.
+Item {
+    id: root
+
+    property bool radEditor: false
+    property string size: radEditor ? "base" : "large"
+
+    implicitWidth: form.implicitWidth
+    implicitHeight: form.implicitHeight
+
+    PanelForm {
+        id: form
+        anchors.fill: parent
+        panel: root
+
+        FileRow {
+            name: "source"
+            label: qsTr("Picture")
+        }
+        FillModeRow {}
+        Section {
+            title: qsTr("Camera")
+
+            CheckRow {
+                name: "kenburnsEnable"
+                label: qsTr("Moves")
+            }
+            SliderRow {
+                name: "kScale0"
+                label: qsTr("From scale")
+                from: 0.5
+                to: 4
+            }
+            SliderRow {
+                name: "kScale1"
+                label: qsTr("To scale")
+                from: 0.5
+                to: 4
+            }
+            TimeRow {
+                name: "kTime"
+                label: qsTr("One way takes")
+            }
+            ChoiceRow {
+                name: "easingType"
+                label: qsTr("Course")
+                choices: [
+                    { text: qsTr("Gentle"), is: Easing.InOutSine, code: "Easing.InOutSine" },
+                    { text: qsTr("Even"), is: Easing.Linear, code: "Easing.Linear" },
+                    { text: qsTr("Marked"), is: Easing.InOutCubic, code: "Easing.InOutCubic" },
+                    { text: qsTr("Slows down"), is: Easing.OutQuad, code: "Easing.OutQuad" },
+                    { text: qsTr("Speeds up"), is: Easing.InQuad, code: "Easing.InQuad" }
+                ]
+            }
+        }
+        PlaceSection {}
+    }
+}

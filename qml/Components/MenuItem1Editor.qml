@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "private/editor"
+
+/// The panel of MenuItem1: what is offered, and its colours.
+Item {
+    id: root
+
+    property bool radEditor: false
+    property string size: radEditor ? "base" : "large"
+
+    implicitWidth: form.implicitWidth
+    implicitHeight: form.implicitHeight
+
+    PanelForm {
+        id: form
+        anchors.fill: parent
+        panel: root
+
+        TextRow {
+            name: "name"
+            label: qsTr("Name")
+        }
+        TextRow {
+            name: "about"
+            label: qsTr("About")
+        }
+        TextRow {
+            name: "price"
+            label: qsTr("Price")
+        }
+        FileRow {
+            name: "image"
+            label: qsTr("Picture")
+        }
+        Section {
+            title: qsTr("Colours")
+
+            ColorRow {
+                name: "nameColor"
+                label: qsTr("Name")
+            }
+            ColorRow {
+                name: "aboutColor"
+                label: qsTr("About")
+            }
+            ColorRow {
+                name: "priceColor"
+                label: qsTr("Price")
+            }
+        }
+        PlateSection {}
+        PlaceSection {}
+    }
+}

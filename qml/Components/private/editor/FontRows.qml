@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.GUI 1.0 as BGUI
+
+/// The rows of a font property: face, size, weight and slant.
+Column {
+    id: root
+
+    /// Name of the font property, dotted for groups.
+    property string name: "font"
+    readonly property Item form: parent.form
+
+    width: parent.width
+    spacing: parent.spacing
+
+    ChoiceRow {
+        name: root.name + ".family"
+        label: qsTr("Font")
+        choices: root.form.families.map(family => ({ text: family, is: family }))
+    }
+
+    NumberRow {
+        name: root.name + ".pixelSize"
+        label: qsTr("Size")
+        from: 1
+        to: 2000
+        suffix: " px"
+    }
+
+    Row {
+        readonly property Item form: root.form
+        spacing: 2 * BGUI.Theme.unit
+
+        FontSwitch {
+            name: root.name + ".bold"
+            text: qsTr("Bold")
+        }
+
+        FontSwitch {
+            name: root.name + ".italic"
+            text: qsTr("Italic")
+        }
+    }
+}

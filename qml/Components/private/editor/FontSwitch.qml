@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.GUI 1.0 as BGUI
+
+/// A property that is true or false, as a box with its text beside others in a line.
+BGUI.CheckBox {
+    id: root
+
+    property string name
+    readonly property Item form: parent.form
+    readonly property var value: form.revision > 0 ? form.value(name) : undefined
+
+    size: form.size
+    onValueChanged: checked = value === true
+    onToggled: form.commit(name, String(checked))
+}
