@@ -79,7 +79,7 @@ ColumnLayout {
 
         CalendarPage {
             anchors.fill: parent
-            anchors.margins: Math.min(24, parent.height / 16)
+            anchors.margins: Math.min(24, parent.height / 16, parent.width / 16)
             calendar: root
         }
     }

@@ -42,12 +42,15 @@ ListView {
     /// How long a page stays, in milliseconds, when the list does not fit.
     property int pageTime: 8000
 
+    // Letters and distances shrink where there is no room for a few lines.
+    readonly property real unit: Math.max(0.3, Math.min(1, width / 420, height / 400))
+
     width: 600
     height: 640
-    leftMargin: 36
-    rightMargin: 36
-    bottomMargin: 24
-    spacing: 18
+    leftMargin: 36 * unit
+    rightMargin: 36 * unit
+    bottomMargin: 24 * unit
+    spacing: 18 * unit
     clip: true
     interactive: false
     model: Samples.menu

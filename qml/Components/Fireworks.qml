@@ -3,7 +3,6 @@
 import QtQuick 2.15
 import QtQuick.Particles 2.15
 import "private"
-import "private/media.js" as Media
 import "private/presence.js" as Presence
 
 /// Fireworks: rockets rise from the lower edge and burst in changing colours.
@@ -33,6 +32,11 @@ Item {
     clip: true
     Component.onCompleted: editor = Qt.createComponent("FireworksEditor.qml")
 
+    ParticlePicture {
+        id: picture
+        source: root.source
+    }
+
     ParticleSystem {
         id: sparkSystem
         running: root.onAir
@@ -45,7 +49,7 @@ Item {
         ImageParticle {
             system: sparkSystem
             groups: ["sparks" + index]
-            source: Media.address(root.source)
+            source: picture.dot
             color: modelData
             colorVariation: 0.08
             alpha: 0.9
@@ -74,7 +78,7 @@ Item {
             system: sparkSystem
             sky: root
             place: index
-            running: root.onAir
+            running: root.onAir && picture.isReady
             colors: root.hues.length
         }
     }

@@ -54,7 +54,7 @@ Item {
         source: label
         color: root.glowColor
         radius: root.reach
-        samples: 1 + 2 * Math.round(root.reach / 2)
+        samples: 1 + 2 * Math.round(root.reach)
         spread: 0.35
         transparentBorder: true
         cached: true

@@ -3,8 +3,8 @@
 import QtQuick 2.15
 import "private"
 
-/// A menu board entry around a round picture: name and description below, the price on a seal.
-Item {
+/// A menu board entry as a card with a round picture: name and description below, the price on a seal.
+Rectangle {
     id: root
 
     property int element: -1; function evaluate(str) {eval(str);}
@@ -13,6 +13,8 @@ Item {
     property string cPrototype: "MenuItem3 {
     width: 340
     height: 420
+    color: 'white'
+    radius: 16
     name: 'Cappuccino'
     about: 'Double shot, velvet milk'
     price: '3.60'
@@ -34,12 +36,15 @@ Item {
 
     width: 340
     height: 420
+    color: "white"
+    radius: 16
     Component.onCompleted: editor = Qt.createComponent("MenuItem3Editor.qml")
 
     Rectangle {
         id: ring
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top }
-        width: 300 * root.unit
+        anchors.topMargin: 20 * root.unit
+        width: 284 * root.unit
         height: width
         radius: width / 2
         color: "transparent"
@@ -77,6 +82,8 @@ Item {
     Column {
         anchors { left: parent.left; right: parent.right; top: ring.bottom }
         anchors.topMargin: 12 * root.unit
+        anchors.leftMargin: 16 * root.unit
+        anchors.rightMargin: 16 * root.unit
         spacing: 2 * root.unit
 
         MenuText {

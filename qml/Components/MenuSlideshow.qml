@@ -31,7 +31,7 @@ Item {
 
     property string title: "Today"
     property var model: Samples.menu
-    /// Where the picture stands: "right", "left" or "top" of the list.
+    /// Where the picture stands: "right", "left" or "top" of the list. Where there is no room beside it: on top.
     property string mode: "right"
     /// How long each entry stays marked, in milliseconds.
     property int showTime: 6000
@@ -43,7 +43,7 @@ Item {
     property int currentIndex: 0
 
     readonly property int count: Entries.count(model)
-    readonly property bool isUpright: mode === "top"
+    readonly property bool isUpright: mode === "top" || height > width * 1.2
     readonly property real unit: Math.max(0, isUpright ? Math.min(width / 560, height / 1000) : Math.min(height / 600, width / 1000))
     readonly property real margin: 28 * unit
 
@@ -66,7 +66,7 @@ Item {
 
     FadingPicture {
         id: picture
-        x: root.mode === "right" ? root.width - width - root.margin : root.margin
+        x: root.mode === "right" && !root.isUpright ? root.width - width - root.margin : root.margin
         y: root.margin
         width: Math.max(0, root.isUpright ? root.width - 2 * root.margin : root.width * 0.46)
         height: Math.max(0, root.isUpright ? root.height * 0.4 : root.height - 2 * root.margin)
@@ -77,7 +77,7 @@ Item {
     MenuList {
         x: root.mode === "right" || root.isUpright ? root.margin : picture.width + 2 * root.margin
         y: root.isUpright ? picture.height + 2 * root.margin : root.margin
-        width: Math.max(0, root.width - x - root.margin - (root.mode === "right" ? picture.width + root.margin : 0))
+        width: Math.max(0, root.width - x - root.margin - (root.mode === "right" && !root.isUpright ? picture.width + root.margin : 0))
         height: Math.max(0, root.height - y - root.margin)
         menu: root
     }

@@ -3,7 +3,6 @@
 import QtQuick 2.15
 import QtQuick.Particles 2.15
 import "private"
-import "private/media.js" as Media
 import "private/presence.js" as Presence
 
 /// A stream of particles: glowing dots that rise, or any small picture in any direction.
@@ -39,6 +38,11 @@ Item {
     clip: true
     Component.onCompleted: editor = Qt.createComponent("ParticlesEditor.qml")
 
+    ParticlePicture {
+        id: picture
+        source: root.source
+    }
+
     ParticleSystem {
         id: system
         running: root.visible && Presence.presenceOf(root) === Presence.shown
@@ -46,7 +50,7 @@ Item {
 
     ImageParticle {
         system: system
-        source: Media.address(root.source)
+        source: picture.dot
         color: root.color
         colorVariation: 0.15
         alpha: 0.75
@@ -57,6 +61,7 @@ Item {
     Emitter {
         system: system
         anchors.fill: parent
+        enabled: picture.isReady
         emitRate: Math.max(0, Math.min(1000, root.emitRate))
         lifeSpan: Math.max(0, Math.min(60000, root.lifeSpan))
         lifeSpanVariation: lifeSpan / 3

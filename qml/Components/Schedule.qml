@@ -89,6 +89,7 @@ Slideshow {
         lookUp(new Date());
     }
 
+    kind: qsTr("Schedule")
     onSlidesChanged: renew()
     onRulesChanged: {
         rules.forEach(function(rule, i) {

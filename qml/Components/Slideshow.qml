@@ -39,6 +39,9 @@ Rectangle {
     /// Positions of the slides that take turns; null for all, in their order; empty for none.
     property var turnOrder: null
 
+    /// What the editor calls an empty one.
+    property string kind: qsTr("Slideshow")
+
     /// Slide `index` has come in completely.
     signal slideShown(int index)
 
@@ -90,7 +93,7 @@ Rectangle {
 
     EditorHint {
         target: root
-        label: qsTr("Slideshow")
+        label: root.kind
         isEmpty: root.slides.length === 0
     }
 

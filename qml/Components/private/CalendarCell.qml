@@ -26,7 +26,7 @@ Item {
         anchors.fill: parent
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
-        fontSizeMode: Text.Fit
-        minimumPixelSize: 6
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: Math.min(6, font.pixelSize)
     }
 }

@@ -8,6 +8,7 @@ Item {
     id: root
 
     property var entry
+    readonly property string name: Entries.text(entry, "name")
     /// How near it is, 0 to 1.
     readonly property real depth: PathView.depth !== undefined ? PathView.depth : 1
 
@@ -17,21 +18,28 @@ Item {
 
     RoundedPicture {
         anchors.fill: parent
-        anchors.bottomMargin: caption.height
+        anchors.bottomMargin: root.name === "" ? 0 : root.height * 0.15
         radius: height * 0.05
         source: Entries.text(root.entry, "image", "image")
     }
 
-    MenuText {
-        id: caption
-        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        height: text === "" ? 0 : root.height * 0.13
-        text: Entries.text(root.entry, "name")
-        color: "#2878bd"
+    Rectangle {
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
+        width: Math.min(caption.implicitWidth + height, parent.width)
+        height: root.height * 0.13
+        visible: root.name !== ""
+        radius: height / 2
+        color: "#d9121a21"
         opacity: Math.max(0, root.depth * 4 - 3)
-        size: root.height * 0.08
-        isBold: true
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignBottom
+
+        MenuText {
+            id: caption
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - parent.height * 0.6)
+            text: root.name
+            color: "white"
+            size: root.height * 0.075
+            isBold: true
+        }
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "entries.js" as Entries
+import "fonts.js" as Fonts
 
 /// One entry of a CartaMenu: name, dots, price, and the details below.
 Column {
@@ -27,17 +28,17 @@ Column {
 
         Text {
             id: name
-            width: Math.max(0, Math.min(implicitWidth, parent.width - price.width - 40))
+            width: Math.max(0, Math.min(implicitWidth, parent.width - price.width - 40 * root.menu.unit))
             text: Entries.text(root.entry, "name", "name")
             color: root.menu.nameColor
-            font: root.menu.nameFont
+            font: Fonts.sized(root.menu.nameFont, root.menu.nameFont.pixelSize * root.menu.unit)
             elide: Text.ElideRight
             textFormat: Text.PlainText
         }
 
         Leader {
             anchors { left: name.right; right: price.left; baseline: name.baseline }
-            anchors.margins: 10
+            anchors.margins: 10 * root.menu.unit
             baselineOffset: height
             visible: price.text !== ""
             size: name.font.pixelSize
@@ -49,7 +50,7 @@ Column {
             anchors { right: parent.right; baseline: name.baseline }
             text: Entries.text(root.entry, "price")
             color: root.menu.priceColor
-            font: root.menu.priceFont
+            font: Fonts.sized(root.menu.priceFont, root.menu.priceFont.pixelSize * root.menu.unit)
             textFormat: Text.PlainText
         }
     }
@@ -59,7 +60,7 @@ Column {
         visible: root.menu.showDetails && text !== ""
         text: Entries.text(root.entry, "details")
         color: root.menu.detailsColor
-        font: root.menu.detailsFont
+        font: Fonts.sized(root.menu.detailsFont, root.menu.detailsFont.pixelSize * root.menu.unit)
         wrapMode: Text.WordWrap
         textFormat: Text.PlainText
     }

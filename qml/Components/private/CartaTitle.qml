@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import "fonts.js" as Fonts
 
 /// The title of a CartaMenu, which stays in place while pages turn below it.
 Rectangle {
@@ -11,16 +12,16 @@ Rectangle {
 
     z: 2
     width: Math.max(0, menu.width - menu.leftMargin - menu.rightMargin)
-    height: menu.title === "" ? 24 : label.height + 40
+    height: (menu.title === "" ? 24 : 40) * menu.unit + (menu.title === "" ? 0 : label.height)
     color: menu.backColor
 
     Text {
         id: label
-        y: 22
+        y: 22 * root.menu.unit
         width: parent.width
         text: root.menu.title
         color: root.menu.titleColor
-        font: root.menu.titleFont
+        font: Fonts.sized(root.menu.titleFont, root.menu.titleFont.pixelSize * root.menu.unit)
         elide: Text.ElideRight
     }
 }

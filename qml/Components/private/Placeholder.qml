@@ -9,7 +9,7 @@ Rectangle {
     /// Name of the drawing below "icons", without suffix.
     property string icon: "missingImage"
 
-    color: "#14808080"
+    color: "#40202a33"
     clip: true
 
     Image {
@@ -18,7 +18,7 @@ Rectangle {
         height: Math.min(root.height * 0.5, 160)
         fillMode: Image.PreserveAspectFit
         mipmap: true
-        opacity: 0.35
+        opacity: 0.6
         source: "qrc:///Nuvex/Components/icons/" + root.icon + ".png"
     }
 }

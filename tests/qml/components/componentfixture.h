@@ -24,6 +24,7 @@ public:
     /// Publishes the context properties of the program and this object, as start-up does.
     void publish(QQmlEngine& engine);
 
+    CAPI& capi() const { return *m_capi; }
     /// File names of all component documents with a contract: those of the module and the unlisted ones.
     Q_INVOKABLE QStringList components() const;
     /// Source text of the component file `fileName`.

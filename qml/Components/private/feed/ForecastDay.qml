@@ -45,6 +45,7 @@ Item {
             day: root
             room: root.width * (root.isRow ? 0.18 : 1)
             horizontalAlignment: root.isRow ? Text.AlignRight : Text.AlignHCenter
+            visible: root.isRow || root.isKnown
             text: root.isKnown ? Forecast.temperature(root.day.high, root.fahrenheit) : ""
             font.weight: Font.DemiBold
         }
@@ -53,6 +54,7 @@ Item {
             day: root
             room: root.width * (root.isRow ? 0.18 : 1)
             horizontalAlignment: root.isRow ? Text.AlignRight : Text.AlignHCenter
+            visible: root.isRow || root.isKnown
             text: root.isKnown ? Forecast.temperature(root.day.low, root.fahrenheit) : ""
             opacity: 0.7
             font.pixelSize: root.fontSize * 0.85

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "offscreenview.h"
+#include "pinned.h"
+#include "tests/qml/components/componentfixture.h"
+
+#include <QDir>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QtTest>
+
+/// How every component looks, in three sizes on three grounds: the frames that are drawn now beside the
+/// pictures that are kept. A sheet holds a fresh instance as the editor drops it; network items are also
+/// shown as on a screen that never had an answer. To renew the pictures after a wanted change, run the test
+/// with NUVEX_RENEW_REFERENCES=1 and look at what changed. After a failure the folder "reference-failures"
+/// holds the frame and what differs.
+class TestReference : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void looks_data();
+    void looks();
+    void cleanupTestCase();
+
+private:
+    QImage drawn(const QByteArray& document, int element);
+    void settle();
+
+    std::unique_ptr<ComponentFixture> m_fixture;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickItem> m_sheet;
+    std::unique_ptr<OffscreenView> m_view;
+    SteppedAnimations m_animations;
+};
+
+namespace {
+
+/// Share of the pixels that may differ, and by how much a channel may without that counting.
+constexpr double tolerance = 0.001;
+constexpr int channelTolerance = 28;
+/// The frames after which a component has entered, and particles have spread.
+constexpr int frames = 40;
+constexpr int stepsToFrame = 4;
+
+/// A picture in which a pixel stands for four, so that a difference in smoothing an edge does not count.
+QImage blurred(const QImage& picture)
+{
+    return picture.scaled(picture.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+int distance(QRgb a, QRgb b)
+{
+    return std::max(
+        {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+}
+
+/// White where two pictures of one size differ, black elsewhere.
+QImage difference(const QImage& a, const QImage& b)
+{
+    QImage result(a.size(), QImage::Format_Grayscale8);
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            result.scanLine(y)[x] = distance(a.pixel(x, y), b.pixel(x, y)) > channelTolerance ? 255 : 0;
+    }
+    return result;
+}
+
+double shareOfWhite(const QImage& picture)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        count +=
+            int(std::count(picture.constScanLine(y), picture.constScanLine(y) + picture.width(), uchar(255)));
+    return double(count) / (picture.width() * picture.height());
+}
+
+void keepFailure(const QString& name, const QImage& frame, const QImage& difference)
+{
+    QDir().mkpath(QStringLiteral("reference-failures"));
+    frame.save(QStringLiteral("reference-failures/%1.png").arg(name));
+    difference.save(QStringLiteral("reference-failures/%1-difference.png").arg(name));
+}
+
+} // namespace
+
+void TestReference::initTestCase()
+{
+    pinned::cutNetwork();
+    qputenv("TZ", "UTC");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    m_fixture = std::make_unique<ComponentFixture>();
+    m_engine = std::make_unique<QQmlEngine>();
+    m_fixture->publish(*m_engine);
+    QQmlComponent sheet(m_engine.get(),
+                        QUrl::fromLocalFile(QStringLiteral(QUICK_TEST_SOURCE_DIR "/Sheet.qml")));
+    m_sheet.reset(qobject_cast<QQuickItem*>(sheet.create()));
+    QVERIFY2(m_sheet, qPrintable(sheet.errorString()));
+    m_view = std::make_unique<OffscreenView>(m_sheet->size().toSize());
+    m_sheet->setParentItem(m_view->root());
+}
+
+void TestReference::looks_data()
+{
+    QTest::addColumn<QString>("component");
+    QTest::addColumn<int>("element");
+    for (const QString& file : m_fixture->components())
+        QTest::newRow(qPrintable(file.section('.', 0, 0))) << file << 7;
+    for (const char* name : {"Flickr", "Rss", "Twitter", "Weather", "WeatherForecast"})
+        QTest::addRow("%s-offline", name) << QStringLiteral("%1.qml").arg(name) << -1;
+}
+
+void TestReference::looks()
+{
+    QFETCH(const QString, component);
+    QFETCH(const int, element);
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    const QString kept = QStringLiteral(NUVEX_TEST_DATA "/reference/%1.png").arg(name);
+    const QString prototype = m_fixture->capi().getItemPrototype(":/Nuvex/Components/" + component);
+
+    const QImage frame =
+        drawn("import QtQuick 2.15; import QtMultimedia 5.15; import 'qrc:/Nuvex/Components'; " +
+                  prototype.toUtf8(),
+              element);
+    if (qEnvironmentVariableIsSet("NUVEX_RENEW_REFERENCES")) {
+        QVERIFY(frame.save(kept, nullptr, 0));
+        return;
+    }
+    const QImage wanted(kept);
+    QCOMPARE(wanted.size(), frame.size());
+    const QImage where = difference(blurred(wanted), blurred(frame));
+    const double share = shareOfWhite(where);
+    if (share > tolerance)
+        keepFailure(name, frame, where);
+    QVERIFY2(share <= tolerance, qPrintable(QStringLiteral("%1 % differ").arg(100 * share, 0, 'f', 2)));
+}
+
+/// A sheet of instances of `document`, as it is after they have entered.
+QImage TestReference::drawn(const QByteArray& document, int element)
+{
+    pinned::restartRandomNumbers();
+    QQmlComponent component(m_engine.get());
+    component.setData(document, QUrl(QStringLiteral("qrc:/Nuvex/reference.qml")));
+    if (!component.isReady())
+        qFatal("%s", qPrintable(component.errorString()));
+    QMetaObject::invokeMethod(m_sheet.get(), "fill", Q_ARG(QVariant, QVariant::fromValue(&component)),
+                              Q_ARG(QVariant, element));
+    settle();
+    for (int i = 0; i < frames; ++i) {
+        for (int step = 0; step < stepsToFrame; ++step)
+            m_animations.advance();
+        QCoreApplication::processEvents();
+        m_view->draw();
+    }
+    settle();
+    m_view->draw();
+    QMetaObject::invokeMethod(m_sheet.get(), "clear");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return m_view->frame();
+}
+
+void TestReference::settle()
+{
+    QVariant isSettled = false;
+    QTRY_VERIFY(QMetaObject::invokeMethod(m_sheet.get(), "isSettled", Q_RETURN_ARG(QVariant, isSettled)) &&
+                isSettled.toBool());
+}
+
+void TestReference::cleanupTestCase()
+{
+    m_sheet.reset();
+    m_view.reset();
+    m_engine.reset();
+    m_fixture.reset();
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
+    QCoreApplication::setApplicationName(QStringLiteral("Nuvex"));
+    QGuiApplication application(argc, argv);
+    TestReference test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_reference.moc"
