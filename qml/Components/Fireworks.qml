@@ -32,11 +32,6 @@ Item {
     clip: true
     Component.onCompleted: editor = Qt.createComponent("FireworksEditor.qml")
 
-    ParticlePicture {
-        id: picture
-        source: root.source
-    }
-
     ParticleSystem {
         id: sparkSystem
         running: root.onAir
@@ -81,6 +76,11 @@ Item {
             running: root.onAir && picture.isReady
             colors: root.hues.length
         }
+    }
+
+    ParticlePicture {
+        id: picture
+        source: root.source
     }
 
     Component {

@@ -38,11 +38,6 @@ Item {
     clip: true
     Component.onCompleted: editor = Qt.createComponent("ParticlesEditor.qml")
 
-    ParticlePicture {
-        id: picture
-        source: root.source
-    }
-
     ParticleSystem {
         id: system
         running: root.visible && Presence.presenceOf(root) === Presence.shown
@@ -76,6 +71,11 @@ Item {
             magnitude: root.velocity
             magnitudeVariation: root.velocity / 2
         }
+    }
+
+    ParticlePicture {
+        id: picture
+        source: root.source
     }
 
     Component {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Qt.labs.folderlistmodel 2.15
 import "limits.js" as Limits
 
 /// Watches over a media address that failed, and says when a new attempt makes sense: a file that came back or
@@ -12,8 +13,36 @@ Timer {
     property url source
     property bool failed: false
     property string watched: ""
+    // What was at the address at the last look, and whether that is still to be found out.
     property string lastSeen: ""
+    property bool isFirstLook: false
     property real pause: Limits.firstRetry
+    readonly property bool isFile: /^file:/.test(source)
+
+    // One for each look: where a server or a network drive keeps silent, the next look ends the one before.
+    property Loader line: Loader {
+        active: false
+        sourceComponent: root.isFile ? fileLook : serverLook
+    }
+
+    // Looks beside the screen's thread, and only at size and time.
+    property Component fileLook: FolderListModel {
+        folder: String(root.source).replace(/\/[^\/]*$/, "")
+        nameFilters: [decodeURIComponent(String(root.source).replace(/^.*\//, "")).replace(/[\[*?]/g, "[$&]")]
+        showDirs: false
+        showHidden: true
+        caseSensitive: true
+        onStatusChanged: {
+            if (status === FolderListModel.Ready)
+                Qt.callLater(root.compare, count > 0 ? get(0, "fileSize") + " of " + get(0, "fileModified").getTime() : "");
+        }
+    }
+
+    property Component serverLook: WorkerScript {
+        source: "look.js"
+        onMessage: Qt.callLater(root.compare, messageObject)
+        Component.onCompleted: sendMessage(String(root.source))
+    }
 
     /// The address is worth another attempt.
     signal worthTrying()
@@ -23,57 +52,45 @@ Timer {
         root.watched = "";
     }
 
-    function isFile() {
-        return String(root.source).indexOf("file:") === 0;
-    }
-
-    // What is at the address now; "" while there is nothing.
-    function fileMark() {
-        var path = String(root.source);
-        return CAPI.fileExist(path) ? "file of " + CAPI.readTextFile(path).length : "";
-    }
-
     function begin() {
         if (root.watched !== String(root.source)) {
             root.watched = String(root.source);
             root.pause = Limits.firstRetry;
             root.lastSeen = "";
         }
-        if (isFile())
-            root.lastSeen = fileMark();
+        // A file that failed is to change before it is tried again; a server only has to answer.
+        root.isFirstLook = root.isFile;
+        if (root.isFile)
+            ask();
     }
 
     function look() {
         root.pause = Math.min(root.pause * 2, Limits.longestRetry);
-        if (isFile())
-            compare(fileMark());
-        else if (/^https?:/.test(root.source))
-            askServer();
+        root.isFirstLook = false;
+        if (/^(file|https?):/.test(root.source))
+            ask();
+    }
+
+    function ask() {
+        root.line.active = false;
+        root.line.active = true;
     }
 
     function compare(mark) {
-        var isNews = mark !== "" && mark !== root.lastSeen;
+        if (!root.line.active)
+            return;
+        const isNews = mark !== "" && mark !== root.lastSeen && !root.isFirstLook;
         root.lastSeen = mark;
+        root.line.active = false;
         if (isNews)
             root.worthTrying();
-    }
-
-    function askServer() {
-        var request = new XMLHttpRequest();
-        request.onreadystatechange = function() {
-            if (request.readyState !== XMLHttpRequest.DONE || !root || !root.failed)
-                return;
-            compare(request.status === 200 ? "served " + request.getResponseHeader("Last-Modified")
-                                                       + request.getResponseHeader("Content-Length") : "");
-        };
-        request.open("HEAD", root.source);
-        request.send();
     }
 
     interval: root.pause * (1 + 0.2 * Math.random())
     running: root.failed
     repeat: true
     onFailedChanged: {
+        root.line.active = false;
         if (root.failed)
             begin();
     }

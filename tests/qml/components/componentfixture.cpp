@@ -121,13 +121,30 @@ void ComponentFixture::makePicture(const QString& name, const QColor& color, int
         qFatal("cannot write %s", qPrintable(name));
 }
 
-void ComponentFixture::makeClip(const QString& name, const QString& color, double seconds) const
+void ComponentFixture::makeCutPicture(const QString& name) const
+{
+    makePicture(name, Qt::blue, 600, 600);
+    QFile file(m_capi->resolvedPath(name));
+    file.resize(file.size() / 2);
+}
+
+void ComponentFixture::makeEnormousPicture(const QString& name) const
+{
+    QImage picture(16000, 9000, QImage::Format_Indexed8);
+    picture.setColorTable({QColor(Qt::green).rgb()});
+    picture.fill(0);
+    picture.save(m_capi->resolvedPath(name));
+}
+
+void ComponentFixture::makeClip(const QString& name, const QString& color, double seconds,
+                                const QString& size) const
 {
     const QString input =
-        QStringLiteral("color=c=%1:size=160x90:rate=25:duration=%2").arg(color).arg(seconds);
-    const QStringList arguments{"-v",  "error", "-y",      "-f",       "lavfi",   "-i",
-                                input, "-c:v",  "libx264", "-pix_fmt", "yuv420p", m_capi->resolvedPath(name)};
-    if (QProcess::execute(QStringLiteral("ffmpeg"), arguments) != 0)
+        QStringLiteral("color=c=%1:size=%2:rate=25:duration=%3").arg(color, size).arg(seconds);
+    QStringList arguments{"-v", "error", "-y", "-f", "lavfi", "-i", input};
+    if (name.endsWith(QLatin1String(".mp4")))
+        arguments += {"-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p"};
+    if (QProcess::execute(QStringLiteral("ffmpeg"), arguments += m_capi->resolvedPath(name)) != 0)
         qFatal("cannot make %s", qPrintable(name));
 }
 

@@ -34,14 +34,20 @@ public:
     /// Writes a picture of one colour into the project.
     Q_INVOKABLE void makePicture(const QString& name, const QColor& color, int width = 64,
                                  int height = 64) const;
-    /// Writes a clip of one colour, 160 x 90 at 25 frames a second, into the project.
-    Q_INVOKABLE void makeClip(const QString& name, const QString& color, double seconds) const;
+    /// Writes a picture that ends too early.
+    Q_INVOKABLE void makeCutPicture(const QString& name) const;
+    /// Writes a green picture of 16000 x 9000 pixels.
+    Q_INVOKABLE void makeEnormousPicture(const QString& name) const;
+    /// Writes a film of one colour, 25 frames a second, into the project; the suffix tells its kind.
+    Q_INVOKABLE void makeClip(const QString& name, const QString& color, double seconds,
+                              const QString& size = QStringLiteral("160x90")) const;
     /// Writes bytes that are no picture and no video.
     Q_INVOKABLE void makeGarbage(const QString& name) const;
     /// Sets the time zone of the process, as "Europe/Berlin".
     Q_INVOKABLE void setTimeZone(const QString& name);
     /// Starts taking down warnings, those of the QML engine and logged ones.
     Q_INVOKABLE void recordWarnings();
+    Q_INVOKABLE int warningCount() const { return m_warnings.size(); }
     /// Warnings since recordWarnings() or the last call.
     Q_INVOKABLE QStringList takeWarnings();
 

@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtTest 1.15
 import Nuvex.Components 1.0
+import "qrc:/Nuvex/Components/private/limits.js" as ComponentLimits
 import "qrc:/Nuvex/Components/private/feed/limits.js" as Limits
 
 // Weather, WeatherForecast, Rss, Flickr and Twitter on a screen: with an answer, without one, and with bad ones.
@@ -248,5 +249,22 @@ NetworkCase {
         const name = new Date(Date.now() + 2 * 86400000).toLocaleDateString(Qt.locale("de_DE"), "dddd");
         item.isVertical = true;
         verify(words(item).indexOf(name) >= 0, words(item) + " has " + name);
+    }
+
+    // No more than six connections go to one server: looks that are never answered must not keep theirs.
+    function test_pictureComesBackAfterSilence() {
+        const usual = ComponentLimits.firstRetry;
+        ComponentLimits.firstRetry = ComponentLimits.longestRetry = 50;
+        server.serveStatus(path("a.jpg"), 404);
+        const item = make("BasicImage { width: 100; height: 100; source: '" + server.url(path("a.jpg")) + "' }");
+        tryCompare(item, "status", Image.Error);
+        server.serveSilence(path("a.jpg"));
+        const asked = server.count(path("a.jpg"));
+        tryVerify(() => server.count(path("a.jpg")) >= asked + 9);
+        server.servePicture(path("a.jpg"), "green");
+        tryCompare(item, "status", Image.Ready);
+        ComponentLimits.firstRetry = usual;
+        ComponentLimits.longestRetry = 60000;
+        expectWarnings(1, /a\.jpg/);
     }
 }
