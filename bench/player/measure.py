@@ -14,9 +14,11 @@ import argparse
 import pathlib
 import statistics
 import tempfile
+import time
 
 from processes import Player
 
+SETTLING = 3  # seconds that belong to the start, not to the playing
 HERE = pathlib.Path(__file__).resolve().parent
 
 
@@ -40,6 +42,7 @@ def play(command, seconds):
     player = Player(command)
     try:
         shown = player.wait_for_first_frame()
+        time.sleep(SETTLING)
         cpu = player.cpu_percent(seconds)
         return shown * 1000, cpu, player.memory_mib()
     finally:

@@ -20,8 +20,6 @@ private slots:
     void referencesOfADocument();
     void problems_data();
     void problems();
-    void theDemosAreInOrder_data();
-    void theDemosAreInOrder();
 
 private:
     QQmlEngine m_engine;
@@ -83,27 +81,6 @@ void ProjectCheckTest::problems()
     found.replaceInStrings(project.path() + '/', QString());
     QFETCH(QStringList, expected);
     QCOMPARE(found.join('\n'), expected.join('\n'));
-}
-
-void ProjectCheckTest::theDemosAreInOrder_data()
-{
-    QTest::addColumn<QString>("folder");
-    const QDir demos(NUVEX_DEMOS);
-    for (const QString& name : demos.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        if (QFile::exists(demos.filePath(name + "/main.qml")))
-            QTest::newRow(qPrintable(name)) << demos.filePath(name);
-    }
-}
-
-void ProjectCheckTest::theDemosAreInOrder()
-{
-    QFETCH(QString, folder);
-    QProcess program;
-    QTemporaryDir profile;
-    program.start(NUVEX_PROGRAM, {"--profile", profile.path(), "--check", folder});
-    QVERIFY(program.waitForFinished());
-    QCOMPARE(QString::fromUtf8(program.readAllStandardOutput()), QString());
-    QCOMPARE(program.exitCode(), 0);
 }
 
 QTEST_MAIN(ProjectCheckTest)

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 
 #include "cloud/dirmap.h"
+#include "qmldoc/editingsession.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QtTest>
 
-/// The projects that ship with the program, as far as their files go.
+/// The projects that ship with the program: their files, and how they fare in the editor.
 class tst_Demos : public QObject
 {
     Q_OBJECT
@@ -16,6 +19,8 @@ class tst_Demos : public QObject
 private slots:
     void projects_data();
     void projects();
+    void editorText_data() { projects_data(); }
+    void editorText();
 };
 
 namespace {
@@ -53,6 +58,16 @@ qint64 sizeOf(const QDir& project)
     return size;
 }
 
+/// A copy of the project's folder, its files by reference, with `document` as its main document.
+void copyProject(const QDir& project, const QDir& copy, const QByteArray& document)
+{
+    for (const QString& name : project.entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+        QVERIFY(QFile::link(project.filePath(name), copy.filePath(name)));
+    QFile main(copy.filePath("main.qml"));
+    QVERIFY(main.remove() && main.open(QIODevice::WriteOnly));
+    main.write(document);
+}
+
 } // namespace
 
 void tst_Demos::projects_data()
@@ -82,6 +97,28 @@ void tst_Demos::projects()
     QVERIFY(match.hasMatch());
     QCOMPARE(match.captured(1).toInt() * match.captured(2).toInt(), 1920 * 1080);
     QVERIFY2(!document.contains("function"), "a demo is plain declarations");
+}
+
+/// The text that the editor shows instead of the document names every object, and plays without a warning.
+void tst_Demos::editorText()
+{
+    QFETCH(QString, folder);
+    EditingSession session([](const QString&, const QString&) { return true; });
+    session.setSource(QString::fromUtf8(contents(folder + "/main.qml")));
+    const QString generated = session.generateEditor();
+    QVERIFY(session.getMap().size() > 5);
+    QCOMPARE(generated.count("property int element: "), session.getMap().size());
+
+    const QTemporaryDir copy, profile;
+    copyProject(folder, copy.path(), generated.toUtf8());
+    QProcess program;
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    program.start(NUVEX_PROGRAM, {"--profile", profile.path(), "--play", copy.path(), "--screenshot",
+                                  profile.filePath("picture.png"), "--after", "1"});
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitCode(), 0);
+    const QString log = QString::fromUtf8(program.readAll());
+    QVERIFY2(log.contains("page PlayerPage") && !log.contains(".qml:"), qPrintable(log));
 }
 
 QTEST_GUILESS_MAIN(tst_Demos)
