@@ -34,7 +34,8 @@ Item {
     property color bg: "white"
     property real plus: 0
     property alias muted: video.muted
-    property alias volume: video.volume
+    /// From 0 to 1.
+    property real volume: 1
     readonly property alias playbackState: video.playbackState
     readonly property alias position: video.position
     readonly property bool settled: keeper.settled
@@ -63,6 +64,7 @@ Item {
         visible: false
         source: Media.address(root.source)
         autoLoad: false
+        volume: root.volume >= 0 ? Math.min(1, root.volume) : 0
         autoPlay: root.autoPlay && keeper.presence === Presence.shown
         loops: MediaPlayer.Infinite
         flushMode: VideoOutput.LastFrame

@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtGraphicalEffects 1.15
 import "private"
+import "private/limits.js" as Limits
 
 /// A text that glows. The glow is drawn once, and again when text or size change.
 Item {
@@ -23,11 +24,11 @@ Item {
     property alias color: label.color
     property alias text: label.text
     property color glowColor: "#2f9bff"
-    /// How far the glow reaches, in pixels.
+    /// How far the glow reaches, in pixels, up to 32.
     property real glowRadius: font.pixelSize / 3
     property alias horizontalAlignment: label.horizontalAlignment
 
-    readonly property real reach: Math.max(0, Math.min(48, glowRadius))
+    readonly property real reach: Math.max(0, Math.min(32, glowRadius))
 
     implicitWidth: label.implicitWidth + 2 * reach
     implicitHeight: label.implicitHeight + 2 * reach
@@ -35,8 +36,10 @@ Item {
 
     Text {
         id: label
-        anchors.fill: parent
-        anchors.margins: root.reach
+        x: root.reach
+        y: root.reach
+        width: Math.max(0, Math.min(Limits.effectEdge, root.width - 2 * x))
+        height: Math.max(0, Math.min(Limits.effectEdge, root.height - 2 * y))
         visible: false
         text: "Glowing text"
         color: "white"

@@ -43,6 +43,7 @@ Image {
     // The side that the camera drifts to, changed at the beginning of each way, where there is no room to drift.
     property int side: 0
     readonly property var sides: [[1, 1], [-1, -0.6], [-0.7, 1], [1, -1]]
+    readonly property var way: sides[Math.abs(side) % sides.length]
 
     function bounded(scale) {
         return isFinite(scale) ? Math.max(0.1, Math.min(8, scale)) : 1;
@@ -60,8 +61,8 @@ Image {
 
     Picture {
         id: picture
-        x: root.drift(width, root.sides[root.side][0])
-        y: root.drift(height, root.sides[root.side][1])
+        x: root.drift(width, root.way[0])
+        y: root.drift(height, root.way[1])
         width: root.width
         height: root.height
         source: root.source

@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtGraphicalEffects 1.15
 import "private"
+import "private/limits.js" as Limits
 
 /// A text with a soft shadow, for use on pictures. Both are open to change: `textItem` is the text, `shadowItem` the
 /// shadow (a DropShadow: color, radius, horizontalOffset, verticalOffset).
@@ -30,7 +31,8 @@ Item {
 
     Text {
         id: label
-        anchors.fill: parent
+        width: Math.max(0, Math.min(Limits.effectEdge, root.width))
+        height: Math.max(0, Math.min(Limits.effectEdge, root.height))
         visible: false
         text: "Text with shadow"
         color: "white"

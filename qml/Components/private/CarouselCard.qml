@@ -35,8 +35,10 @@ Item {
         MenuText {
             id: caption
             anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width - parent.height * 0.6)
+            width: Math.min(Math.ceil(implicitWidth) + 2, parent.width - parent.height * 0.6)
             text: root.name
+            height: parent.height
+            verticalAlignment: Text.AlignVCenter
             color: "white"
             size: root.height * 0.075
             isBold: true

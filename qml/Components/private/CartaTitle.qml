@@ -14,6 +14,8 @@ Rectangle {
     width: Math.max(0, menu.width - menu.leftMargin - menu.rightMargin)
     height: (menu.title === "" ? 24 : 40) * menu.unit + (menu.title === "" ? 0 : label.height)
     color: menu.backColor
+    // The list would keep its place as if the title still had its old height.
+    onHeightChanged: Qt.callLater(menu.positionViewAtBeginning)
 
     Text {
         id: label

@@ -7,6 +7,9 @@
 /// Longest edge of a decoded picture.
 var pictureEdge = 8192;
 
+/// Longest edge of a text that is drawn with an effect; some drivers end the program where a texture is too large.
+var effectEdge = 4096;
+
 /// Pauses between two attempts to get a picture or a video that failed: doubling, with jitter, for ever.
 var firstRetry = 1000;
 var longestRetry = 60000;

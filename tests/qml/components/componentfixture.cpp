@@ -3,6 +3,7 @@
 
 #include "componentfixture.h"
 
+#include "quick/chromakey.h"
 #include "quick/icontable.h"
 #include "quick/themetable.h"
 
@@ -14,6 +15,7 @@
 #include <QQmlContext>
 #include <QQmlPropertyMap>
 
+#include <algorithm>
 #include <ctime>
 
 namespace {
@@ -88,6 +90,7 @@ void ComponentFixture::publish(QQmlEngine& engine)
                                 QString::fromUtf8(resource(QStringLiteral(":/Nuvex/GUI/RoundedImage.frag"))));
     context->setContextProperty(QStringLiteral("imageScopeFragShader"),
                                 QString::fromUtf8(resource(QStringLiteral(":/Nuvex/GUI/ImageScope.frag"))));
+    context->setContextProperty(QStringLiteral("picturesPath"), m_home.path());
     context->setContextProperty(QStringLiteral("fixture"), this);
     engine.addImportPath(QStringLiteral("qrc:///./"));
 }
@@ -151,6 +154,21 @@ void ComponentFixture::makeClip(const QString& name, const QString& color, doubl
 void ComponentFixture::makeGarbage(const QString& name) const
 {
     m_capi->writeToFile(QStringLiteral("not what the name says"), name);
+}
+
+QVariantMap ComponentFixture::keyed(const QVariantMap& pixel, const QColor& light,
+                                    const QVariantMap& key) const
+{
+    const auto number = [](const QVariantMap& map, const char* name) { return map[name].toFloat(); };
+    const nuvex::Pixel result =
+        nuvex::keyPixel({number(pixel, "r"), number(pixel, "g"), number(pixel, "b"), 1},
+                        {number(key, "th"), number(key, "a2"), number(key, "amt"), number(key, "plus"),
+                         float(light.redF()), float(light.greenF()), float(light.blueF())});
+    const auto bounded = [](float channel) { return std::clamp(channel, 0.0F, 1.0F); };
+    return {{"r", bounded(result.r)},
+            {"g", bounded(result.g)},
+            {"b", bounded(result.b)},
+            {"a", bounded(result.a)}};
 }
 
 void ComponentFixture::setTimeZone(const QString& name)

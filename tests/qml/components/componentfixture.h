@@ -43,6 +43,10 @@ public:
                               const QString& size = QStringLiteral("160x90")) const;
     /// Writes bytes that are no picture and no video.
     Q_INVOKABLE void makeGarbage(const QString& name) const;
+    /// The program's chroma key of a pixel { r, g, b } under `light`, bounded as in a frame; `key` has the
+    /// members th, a2, amt and plus.
+    Q_INVOKABLE QVariantMap keyed(const QVariantMap& pixel, const QColor& light,
+                                  const QVariantMap& key) const;
     /// Sets the time zone of the process, as "Europe/Berlin".
     Q_INVOKABLE void setTimeZone(const QString& name);
     /// Starts taking down warnings, those of the QML engine and logged ones.

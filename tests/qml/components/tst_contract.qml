@@ -81,26 +81,6 @@ ComponentCase {
         waitForRendering(tile);
     }
 
-    // Every number of the prototype takes any value without a warning.
-    function test_absurdNumbersAreQuiet_data() {
-        return rows(fixture.components());
-    }
-    function test_absurdNumbersAreQuiet(data) {
-        var component = Qt.createComponent("qrc:/Nuvex/Components/" + data.file);
-        var item = createTemporaryObject(component, test);
-        var properties = CAPI.parseAndGetMap(item.cPrototype)[0].properties;
-        [-1, 0, 1e9].forEach(function(absurd) {
-            Object.keys(properties).forEach(function(key) {
-                if (typeof item[key] !== "number")
-                    return;
-                var usual = item[key];
-                item[key] = absurd;
-                wait(0);
-                item[key] = usual;
-            });
-        });
-    }
-
     // Without size and with too much of it, and while not seen.
     function test_absurdSizesAreQuiet_data() {
         return rows(fixture.components());

@@ -9,15 +9,18 @@ Item {
 
     // Makes the instances, with the item number that they have in the editor.
     function fill(component, element) {
-        for (var i = 0; i < places.count; ++i) {
-            var place = places.itemAt(i);
+        for (let i = 0; i < places.count; ++i) {
+            const place = places.itemAt(i);
             component.createObject(place, { element: element, width: place.width, height: place.height });
         }
     }
 
+    function items() {
+        return [0, 1, 2].map(i => places.itemAt(i).children[0]);
+    }
+
     function clear() {
-        for (var i = 0; i < places.count; ++i)
-            places.itemAt(i).children[0].destroy();
+        items().forEach(item => item.destroy());
     }
 
     function isSettled() {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import QtQml 2.15
 
 /// Shows a list in pages of whole rows, one page after the other, again and again; nothing is ever cut at an edge. The
 /// last page is full too: it repeats what it takes from the one before.
@@ -37,17 +36,18 @@ Item {
                 id: row
                 readonly property var entry: root.entries[root.first + index]
 
+                // A row that is about to go keeps its last entry.
+                function hand() {
+                    if (row.item && row.entry !== undefined)
+                        row.item.entry = row.entry;
+                }
+
                 width: column.width
                 height: (root.height - root.spacing * (root.rows - 1)) / root.rows
                 active: entry !== undefined
                 sourceComponent: root.delegate
-                Binding {
-                    target: row.item
-                    property: "entry"
-                    value: row.entry
-                    when: row.item !== null && row.entry !== undefined
-                    restoreMode: Binding.RestoreNone
-                }
+                onLoaded: hand()
+                onEntryChanged: hand()
             }
         }
     }

@@ -14,10 +14,12 @@ Column {
     property real measure: 100
     property real room: 200
     property bool isCentred: false
+    readonly property real lineWidth: Math.min(room, Math.max(first.implicitWidth, second.implicitWidth, third.implicitWidth))
 
     Text {
-        anchors.horizontalCenter: root.isCentred ? parent.horizontalCenter : undefined
-        width: Math.min(implicitWidth, root.room)
+        id: first
+        width: root.lineWidth
+        horizontalAlignment: root.isCentred ? Text.AlignHCenter : Text.AlignLeft
         text: root.headline
         textFormat: Text.PlainText
         elide: Text.ElideRight
@@ -27,8 +29,9 @@ Column {
     }
 
     Text {
-        anchors.horizontalCenter: root.isCentred ? parent.horizontalCenter : undefined
-        width: Math.min(implicitWidth, root.room)
+        id: second
+        width: root.lineWidth
+        horizontalAlignment: root.isCentred ? Text.AlignHCenter : Text.AlignLeft
         visible: text !== ""
         text: root.detail
         textFormat: Text.PlainText
@@ -39,8 +42,9 @@ Column {
     }
 
     Text {
-        anchors.horizontalCenter: root.isCentred ? parent.horizontalCenter : undefined
-        width: Math.min(implicitWidth, root.room)
+        id: third
+        width: root.lineWidth
+        horizontalAlignment: root.isCentred ? Text.AlignHCenter : Text.AlignLeft
         visible: text !== ""
         text: root.place
         textFormat: Text.PlainText
