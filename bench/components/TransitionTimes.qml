@@ -9,9 +9,10 @@ Rectangle {
     id: root
 
     default property alias content: stage.data
-    readonly property var names: ["fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover"]
+    readonly property var names: ["fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown",
+                                  "cover"]
     readonly property Item show: stage.children[0]
-    property int turns: 3
+    property int turns: 2
     property int done: 0
 
     function turn() {

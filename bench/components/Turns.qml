@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-/// Turns its only child, a show with next() and slideShown(), as often and as fast as it can, and logs "made NAME COUNT"
-/// now and then, at last "done".
+/// Turns its only child, a show with next() and slideShown(), as often and as fast as it can, and logs
+/// "made NAME COUNT" now and then, at last "done".
 Rectangle {
     id: root
 

@@ -26,13 +26,23 @@ import "%s"
 Creations { imports: "%s"; kinds: [%s] }
 """
 # No service is asked.
-SETTINGS = {"Weather": "service: ''", "WeatherForecast": "service: ''", "Flickr": "service: ''", "Twitter": "service: ''",
-            "Rss": "currentFeed: ''"}
-PLAIN = {"Item": "", "Rectangle": "width: 240; height: 160", "Text": "text: 'Your text here'; font.pixelSize: 48",
-         "Image": "source: 'qrc:/Nuvex/Components/icons/noImage.png'", "Video": "", "ListView": "model: 5; delegate: Item {}",
-         "Grid": "Repeater { model: 6; Rectangle {} }", "ColumnLayout": "Repeater { model: 42; Text { text: index } }",
-         "PathView": "model: 5; delegate: Item {} path: Path { PathLine { x: 100 } }",
-         "ParticleSystem": "ImageParticle {} Emitter {}", "Button": "text: 'Button'"}
+SILENT = "service: ''"
+SETTINGS = {"Weather": SILENT, "WeatherForecast": SILENT, "Flickr": SILENT, "Twitter": SILENT, "Rss": "currentFeed: ''"}
+PLAIN = {
+    "item": "Item {}",
+    "rectangle": "Rectangle { width: 240; height: 160 }",
+    "text": "Text { text: 'Your text here'; font.pixelSize: 48 }",
+    "image": "Image { source: 'qrc:/Nuvex/Components/icons/noImage.png' }",
+    "layers": "Row { Repeater { model: 6; Rectangle { width: 99; height: 99; "
+              "layer.enabled: true; layer.effect: ShaderEffect {} } } }",
+    "video": "Video {}",
+    "listview": "ListView { model: 5; delegate: Item {} }",
+    "grid": "Grid { Repeater { model: 6; Rectangle {} } }",
+    "columnlayout": "ColumnLayout { Repeater { model: 42; Text { text: index } } }",
+    "pathview": "PathView { model: 5; delegate: Item {} path: Path { PathLine { x: 100 } } }",
+    "particles": "ParticleSystem { ImageParticle {} Emitter {} }",
+    "button": "Button { text: 'Button' }"
+}
 PLAYING = {"Video": "autoPlay: true", "BasicVideo": "", "ChromaVideo": "", "TransparentVideo": "autoPlay: true"}
 
 
@@ -47,18 +57,18 @@ def kind(name, text, total, at_a_time):
 
 def kinds(total, clip, only):
     """The plain types are named in lower case."""
-    result = {name.lower(): kind(name.lower(), f"{name} {{ {text} }}", total, 50) for name, text in PLAIN.items()}
+    result = {name: kind(name, text, total, 50) for name, text in PLAIN.items()}
     result |= {name: kind(name, f"{name} {{ {SETTINGS.get(name, '')} }}", total, 50) for name in listed_components()}
     for name, text in PLAYING.items():
-        title = "playing-" + (name.lower() if name in PLAIN else name)
-        result[title] = kind(title, f"{name} {{ width: 64; height: 36; source: '{clip.as_uri()}'; {text} }}", total // 10, 5)
+        title, place = "playing-" + name, f"width: 64; height: 36; source: '{clip.as_uri()}'"
+        result[title] = kind(title, f"{name} {{ {place}; {text} }}", total // 10, 5)
     return [text for name, text in result.items() if not only or name in only]
 
 
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("nuvex")
-    parser.add_argument("--total", type=int, default=2000)
+    parser.add_argument("--total", type=int, default=2000, help="at least 200")
     parser.add_argument("--only", nargs="*", default=[])
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """What a process holds at the marks that its document logs.
 
-A mark is "made NAME COUNT": so many of this kind are gone by now. "rest begins" and "rest ends" say that nothing happens
-between, "done" ends the run.
+A mark is "made NAME COUNT": so many of this kind are gone by now. "rest begins" and "rest ends" say that nothing
+happens between, "done" ends the run.
 """
 import os
 import pathlib

@@ -5,7 +5,7 @@
 
 transitions.py NUVEX [--rounds N]
 
-Two pictures of 1280x720, each transition of one second three times a round, in Nuvex and in qmlscene by turns; the
+Two pictures of 1280x720, each transition of one second twice a round, in Nuvex and in qmlscene by turns; the
 first round is dropped. Prints the 95th percentile of each. Needs the target frametimes beside NUVEX.
 """
 import argparse

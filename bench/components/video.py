@@ -3,12 +3,13 @@
 # SPDX-License-Identifier: MIT
 """Compares BasicVideo, TransparentVideo and ChromaVideo with Qt's bare VideoOutput and with other players.
 
-video.py NUVEX [--size WIDTHxHEIGHT] [--rounds N] [--seconds S]
+video.py NUVEX [--size WIDTHxHEIGHT] [--rounds N] [--seconds S] [--only COMPONENT]
 
 Each shows the same clip, made for the occasion, over the whole virtual screen. A frame counts as dropped when its
 number (see clips.py) is on none of the pictures grabbed of the screen, 200 a second, while it was due. CPU is what the
-program itself uses, in percent of one core, and drawing the time that the scene graph takes for a frame, in ms. The
-programs take turns; the first round is dropped.
+program itself uses, in percent of one core; that of Mesa's threads, which do what a graphics card would, is also told
+on its own. Drawing is the time that the scene graph takes for a frame, in ms. The programs take turns; the first round
+is dropped.
 """
 import argparse
 import os
@@ -18,7 +19,7 @@ import tempfile
 import time
 
 import clips
-from turns import QMLSCENE, Player, in_turns, nuvex_playing, print_table
+from turns import CLOCK_TICKS, QMLSCENE, Player, in_turns, nuvex_playing, print_table
 
 LEAD = 3  # seconds from the start to the measurement
 
@@ -55,17 +56,25 @@ def commands(nuvex, component, clip, size, folder):
     }
 
 
+def rasterizing(player):
+    """Processor seconds that Mesa's software rasterizer has used."""
+    stats = [path.read_text() for path in pathlib.Path(f"/proc/{player.process.pid}/task").glob("*/stat")]
+    fields = [stat.rsplit(")", 1)[1].split() for stat in stats if "(llvmpipe" in stat]
+    return sum(int(words[11]) + int(words[12]) for words in fields) / CLOCK_TICKS
+
+
 def play(command, seconds):
-    """(dropped frames, CPU, ms of drawing or None)"""
+    """(dropped frames, CPU, Mesa's part of it, ms of drawing or None)"""
     player = Player(command)
     try:
         time.sleep(LEAD)
         seen, watch = len(player.frames), clips.Watch(seconds)
-        cpu = player.cpu_percent(seconds)
+        before, cpu = rasterizing(player), player.cpu_percent(seconds)
+        mesa = 100 * (rasterizing(player) - before) / seconds
         shown, drawn = watch.numbers(), player.frames[seen:]
         if not shown:
             raise RuntimeError(" ".join(command) + " showed no numbered frame: " + "\n".join(player.messages[-5:]))
-        return max(0, seconds * clips.RATE - len(shown)), cpu, statistics.mean(drawn) if drawn else None
+        return max(0, seconds * clips.RATE - len(shown)), cpu, mesa, statistics.mean(drawn) if drawn else None
     finally:
         player.stop()
 
@@ -78,7 +87,8 @@ def compare(nuvex, component, options):
         results = in_turns(commands(nuvex, component, clip, options.size, folder), options.rounds,
                            lambda command: play(command, options.seconds))
     print(f"{component}, {kind} clip of {options.size}, {options.rounds - 1} rounds of {options.seconds} s\n")
-    print_table([f"dropped of {options.seconds * clips.RATE}", "CPU, % of a core", "drawing, ms"], results, 1)
+    titles = [f"dropped of {options.seconds * clips.RATE}", "CPU, % of a core", "of it Mesa's", "drawing, ms"]
+    print_table(titles, results, 1)
     print(flush=True)
 
 
@@ -86,10 +96,11 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("nuvex")
     parser.add_argument("--size", default=os.environ.get("NUVEX_SCREEN", "1280x720"))
+    parser.add_argument("--only", choices=COMPONENTS)
     parser.add_argument("--rounds", type=int, default=6)
     parser.add_argument("--seconds", type=int, default=8)
     options = parser.parse_args()
-    for component in COMPONENTS:
+    for component in [options.only] if options.only else COMPONENTS:
         compare(options.nuvex, component, options)
 
 
