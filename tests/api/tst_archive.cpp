@@ -3,6 +3,7 @@
 
 #include "api/archive.h"
 #include "tests/support/faults.h"
+#include "tests/support/files.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/ziparchive.h"
 
@@ -36,14 +37,6 @@ Tree treeOf(const QString& folder)
             tree.insert(path.mid(folder.size() + 1), file.readAll());
     }
     return tree;
-}
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
 }
 
 QByteArray noise(int size, quint32 seed)

@@ -3,6 +3,7 @@
 
 #include "api/projectfolder.h"
 #include "api/workspace.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,24 +13,6 @@
 #include <QTemporaryDir>
 #include <QUrl>
 #include <QtTest>
-
-namespace {
-
-void put(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
-} // namespace
 
 class ProjectFolderTest : public QObject
 {
@@ -107,33 +90,33 @@ void ProjectFolderTest::copyToDir()
     QFETCH(QString, source);
     QFETCH(QString, result);
     const QString outside = m_home->filePath("media/" + source);
-    put(outside, "picture");
+    write(outside, "picture");
     QCOMPARE(m_project->copyToDir(QUrl::fromLocalFile(outside).toString(QUrl::FullyEncoded), "images"),
              result);
-    QCOMPARE(content(in(result)), QByteArray("picture"));
+    QCOMPARE(contents(in(result)), QByteArray("picture"));
     // Copying the copy into its own place changes nothing, where the name allows it.
     if (result.endsWith(source))
         QCOMPARE(m_project->copyToDir(result, "images"), result);
-    QCOMPARE(content(in(result)), QByteArray("picture"));
+    QCOMPARE(contents(in(result)), QByteArray("picture"));
     QCOMPARE(m_project->copyToDir("not there.png", "images"), QString());
 }
 
 void ProjectFolderTest::copyReplacesAndMakesFolders()
 {
-    put(in("a.txt"), "new");
-    put(in("deep/er/b.txt"), "old");
+    write(in("a.txt"), "new");
+    write(in("deep/er/b.txt"), "old");
     QVERIFY(m_project->copy("a.txt", "deep/er/b.txt"));
     QVERIFY(m_project->copy("a.txt", "quite/new/c.txt"));
-    QCOMPARE(content(in("deep/er/b.txt")), QByteArray("new"));
-    QCOMPARE(content(in("quite/new/c.txt")), QByteArray("new"));
+    QCOMPARE(contents(in("deep/er/b.txt")), QByteArray("new"));
+    QCOMPARE(contents(in("quite/new/c.txt")), QByteArray("new"));
     QVERIFY(!m_project->copy("missing", "deep/er/b.txt"));
 }
 
 void ProjectFolderTest::copyOntoItselfLeavesTheFile()
 {
-    put(in("a.txt"), "kept");
+    write(in("a.txt"), "kept");
     QVERIFY(m_project->copy("a.txt", QUrl::fromLocalFile(in("a.txt")).toString()));
-    QCOMPARE(content(in("a.txt")), QByteArray("kept"));
+    QCOMPARE(contents(in("a.txt")), QByteArray("kept"));
 }
 
 void ProjectFolderTest::textRoundTrip_data()
@@ -150,22 +133,22 @@ void ProjectFolderTest::textRoundTrip()
     QFETCH(QString, text);
     QVERIFY(m_project->write(text, "sub/main.qml"));
     QCOMPARE(m_project->read("sub/main.qml"), text);
-    QCOMPARE(content(in("sub/main.qml")), text.toUtf8());
+    QCOMPARE(contents(in("sub/main.qml")), text.toUtf8());
 }
 
 void ProjectFolderTest::writeThatFailsKeepsTheFile()
 {
-    put(in("file"), "kept");
+    write(in("file"), "kept");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(".*"));
     QVERIFY(!m_project->write("text", "file/below"));
-    QCOMPARE(content(in("file")), QByteArray("kept"));
+    QCOMPARE(contents(in("file")), QByteArray("kept"));
 }
 
 void ProjectFolderTest::appendAddsLines()
 {
     QVERIFY(m_project->append("x", "logs/list.txt"));
     QVERIFY(m_project->append(QString::fromUtf8("é"), "logs/list.txt"));
-    QCOMPARE(content(in("logs/list.txt")), QByteArray("x\n\xc3\xa9\n"));
+    QCOMPARE(contents(in("logs/list.txt")), QByteArray("x\n\xc3\xa9\n"));
     QVERIFY(!m_project->append("x", "/dev/full"));
 }
 
@@ -181,7 +164,7 @@ void ProjectFolderTest::readOfWhatCannotBeRead()
 
 void ProjectFolderTest::renameLandsInTheProject()
 {
-    put(in("images/a.png"), "a");
+    write(in("images/a.png"), "a");
     QVERIFY(m_project->rename("images/a.png", "b.png"));
     QVERIFY(m_project->exists("b.png") && !m_project->exists("images/a.png"));
     QVERIFY(m_project->remove("b.png"));
@@ -190,7 +173,7 @@ void ProjectFolderTest::renameLandsInTheProject()
 
 void ProjectFolderTest::resolvedUrl()
 {
-    put(in("images/own.png"), "x");
+    write(in("images/own.png"), "x");
     QCOMPARE(m_project->resolvedUrl("images/own.png"), QUrl::fromLocalFile(in("images/own.png")).toString());
     const QString library = m_project->resolvedUrl("icons/noImage.png");
     QCOMPARE(library, QString("file::/Nuvex/Components/icons/noImage.png"));
@@ -201,7 +184,7 @@ void ProjectFolderTest::resolvedUrl()
 void ProjectFolderTest::sourcesAreFilesOfThreeKinds()
 {
     for (const char* name : {"main.qml", "notes.txt", "lib.js", "picture.png", "dirmap"})
-        put(in(name), "x");
+        write(in(name), "x");
     QDir(m_project->absolutePath()).mkdir("folder.qml");
     QStringList sources = m_project->sources();
     sources.sort();
@@ -213,7 +196,7 @@ void ProjectFolderTest::fontsAreRegisteredOnce()
     QDir(m_project->absolutePath()).mkdir("fonts");
     QVERIFY(QFile::copy(":/Nuvex/Components/fonts/lobster.ttf", in("fonts/one.ttf")));
     QVERIFY(QFile::copy(":/Nuvex/Components/fonts/lobster.ttf", in("fonts/two.ttf")));
-    put(in("fonts/broken.ttf"), "no font");
+    write(in("fonts/broken.ttf"), "no font");
     const QString family = "Lobster Two";
     QVERIFY(!m_project->fonts(false).contains(family));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Not a usable font"));
@@ -230,8 +213,8 @@ void ProjectFolderTest::projectsAreListedMadeRenamedRemoved()
     QVERIFY(workspace.create("Shop"));
     QVERIFY(!workspace.create("Shop"));
     QVERIFY(workspace.create(QString::fromUtf8("Büro .5")));
-    put(workspace.workDirectory() + "/scratch.zip", "x");
-    put(workspace.workDirectory() + "/Shop/images/a.png", "x");
+    write(workspace.workDirectory() + "/scratch.zip", "x");
+    write(workspace.workDirectory() + "/Shop/images/a.png", "x");
     QStringList projects = workspace.listProjects();
     projects.sort();
     QCOMPARE(projects, QStringList({QString::fromUtf8("Büro .5"), "Shop"}));

@@ -3,6 +3,7 @@
 
 #include "cloud/atomicfile.h"
 #include "tests/support/faults.h"
+#include "tests/support/files.h"
 #include "tests/support/logcapture.h"
 
 #include <QDir>
@@ -13,12 +14,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
 
 QStringList everything(const QString& folder)
 {

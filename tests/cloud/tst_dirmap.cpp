@@ -4,29 +4,13 @@
 #include "cloud/dirmap.h"
 #include "cloud/limits.h"
 #include "tests/support/faults.h"
+#include "tests/support/files.h"
 #include "tests/support/logcapture.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-} // namespace
 
 class TestDirmap : public QObject
 {

@@ -3,6 +3,7 @@
 
 #include "cloud/dirmap.h"
 #include "qmldoc/editingsession.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -30,12 +31,6 @@ const qint64 largestDemo = 6 * 1024 * 1024;
 QDir demos()
 {
     return QDir(NUVEX_TEST_DATA "/../../demos");
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// Every file of the project but its directory map, with revision 1.

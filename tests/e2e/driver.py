@@ -11,8 +11,10 @@ import signal
 import socket
 import string
 import subprocess
+import sys
 import tempfile
 import time
+import unittest
 from pathlib import Path
 
 DEADLINE = 20  # seconds until something that should happen counts as not happening
@@ -102,6 +104,7 @@ class Program:
         self.screen = screen
         self.profile = profile
         self.nudge = 4
+        self.closed = False
         self.probe = Path(tempfile.mkdtemp(dir=profile.folder))
         self.log_file = profile.folder / "log"
         fake_tools = profile.folder / "bin"
@@ -237,10 +240,15 @@ class Program:
     def wait_restarted(self, old_pid):
         """Waits for the process that replaces this one."""
         self.process.wait(DEADLINE)
-        wait_for(lambda: self.tree().get("pid") not in (None, old_pid), "the restarted program")
+        wait_for(lambda: self.tree().get("pid") not in (None, old_pid),
+                 lambda: "the restarted program; log:\n" + self.log())
         self.focus()
 
     def close(self):
+        """Ends the program, also when it has restarted as another process; does nothing the second time."""
+        if self.closed:
+            return
+        self.closed = True
         restarted = self.tree().get("pid")
         self.process.kill()
         self.process.wait()
@@ -255,3 +263,29 @@ def read_setup():
     parser.add_argument("--program", required=True)
     parser.add_argument("--plugins", required=True)
     return parser.parse_known_args()
+
+
+class ProgramTest(unittest.TestCase):
+    """A test of the running program, with a profile of its own."""
+    setup = None
+    screen = None
+
+    def setUp(self):
+        self.profile = Profile()
+        self.addCleanup(self.profile.remove)
+
+    def start(self, *arguments):
+        """Starts the program; it ends with the test at the latest."""
+        program = Program(self.setup, self.screen, self.profile, *arguments)
+        self.addCleanup(program.close)
+        return program
+
+
+def run_tests():
+    """Runs the tests of the main module on a screen of their own."""
+    ProgramTest.setup, rest = read_setup()
+    ProgramTest.screen = Screen()
+    try:
+        unittest.main(argv=[sys.argv[0], *rest])
+    finally:
+        ProgramTest.screen.close()

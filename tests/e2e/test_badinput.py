@@ -2,15 +2,12 @@
 # SPDX-License-Identifier: MIT
 """What is wrong on a player's disk: the real program starts, says so in its log and on the page, and goes on."""
 
-import os
 import random
 import shutil
 import struct
-import sys
-import unittest
 import zlib
 
-from driver import Profile, Program, Screen, read_setup, wait_for
+from driver import ProgramTest, run_tests, wait_for
 
 IMPORTS = "import QtQuick 2.15\nimport Nuvex.Components 1.0\n"
 
@@ -31,17 +28,10 @@ PNG = (b"\x89PNG\r\n\x1a\n" + png_chunk(b"IHDR", struct.pack(">IIBBBBB", 1, 1, 8
        + png_chunk(b"IDAT", zlib.compress(b"\0\0\0\xff")) + png_chunk(b"IEND", b""))
 
 
-class BadInputTest(unittest.TestCase):
-    def setUp(self):
-        self.profile = Profile()
-        self.addCleanup(self.profile.remove)
-
+class BadInputTest(ProgramTest):
     def use(self, project, **settings):
         self.profile.write_settings(**{"userEmail": "ann@example.org", "playerUID": "west_12", "doOnStart": "play",
                                        "lastProject": project, **settings})
-
-    def start(self, *arguments):
-        return Program(SETUP, SCREEN, self.profile, *arguments)
 
     def assert_usable(self, program):
         """Every project, also a broken one, leaves the way to the other pages open."""
@@ -95,7 +85,7 @@ class BadInputTest(unittest.TestCase):
             BasicVideo { anchors.fill: parent; source: "broken.mp4" }
             BasicImage { source: "nowhere.png" }
             Text"""))
-        (folder / "broken.mp4").write_bytes(os.urandom(100_000))
+        (folder / "broken.mp4").write_bytes(random.Random(1).randbytes(100_000))
         self.use("Shop")
         with self.start() as program:
             program.wait_text("no picture")
@@ -151,7 +141,7 @@ class BadInputTest(unittest.TestCase):
 
     def test_import_of_a_broken_archive(self):
         self.profile.add_project("Shop")
-        (self.profile.work / "Shop/broken.zip").write_bytes(b"PK\x03\x04" + os.urandom(500))
+        (self.profile.work / "Shop/broken.zip").write_bytes(b"PK\x03\x04" + random.Random(1).randbytes(500))
         self.use("Shop", doOnStart="")
         with self.start() as program:
             program.click("Open")
@@ -167,9 +157,4 @@ class BadInputTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    SETUP, rest = read_setup()
-    SCREEN = Screen()
-    try:
-        unittest.main(argv=[sys.argv[0], *rest])
-    finally:
-        SCREEN.close()
+    run_tests()

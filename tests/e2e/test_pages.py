@@ -2,11 +2,9 @@
 # SPDX-License-Identifier: MIT
 """Every button of every page, by mouse and by keyboard, in the real program."""
 
-import sys
-import unittest
 import zipfile
 
-from driver import Profile, Program, Screen, read_setup, wait_for
+from driver import ProgramTest, run_tests, wait_for
 
 ACCOUNT = {"userEmail": "ann@example.org", "playerUID": "west_12", "doOnStart": "", "lastProject": "Shop"}
 
@@ -46,17 +44,11 @@ OTHERS = {
 }
 
 
-class PagesTest(unittest.TestCase):
+class PagesTest(ProgramTest):
     def setUp(self):
-        self.profile = Profile()
-        self.addCleanup(self.profile.remove)
+        super().setUp()
         self.profile.write_settings(**ACCOUNT)
         self.profile.add_project("Shop")
-
-    def start(self, *arguments):
-        program = Program(SETUP, SCREEN, self.profile, *arguments)
-        self.addCleanup(program.close)
-        return program
 
     def go_to(self, program, page):
         while program.page() != "MainPage":
@@ -325,9 +317,4 @@ class PagesTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    SETUP, rest = read_setup()
-    SCREEN = Screen()
-    try:
-        unittest.main(argv=[sys.argv[0], *rest])
-    finally:
-        SCREEN.close()
+    run_tests()
