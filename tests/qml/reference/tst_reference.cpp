@@ -47,11 +47,11 @@ private:
 namespace {
 
 /// Share of the pixels that may differ, and by how much a channel may without that counting.
-constexpr double tolerance = 0.001;
+constexpr double tolerance = 0.0002;
 constexpr int channelTolerance = 28;
 /// The frames after which a component has entered, and particles have spread.
-constexpr int frames = 40;
-constexpr int stepsToFrame = 4;
+constexpr int frames = 20;
+constexpr int stepsToFrame = 8;
 
 /// A picture in which a pixel stands for four, so that a difference in smoothing an edge does not count.
 QImage blurred(const QImage& picture)
@@ -111,7 +111,8 @@ QVariantList absurdValues(const QVariant& usual)
     case QVariant::Double:
         return {-1, 0, qQNaN(), 1e9};
     case QVariant::String:
-        return {QString(), "\u202e<b>\"'%1 {tag}\\" + QString(3000, QChar(0xfdfd)) + "\n\t"};
+        return {QString(),
+                "\u202e<b>\"'%1 {tag}\\" + QString(20, QChar(0xfdfd)) + QString(3000, 'W') + "\n\t"};
     default:
         return {};
     }
