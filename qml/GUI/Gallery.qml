@@ -5,16 +5,18 @@ import QtQuick.Templates 2.15 as T
 import QtQuick.Window 2.15
 import "."
 
-// Every widget in every state, on sheets in as many columns as fit. The keyboard reaches all of them; the sheet with
-// the focus scrolls into view.
+// Sheets that show every widget in every state, and what else its host adds, in chapters of which one is open. The
+// keyboard reaches all of it: what has the focus scrolls into view, and the keys for pages scroll.
 FocusScope {
     id: gallery
 
-    // The sheets, in order, as documents relative to this one.
-    property var sheets: ["Buttons", "Choices", "Fields", "Messages", "Source", "Lists", "Pictures", "Colors", "Scale",
-                          "Files", "Icons"].map(name => "gallery/Gallery" + name + ".qml")
+    // Chapters as maps with "text" and "faIcon" for their tabs and "source", a document with the sheets.
+    property var chapters: [{ "text": qsTr("Widgets"), "faIcon": "fa-check-square-o", "source": "gallery/GalleryWidgets.qml" }]
+    property alias currentIndex: tabs.currentIndex
+    // What the open chapter shows; null while it loads.
+    readonly property alias chapter: loader.item
 
-    readonly property int columns: Math.max(1, Math.min(3, Math.floor(width / (62 * Theme.unit))))
+    readonly property int columns: chapter ? chapter.columns : 1
     readonly property real gap: 2 * Theme.unit
     readonly property Item focusedItem: Window.activeFocusItem
 
@@ -26,10 +28,27 @@ FocusScope {
         return false;
     }
 
+    function scrollTo(y) {
+        flick.contentY = Math.max(0, Math.min(y, flick.contentHeight - flick.height));
+    }
+
     function reveal(item) {
         const y = item.mapToItem(flick.contentItem, 0, 0).y;
         const below = y + Math.min(item.height, flick.height - 2 * gap) + gap - flick.height;
-        flick.contentY = Math.max(0, Math.max(below, Math.min(flick.contentY, y - gap)));
+        scrollTo(Math.max(below, Math.min(flick.contentY, y - gap)));
+    }
+
+    function scrollByKey(key) {
+        const steps = {};
+        steps[Qt.Key_Up] = -8 * Theme.unit;
+        steps[Qt.Key_Down] = 8 * Theme.unit;
+        steps[Qt.Key_PageUp] = -0.9 * flick.height;
+        steps[Qt.Key_PageDown] = 0.9 * flick.height;
+        steps[Qt.Key_Home] = -flick.contentHeight;
+        steps[Qt.Key_End] = flick.contentHeight;
+        if (steps[key] !== undefined)
+            scrollTo(flick.contentY + steps[key]);
+        return steps[key] !== undefined;
     }
 
     onFocusedItemChanged: {
@@ -37,46 +56,48 @@ FocusScope {
             reveal(focusedItem);
     }
 
+    Keys.onPressed: event.accepted = scrollByKey(event.key)
+
     Rectangle {
         anchors.fill: parent
         color: Theme.ground
     }
 
+    Rectangle {
+        id: bar
+        width: parent.width
+        height: visible ? tabs.height : 0
+        visible: gallery.chapters.length > 1
+        color: Theme.surface
+
+        SwitchTabs {
+            id: tabs
+            width: parent.width
+            leftMargin: gallery.gap / 2
+            rightMargin: gallery.gap / 2
+            focus: bar.visible
+            currentIndex: 0
+            model: gallery.chapters
+            onCurrentIndexChanged: flick.contentY = 0
+        }
+    }
+
     Flickable {
         id: flick
         anchors.fill: parent
-        contentHeight: row.height + 2 * gallery.gap
+        anchors.topMargin: bar.height
+        contentHeight: loader.height + 2 * gallery.gap
         boundsBehavior: Flickable.StopAtBounds
+        clip: bar.visible
 
         T.ScrollBar.vertical: ScrollBar {}
 
-        Row {
-            id: row
+        Loader {
+            id: loader
             x: gallery.gap
             y: gallery.gap
-            spacing: gallery.gap
-
-            Repeater {
-                model: gallery.columns
-
-                Column {
-                    id: column
-
-                    readonly property int number: index
-
-                    width: (flick.width - (gallery.columns + 1) * gallery.gap) / gallery.columns
-                    spacing: gallery.gap
-
-                    Repeater {
-                        model: gallery.sheets.filter((sheet, i) => i % gallery.columns === column.number)
-
-                        Loader {
-                            width: column.width
-                            source: modelData
-                        }
-                    }
-                }
-            }
+            width: flick.width - 2 * gallery.gap
+            source: gallery.chapters[tabs.currentIndex].source
         }
     }
 }

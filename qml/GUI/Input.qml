@@ -18,6 +18,19 @@ T.TextField {
     readonly property real fieldHeight: Math.max(Theme.controlHeight(size), Math.ceil(contentHeight))
     readonly property bool showsClear: clearable && text !== "" && enabled && !readOnly
 
+    // A text longer than its field shows its start while nobody writes in it.
+    function rest() {
+        if (!activeFocus)
+            cursorPosition = 0;
+    }
+
+    onTextChanged: rest()
+    onActiveFocusChanged: {
+        rest();
+        if (activeFocus && focusReason !== Qt.MouseFocusReason)
+            cursorPosition = length;
+    }
+
     implicitWidth: 28 * Theme.unit
     implicitHeight: fieldHeight + bottomInset
     bottomInset: error === "" ? 0 : message.implicitHeight + Theme.unit / 2

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import "../../GUI/gallery"
+import ".."
+
+// Pictures, video and web pages.
+SheetColumns {
+    id: sheets
+
+    readonly property string samples: "qrc:///Nuvex/Components/icons/"
+
+    narrowest: 40
+    most: 4
+
+    Specimen {
+        title: "BasicImage"
+        about: qsTr("A picture")
+        BasicImage { width: 640; height: 360; source: sheets.samples + "sampleSalad.png"; fillMode: Image.PreserveAspectCrop }
+    }
+
+    Specimen {
+        title: "KImage"
+        about: qsTr("A picture that is approached slowly")
+        KImage { width: 640; height: 360; source: sheets.samples + "sampleCake.png"; kTime: 6000 }
+    }
+
+    Specimen {
+        title: "LiveImage"
+        about: qsTr("A picture that comes and goes")
+        LiveImage { width: 640; height: 360; source: sheets.samples + "samplePizza.png"; backColor: "#f3eee3" }
+    }
+
+    Specimen {
+        title: "Flickr"
+        about: qsTr("Photos of the web by their tags; here without network")
+        Flickr { width: 640; height: 360; service: "" }
+    }
+
+    Specimen {
+        title: "BasicVideo"
+        about: qsTr("A video; here before one is chosen")
+        BasicVideo { width: 640; height: 360 }
+    }
+
+    Specimen {
+        title: "ChromaVideo"
+        about: qsTr("A video whose green becomes transparent")
+        ChromaVideo { width: 640; height: 360 }
+    }
+
+    Specimen {
+        title: "BasicWebView"
+        about: qsTr("A web page; here before one is chosen")
+        BasicWebView { width: 640; height: 360 }
+    }
+}

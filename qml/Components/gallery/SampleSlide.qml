@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import ".."
+
+// A slide of one colour that says what it is.
+Slide {
+    id: slide
+
+    property string text
+
+    duration: 3000
+
+    BasicRectangle {
+        width: 960
+        height: 540
+        color: slide.tagColor
+    }
+
+    BasicText {
+        width: 960
+        height: 540
+        text: slide.text
+        color: "white"
+        font.family: "Open Sans"
+        font.pixelSize: 72
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+}
