@@ -32,7 +32,8 @@ void record(QtMsgType type, const QMessageLogContext& context, const QString& te
     const QByteArray file(context.file);
     const bool isOurs = QByteArray(context.category).startsWith("nuvex") || file.startsWith("qrc:") ||
                         file.startsWith("file:");
-    if (recorder && type == QtWarningMsg && isOurs)
+    const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
+    if (recorder && isWarning && (isOurs || recorder->recordsAll()))
         recorder->addWarning(text);
     nextHandler(type, context, text);
 }
@@ -69,8 +70,9 @@ ComponentFixture::~ComponentFixture()
     recorder = nullptr;
 }
 
-void ComponentFixture::recordWarnings()
+void ComponentFixture::recordWarnings(bool all)
 {
+    m_recordsAll = all;
     recorder = this;
     m_warnings.clear();
     // The framework installs its handler anew for each document.

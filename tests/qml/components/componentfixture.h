@@ -49,16 +49,18 @@ public:
                                   const QVariantMap& key) const;
     /// Sets the time zone of the process, as "Europe/Berlin".
     Q_INVOKABLE void setTimeZone(const QString& name);
-    /// Starts taking down warnings, those of the QML engine and logged ones.
-    Q_INVOKABLE void recordWarnings();
+    /// Starts taking down warnings, those of the QML engine and of the program, or `all` that are logged.
+    Q_INVOKABLE void recordWarnings(bool all = false);
     Q_INVOKABLE int warningCount() const { return m_warnings.size(); }
     /// Warnings since recordWarnings() or the last call.
     Q_INVOKABLE QStringList takeWarnings();
 
+    bool recordsAll() const { return m_recordsAll; }
     void addWarning(const QString& text) { m_warnings.append(text); }
 
 private:
     QTemporaryDir m_home;
     std::unique_ptr<CAPI> m_capi;
     QStringList m_warnings;
+    bool m_recordsAll = false;
 };

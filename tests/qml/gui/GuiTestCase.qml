@@ -7,17 +7,24 @@ import QtTest 1.15
 TestCase {
     id: testCase
 
+    /// URL of a folder to browse: the folders Archives, Empty and "Zoo & Ärger 100%", and alpha.zip, beta.zip,
+    /// "gamma #1.zip" and notes.txt.
+    readonly property string testFolder: fixture.url("browse")
+
     property Item stage: Item {
         parent: testCase.parent
         anchors.fill: parent
     }
 
     function initTestCase() {
-        warningLog.watch();
+        ["beta.zip", "alpha.zip", "gamma #1.zip", "notes.txt", "Archives/a", "Zoo & Ärger 100%/a", "Empty/a"].forEach(
+            name => CAPI.writeToFile("test", "browse/" + name));
+        CAPI.removeFile("browse/Empty/a");
+        fixture.recordWarnings(true);
     }
 
     function cleanup() {
-        compare(warningLog.take(), [], "warnings");
+        compare(fixture.takeWarnings(), [], "warnings");
     }
 
     // An object of that declaration, below `stage`, gone after the test function.

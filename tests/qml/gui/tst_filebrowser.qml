@@ -9,8 +9,6 @@ Item {
     width: 800
     height: 600
 
-    // "testFolder" holds the folders Archives, Empty and "Zoo & Ärger 100%", and alpha.zip, beta.zip,
-    // "gamma #1.zip" and notes.txt.
     GuiTestCase {
         name: "FileBrowser"
 

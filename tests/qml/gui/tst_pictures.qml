@@ -31,7 +31,7 @@ Item {
         property url picture
 
         function initTestCase() {
-            warningLog.watch();
+            fixture.recordWarnings(true);
             let saved = false;
             picture = testFolder + "/quarters.png";
             quarters.grabToImage(result => { saved = result.saveToFile(String(picture).replace("file://", "")); });
@@ -106,7 +106,7 @@ Item {
             thumbnail.source = testFolder + "/notes.txt";
             tryCompare(thumbnail, "status", Image.Error);
             verify(findBy(thumbnail, "faIcon", "fa-chain-broken").visible);
-            verify(warningLog.take().every(warning => warning.includes("notes.txt")));
+            verify(fixture.takeWarnings().every(warning => warning.includes("notes.txt")));
         }
     }
 }
