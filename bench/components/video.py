@@ -50,8 +50,8 @@ def commands(nuvex, component, clip, size, folder):
         "VideoOutput": [QMLSCENE, str(bare)],
         "mpv": ["mpv", "--no-config", "--no-terminal", "--no-audio", "--no-osc", "--no-border", "--vo=x11",
                 f"--geometry={size}+0+0", *["--vd=libvpx-vp9"][:alpha], str(clip)],
-        "ffplay": ["env", "SDL_RENDER_DRIVER=software", "ffplay", "-v", "error", "-an", "-noborder", "-left", "0",
-                   "-top", "0", *["-vcodec", "libvpx-vp9"][:2 * alpha], str(clip)],
+        "ffplay": ["env", "SDL_RENDER_DRIVER=software", "SDL_FRAMEBUFFER_ACCELERATION=0", "ffplay", "-v", "error",
+                   "-an", "-noborder", "-left", "0", "-top", "0", *["-vcodec", "libvpx-vp9"][:2 * alpha], str(clip)],
         "gst-play-1.0": ["gst-play-1.0", "--no-interactive", "--videosink=ximagesink", str(clip)],
     }
 
