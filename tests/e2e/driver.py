@@ -111,7 +111,7 @@ class Program:
         self._make_link_opener(fake_tools)
         environment = {**os.environ, "DISPLAY": screen.name, "NUVEX_PROBE": str(self.probe),
                        "QT_PLUGIN_PATH": setup.plugins, "QT_QPA_GENERIC_PLUGINS": "probe",
-                       "XDG_RUNTIME_DIR": str(profile.folder), "LC_ALL": "C.UTF-8",
+                       "XDG_RUNTIME_DIR": str(profile.folder), "LC_ALL": "C.UTF-8", "ASAN_OPTIONS": "detect_leaks=0",
                        "PATH": f"{fake_tools}:{os.environ['PATH']}"}
         with self.log_file.open("wb") as log:
             self.process = subprocess.Popen([setup.program, "--profile", str(profile.folder), *arguments],
