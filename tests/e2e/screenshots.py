@@ -60,6 +60,13 @@ def steps_of_the_pages(program):
         program.wait_page("MainPage")
 
 
+def steps_of_the_gallery(program):
+    take(program, "gallery")
+    for chapter in ["Pictures", "Texts", "Time and news", "Menus", "Shows", "Layouts", "Effects"]:
+        program.click(chapter)
+        take(program, "gallery-" + chapter.lower().replace(" ", "-"), "jpg", 3)
+
+
 def run(setup, screen, steps, settings, *arguments):
     profile = Profile()
     try:
@@ -87,7 +94,7 @@ def main():
             run(setup, screen, steps_of_a_first_start, None)
             run(setup, screen, steps_of_the_pages, signed_in)
             run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
-            run(setup, screen, lambda program: take(program, "gallery"), signed_in, "--gallery")
+            run(setup, screen, steps_of_the_gallery, signed_in, "--gallery")
             for demo in sorted((ROOT / "demos").glob("*/main.qml")):
                 name = demo.parent.name.lower().replace(" ", "-")
                 run(setup, screen, lambda program: take(program, name, "jpg", 4), signed_in, "--play", demo.parent)
