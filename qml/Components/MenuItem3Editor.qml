@@ -54,6 +54,7 @@ Item {
                 label: qsTr("Seal")
             }
         }
+        PlateSection {}
         PlaceSection {}
     }
 }

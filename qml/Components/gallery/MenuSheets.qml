@@ -32,9 +32,8 @@ SheetColumns {
 
     Specimen {
         title: "MenuItem3"
-        about: qsTr("An entry without a plate")
+        about: qsTr("An entry around its picture")
         ratio: 0.8
-        wall: "#f3eee3"
 
         MenuItem3 {
             width: 340
