@@ -2,13 +2,20 @@
 // SPDX-License-Identifier: MIT
 
 // Memory that a restart in place leaves behind: Nuvex's whole set-up against a bare Qt application with an
-// empty window, each in a process of its own. Arguments: "nuvex" or "bare".
+// empty window, and against one that shows a page of widgets in such a window and nothing else of Nuvex. Each
+// in a process of its own. Arguments: "nuvex", "empty" or "widgets".
 
+#include "app/nativetypes.h"
 #include "app/qmlhost.h"
+#include "quick/icontable.h"
+#include "quick/themetable.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlPropertyMap>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTemporaryDir>
@@ -41,15 +48,30 @@ void endPassLater()
     });
 }
 
-int runBare(int& argc, char** argv)
+void showNothing(QQuickView& view)
+{
+    QQmlComponent component(view.engine());
+    component.setData("import QtQuick 2.15\nRectangle { color: 'teal' }", QUrl());
+    view.setContent(QUrl(), &component, component.create());
+}
+
+void showWidgets(QQuickView& view)
+{
+    view.rootContext()->setContextProperty(QStringLiteral("faIcons"), iconTable());
+    view.rootContext()->setContextProperty(QStringLiteral("bs"), themeTable());
+    view.rootContext()->setContextProperty(QStringLiteral("dp"), 1.0);
+    addImportPaths(*view.engine());
+    view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/GUI/Gallery.qml")));
+}
+
+int runBare(int& argc, char** argv, void (*show)(QQuickView&))
 {
     int code = 0;
     do {
         QGuiApplication application(argc, argv);
         QQuickView view;
-        QQmlComponent component(view.engine());
-        component.setData("import QtQuick 2.15\nRectangle { color: 'teal' }", QUrl());
-        view.setContent(QUrl(), &component, component.create());
+        view.resize(1280, 720);
+        show(view);
         view.show();
         code = QGuiApplication::exec();
     } while (code == restartCode);
@@ -65,9 +87,11 @@ int main(int argc, char** argv)
     Options options;
     options.profile = profile.path();
     useProfile(options);
-    const bool bare = argc > 1 && qstrcmp(argv[1], "bare") == 0;
-    const int code = bare ? runBare(argc, argv) : runHost(argc, argv, options);
-    std::printf("| %s | %.0f | %.0f | %.0f |\n", bare ? "bare Qt" : "nuvex", memory.at(warmUp) / 1024,
+    const QByteArray setup(argc > 1 ? argv[1] : "nuvex");
+    const int code = setup == "empty"     ? runBare(argc, argv, showNothing)
+                     : setup == "widgets" ? runBare(argc, argv, showWidgets)
+                                          : runHost(argc, argv, options);
+    std::printf("| %s | %.0f | %.0f | %.0f |\n", setup.constData(), memory.at(warmUp) / 1024,
                 memory.last() / 1024, (memory.last() - memory.at(warmUp)) / (passes - 1 - warmUp));
     return code;
 }
