@@ -11,9 +11,10 @@
 #include <QDirIterator>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <filesystem>
 
 #include <utime.h>
 
@@ -352,7 +353,7 @@ void TestArchive::notEnoughSpace()
 {
     constexpr quint32 size = 0xf0000000;
     constexpr quint32 packedSize = size / 199;
-    const qint64 free = QStorageInfo(m_work).bytesAvailable();
+    const auto free = std::filesystem::space(m_work.toStdString()).available;
     const int count = int(free / size) + 1;
     ZipArchive archive;
     for (int i = 0; i < count; ++i) {
