@@ -29,7 +29,8 @@ PanelRow {
         width: parent.width
         size: root.size
         kind: root.kind
-        path: root.path
+        // A feed has a row for its address as well: that is no file.
+        path: root.kind === "feed" && /^https?:/.test(root.path) ? "" : root.path
         label: root.label
         onWanted: root.form.pickFile(root.kind, root.put)
         onCleared: root.put("")

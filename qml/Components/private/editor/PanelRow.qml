@@ -37,7 +37,7 @@ BGUI.FormRow {
     }
 
     size: form.size
-    labelWidth: (form.radEditor ? 13 : 17) * BGUI.Theme.unit
+    labelWidth: (form.radEditor ? 13 : 21) * BGUI.Theme.unit
     Component.onDestruction: finish()
 
     Timer {
