@@ -16,7 +16,8 @@ T.ToolTip {
     verticalPadding: Theme.unit / 2
     horizontalPadding: Theme.unit
     delay: 600
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
+    // The Escape key goes back at once, whatever hint is shown.
+    closePolicy: T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
 
     contentItem: Text {
         text: tip.text
