@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private/editor"
+import "private/editor/values.js" as Values
 
 /// The panel of AnimatedItem: how it moves.
 Item {
@@ -21,7 +22,7 @@ Item {
         ChoiceRow {
             name: "motion"
             label: qsTr("Movement")
-            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"].map(name => ({ text: name, is: name }))
+            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"].map(name => ({ text: Values.words(name), is: name }))
         }
         SliderRow {
             name: "strength"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "../transitions.js" as Transitions
+import "values.js" as Values
 
 /// The rows of everything that shows slides in turn.
 Column {
@@ -13,7 +14,7 @@ Column {
     ChoiceRow {
         name: "transType"
         label: qsTr("Transition")
-        choices: Transitions.names.map(name => ({ text: name, is: name }))
+        choices: Transitions.names.map(name => ({ text: Values.words(name), is: name }))
     }
     TimeRow {
         name: "transTime"

@@ -48,3 +48,9 @@ function _value(value) {
         return "[" + value.map(_value).join(", ") + "]";
     return typeof value === "string" ? quoted(value) : typeof value === "object" && value !== null ? _object(value) : String(value);
 }
+
+// What a panel calls the value `name`, a name in camel case: "Slide left" for slideLeft.
+function words(name) {
+    const text = name.replace(/[A-Z]/g, letter => " " + letter.toLowerCase());
+    return text[0].toUpperCase() + text.slice(1);
+}
