@@ -3,18 +3,17 @@
 # SPDX-License-Identifier: MIT
 """Compares Nuvex playing a demo with qmlscene showing a plain scene of the same picture, written by hand.
 
-demos.py NUVEX DEMO [--rounds N] [--seconds S]
+demos.py NUVEX PROJECT [--rounds N] [--seconds S]
 
 The plain scenes (plain/) use QtQuick and QtMultimedia alone. Frames a second, the time that the scene graph takes for
 one, and CPU, in percent of one core, from the first frame on: both programs do the same at the same moments. They take
 turns; the first round is dropped.
 """
-import argparse
 import pathlib
 import statistics
 import tempfile
 
-from turns import HERE, QMLSCENE, Player, in_turns, print_table
+from turns import HERE, QMLSCENE, Player, in_turns, print_table, read_options
 
 
 def play(command, seconds):
@@ -29,13 +28,8 @@ def play(command, seconds):
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("nuvex")
-    parser.add_argument("demo")
-    parser.add_argument("--rounds", type=int, default=6)
-    parser.add_argument("--seconds", type=int, default=24)
-    options = parser.parse_args()
-    demo = pathlib.Path(options.demo).resolve()
+    options = read_options(rounds=6, seconds=24)
+    demo = pathlib.Path(options.project).resolve()
     with tempfile.TemporaryDirectory() as profile:
         commands = {"Nuvex": [options.nuvex, "--profile", profile, "--play", str(demo)],
                     "plain scene": [QMLSCENE, str(HERE / "plain" / (demo.name.replace(" ", "") + ".qml"))]}

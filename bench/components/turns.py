@@ -9,7 +9,7 @@ import sys
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.append(str(HERE.parent / "player"))
 from measure import spread  # noqa: E402
-from processes import CLOCK_TICKS, Player  # noqa: E402, F401  (for those who measure)
+from processes import CLOCK_TICKS, Player, read_options  # noqa: E402, F401  (for those who measure)
 
 QMLSCENE = "/usr/lib/qt5/bin/qmlscene"
 

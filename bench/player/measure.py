@@ -10,13 +10,12 @@ Needs the target plainhost beside NUVEX.
 Time from process start to the first frame, CPU (in percent of one core) and memory while playing. The programs take
 turns on one virtual screen; the first round is dropped. Prints a markdown table of medians with minimum and maximum.
 """
-import argparse
 import pathlib
 import statistics
 import tempfile
 import time
 
-from processes import Player
+from processes import Player, read_options
 
 SETTLING = 3  # seconds that belong to the start, not to the playing
 HERE = pathlib.Path(__file__).resolve().parent
@@ -54,12 +53,7 @@ def spread(values):
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("nuvex")
-    parser.add_argument("project")
-    parser.add_argument("--rounds", type=int, default=6)
-    parser.add_argument("--seconds", type=float, default=10)
-    options = parser.parse_args()
+    options = read_options(rounds=6, seconds=10.0)
     with tempfile.TemporaryDirectory() as folder:
         commands = programs(options.nuvex, str(pathlib.Path(options.project).resolve()), folder)
         results = {name: [] for name in commands}

@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Nuvex developers
 # SPDX-License-Identifier: MIT
 """A program with a Qt Quick scene, watched from outside: its frames, processor time and memory."""
+import argparse
 import os
 import pathlib
 import re
@@ -11,6 +12,16 @@ import time
 CLOCK_TICKS = os.sysconf("SC_CLK_TCK")
 # The loop's first pass, of 0 ms, draws nothing: the window is not mapped yet.
 FRAME = re.compile(r"rame rendered.* in ([1-9]\d*)ms")
+
+
+def read_options(**defaults):
+    """The command line "NUVEX PROJECT", with an option of that default for each keyword."""
+    parser = argparse.ArgumentParser()
+    parser.add_argument("nuvex")
+    parser.add_argument("project")
+    for name, default in defaults.items():
+        parser.add_argument("--" + name, type=type(default), default=default)
+    return parser.parse_args()
 
 
 class Player:

@@ -8,7 +8,6 @@ soak.py NUVEX PROJECT [--minutes M] [--grab SECONDS]
 Runs on the display in $DISPLAY. For SECONDS at the beginning the screen is grabbed at 30 Hz with ffmpeg, and frames
 of which 98 % is near black are counted. Prints a markdown table, one row an interval.
 """
-import argparse
 import os
 import pathlib
 import re
@@ -18,7 +17,7 @@ import sys
 import tempfile
 import time
 
-from processes import Player
+from processes import Player, read_options
 
 INTERVALS = 6
 
@@ -38,13 +37,7 @@ def percentile(values, share):
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("nuvex")
-    parser.add_argument("project")
-    parser.add_argument("--minutes", type=float, default=30)
-    parser.add_argument("--grab", type=float, default=60)
-    parser.add_argument("--size", default=os.environ.get("NUVEX_SCREEN", "1280x720"))
-    options = parser.parse_args()
+    options = read_options(minutes=30.0, grab=60.0, size=os.environ.get("NUVEX_SCREEN", "1280x720"))
     with tempfile.TemporaryDirectory() as profile:
         player = Player([options.nuvex, "--profile", profile, "--play", options.project])
         try:
