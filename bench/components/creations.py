@@ -5,7 +5,7 @@
 
 creations.py NUVEX [--total N] [--only NAME ...]
 
-Each component of the module, and plain Qt types in the same run, N times, fifty at a time; videos that play fewer.
+Each component of the module, and plain Qt types in the same run, N times, fifty at a time; videos that play, five.
 Prints the growth of private memory per creation, by least squares over the second half, and threads, open files and
 wake-ups a second while nothing happens, before the first creation and after the last.
 """
@@ -61,7 +61,7 @@ def kinds(total, clip, only):
     result |= {name: kind(name, f"{name} {{ {SETTINGS.get(name, '')} }}", total, 50) for name in listed_components()}
     for name, text in PLAYING.items():
         title, place = "playing-" + name, f"width: 64; height: 36; source: '{clip.as_uri()}'"
-        result[title] = kind(title, f"{name} {{ {place}; {text} }}", total // 10, 5)
+        result[title] = kind(title, f"{name} {{ {place}; {text} }}", total, 5)
     return [text for name, text in result.items() if not only or name in only]
 
 

@@ -28,7 +28,7 @@ def play(command, seconds):
 
 
 def main():
-    options = read_options(rounds=6, seconds=24)
+    options = read_options("project", rounds=6, seconds=24)
     demo = pathlib.Path(options.project).resolve()
     with tempfile.TemporaryDirectory() as profile:
         commands = {"Nuvex": [options.nuvex, "--profile", profile, "--play", str(demo)],

@@ -8,14 +8,13 @@ slideshow.py NUVEX [--turns N]
 The slides hold words, pictures, live texts and a video; a turn is as short as it can be. The plain scene, in qmlscene,
 makes the same slides of QtQuick's types and destroys them. Prints the growth a turn over the second half.
 """
-import argparse
 import pathlib
 import subprocess
 import tempfile
 
 import clips
 from marks import print_growth, watch
-from turns import HERE, QMLSCENE, nuvex_playing
+from turns import HERE, QMLSCENE, nuvex_playing, read_options
 
 WORDS = "BasicText { text: 'A slide of words' }"
 PHOTO = "BasicImage { width: 640; height: 360; source: '%(picture)s'; cache: false }"
@@ -40,10 +39,7 @@ Turns { name: "plain"; total: %(turns)d; Slides { picture: "%(picture)s"; clip: 
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("nuvex")
-    parser.add_argument("--turns", type=int, default=10000)
-    options = parser.parse_args()
+    options = read_options(turns=10000)
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
         clip, picture, plain = folder / "clip.mp4", folder / "picture.jpg", folder / "Plain.qml"

@@ -8,13 +8,12 @@ transitions.py NUVEX [--rounds N]
 Two pictures of 1280x720, each transition of one second twice a round, in Nuvex and in qmlscene by turns; the
 first round is dropped. Prints the 95th percentile of each. Needs the target frametimes beside NUVEX.
 """
-import argparse
 import pathlib
 import subprocess
 import tempfile
 import time
 
-from turns import HERE, QMLSCENE, Player, in_turns, nuvex_playing, ratio, spread
+from turns import HERE, QMLSCENE, Player, in_turns, nuvex_playing, ratio, read_options, spread
 
 DOCUMENT = """import QtQuick 2.15
 import Nuvex.Components 1.0
@@ -54,7 +53,7 @@ def commands(nuvex, folder):
 
 
 def frame_times(command):
-    """The 95th percentile of the milliseconds between frames, transition by transition, and their names."""
+    """The 95th percentile of the milliseconds between frames, by transition."""
     player = Player(command)
     try:
         deadline = time.monotonic() + 120
@@ -69,19 +68,22 @@ def frame_times(command):
         if "frames " in line:
             name, *frames = line.split("frames ")[1].split()
             times.setdefault(name, []).extend(map(float, frames))
-    frame_times.names = list(times)
-    return [sorted(frames)[int(0.95 * (len(frames) - 1))] for frames in times.values()]
+    return {name: sorted(frames)[int(0.95 * (len(frames) - 1))] for name, frames in times.items()}
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("nuvex")
-    parser.add_argument("--rounds", type=int, default=6)
-    options = parser.parse_args()
+    options = read_options(rounds=6)
+    transitions = []
+
+    def measure(command):
+        times = frame_times(command)
+        transitions[:] = times
+        return tuple(times.values())
+
     with tempfile.TemporaryDirectory() as folder:
-        results = in_turns(commands(options.nuvex, pathlib.Path(folder)), options.rounds, frame_times)
+        results = in_turns(commands(options.nuvex, pathlib.Path(folder)), options.rounds, measure)
     print("| transition | Nuvex, 95 %, ms | plain QML, 95 %, ms | Nuvex to it |\n|---|---|---|---|")
-    for column, name in enumerate(frame_times.names):
+    for column, name in enumerate(transitions):
         print(f"| {name} | {spread(results['Nuvex'][column])} | {spread(results['plain'][column])} "
               f"| {ratio(results, 'plain', column)} |")
 

@@ -45,8 +45,11 @@ def commands(nuvex, component, clip, size, folder):
     bare = pathlib.Path(folder) / "Bare.qml"
     bare.write_text(DOCUMENT % ("", width, height, BARE % clip.as_uri()))
     alpha = kind == "alpha"
+    playing = nuvex_playing(nuvex, folder, DOCUMENT % (modules, width, height, item % clip.as_uri()))
     return {
-        component: nuvex_playing(nuvex, folder, DOCUMENT % (modules, width, height, item % clip.as_uri())),
+        component: playing,
+        # The other items draw by OpenGL alone.
+        **({f"{component}, Qt's raster engine": ["env", "QT_QUICK_BACKEND=software", *playing]} if alpha else {}),
         "VideoOutput": [QMLSCENE, str(bare)],
         "mpv": ["mpv", "--no-config", "--no-terminal", "--no-audio", "--no-osc", "--no-border", "--vo=x11",
                 f"--geometry={size}+0+0", *["--vd=libvpx-vp9"][:alpha], str(clip)],

@@ -53,7 +53,7 @@ def spread(values):
 
 
 def main():
-    options = read_options(rounds=6, seconds=10.0)
+    options = read_options("project", rounds=6, seconds=10.0)
     with tempfile.TemporaryDirectory() as folder:
         commands = programs(options.nuvex, str(pathlib.Path(options.project).resolve()), folder)
         results = {name: [] for name in commands}

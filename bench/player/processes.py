@@ -14,11 +14,11 @@ CLOCK_TICKS = os.sysconf("SC_CLK_TCK")
 FRAME = re.compile(r"rame rendered.* in ([1-9]\d*)ms")
 
 
-def read_options(**defaults):
-    """The command line "NUVEX PROJECT", with an option of that default for each keyword."""
+def read_options(*words, **defaults):
+    """The command line: the program "nuvex" and further `words`, with an option of that default for each keyword."""
     parser = argparse.ArgumentParser()
-    parser.add_argument("nuvex")
-    parser.add_argument("project")
+    for word in ("nuvex", *words):
+        parser.add_argument(word)
     for name, default in defaults.items():
         parser.add_argument("--" + name, type=type(default), default=default)
     return parser.parse_args()

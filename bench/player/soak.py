@@ -37,7 +37,7 @@ def percentile(values, share):
 
 
 def main():
-    options = read_options(minutes=30.0, grab=60.0, size=os.environ.get("NUVEX_SCREEN", "1280x720"))
+    options = read_options("project", minutes=30.0, grab=60.0, size=os.environ.get("NUVEX_SCREEN", "1280x720"))
     with tempfile.TemporaryDirectory() as profile:
         player = Player([options.nuvex, "--profile", profile, "--play", options.project])
         try:

@@ -10,6 +10,9 @@ Item {
     property bool radEditor: false
     property string size: radEditor ? "base" : "large"
 
+    // A moment that looks different in every format.
+    readonly property date sample: new Date(2026, 11, 24, 15, 30, 45)
+
     implicitWidth: form.implicitWidth
     implicitHeight: form.implicitHeight
 
@@ -22,7 +25,7 @@ Item {
             name: "format"
             label: qsTr("Shows")
             choices: ["hh:mm", "hh:mm:ss", "h:mm AP", "dddd", "d MMMM", "d MMMM yyyy", "dddd, d MMMM", "dd.MM.yyyy"]
-                .map(format => ({ text: new Date().toLocaleString(Qt.locale(), format), is: format }))
+                .map(format => ({ text: root.sample.toLocaleString(Qt.locale(), format), is: format }))
         }
         TextRow {
             name: "format"

@@ -11,9 +11,11 @@ Item {
     property string label
     property string size: "base"
     property real labelWidth: 16 * Theme.unit
+    // The width that the control wants beside its label, at least.
+    property real controlWidth: 24 * Theme.unit
     default property alias control: slot.data
 
-    readonly property bool isNarrow: width < labelWidth + 24 * Theme.unit
+    readonly property bool isNarrow: width < labelWidth + controlWidth
 
     width: parent ? parent.width : implicitWidth
     implicitWidth: labelWidth + 32 * Theme.unit
@@ -33,7 +35,7 @@ Item {
     Item {
         id: slot
         x: row.isNarrow ? 0 : row.labelWidth
-        y: row.isNarrow ? caption.height + Theme.unit / 2 : 0
+        y: row.isNarrow ? caption.height + Theme.unit / 2 : Math.max(0, (caption.height - height) / 2)
         width: row.width - x
         height: Math.max(childrenRect.height, Theme.controlHeight(row.size))
     }

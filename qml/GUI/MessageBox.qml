@@ -6,7 +6,7 @@ import "."
 
 // A question or message over the whole window. Enter or Space presses the focused button, at first the one that does
 // no harm: the accepting one, or the rejecting one when `type` is "danger". Escape rejects.
-T.Popup {
+ModalPopup {
     id: box
 
     property string title
@@ -29,21 +29,13 @@ T.Popup {
             rejected();
     }
 
-    parent: T.Overlay.overlay
-    anchors.centerIn: parent
     width: Math.min(parent ? parent.width - 4 * Theme.unit : 0, 52 * Theme.unit)
     implicitHeight: contentItem.implicitHeight + 2 * padding
     padding: 3 * Theme.unit
-    modal: true
-    focus: true
     closePolicy: T.Popup.NoAutoClose
     onOpened: {
         const safe = type === "danger" && rejectText !== "" ? reject : accept;
         safe.forceActiveFocus(Qt.TabFocusReason);
-    }
-
-    T.Overlay.modal: Rectangle {
-        color: Qt.rgba(Theme.strongInk.r, Theme.strongInk.g, Theme.strongInk.b, 0.45)
     }
 
     background: Rectangle {

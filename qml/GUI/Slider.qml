@@ -27,10 +27,10 @@ T.Slider {
     }
 
     background: Rectangle {
-        x: control.horizontal ? control.leftPadding : (control.width - width) / 2
-        y: control.horizontal ? (control.height - height) / 2 : control.topPadding
-        width: control.horizontal ? control.availableWidth : 4 * dp
-        height: control.horizontal ? 4 * dp : control.availableHeight
+        x: control.horizontal ? 0 : (control.width - width) / 2
+        y: control.horizontal ? (control.height - height) / 2 : 0
+        width: control.horizontal ? control.width : 4 * dp
+        height: control.horizontal ? 4 * dp : control.height
         radius: 2 * dp
         color: Theme.line
 

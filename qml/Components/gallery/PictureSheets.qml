@@ -9,6 +9,7 @@ SheetColumns {
     id: sheets
 
     readonly property string samples: "qrc:///Nuvex/Components/icons/"
+    readonly property url film: "qrc:///Nuvex/Components/icons/sampleSun.webm"
 
     narrowest: 40
     most: 4
@@ -39,14 +40,14 @@ SheetColumns {
 
     Specimen {
         title: "BasicVideo"
-        about: qsTr("A video; here before one is chosen")
-        BasicVideo { width: 640; height: 360 }
+        about: qsTr("A video")
+        BasicVideo { width: 640; height: 360; source: sheets.film }
     }
 
     Specimen {
         title: "ChromaVideo"
-        about: qsTr("A video whose green becomes transparent")
-        ChromaVideo { width: 640; height: 360 }
+        about: qsTr("The same video without its green")
+        ChromaVideo { width: 640; height: 360; source: sheets.film }
     }
 
     Specimen {

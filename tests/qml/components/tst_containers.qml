@@ -38,6 +38,14 @@ ComponentCase {
         compare(place(box, findChild(box, "last")), data.last);
     }
 
+    // A slide of a show is made so: in pieces, while the screen goes on.
+    function test_repeatedItemsMadeInPieces() {
+        var loader = make("Loader { asynchronous: true; sourceComponent: Component { "
+                          + "BasicRow { hMargin: 5; vMargin: 5; spacing: 10; Repeater { model: 3; " + small + "} } } }");
+        tryVerify(function() { return loader.item !== null && loader.item.width === 180; });
+        compare(loader.item.height, 60);
+    }
+
     // The editor makes items as children of the container itself.
     function test_droppedItems_data() {
         return boxes();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
+import "qrc:/Nuvex/Components/private/editor/files.js" as Files
 
 ComponentCase {
     id: test
@@ -37,6 +38,24 @@ ComponentCase {
         load(ground.image, "red.png");
         compare(colorAt(ground, 100, 100), data.middle ? "#ff0000" : "#ffffff");
         compare(colorAt(ground, 100, 10), data.top ? "#ff0000" : "#ffffff");
+    }
+
+    // Every kind of picture that a panel offers is shown.
+    function test_kinds_data() {
+        return Files.filters.picture.map(function(pattern) { return { tag: pattern.replace("*.", "") }; });
+    }
+    function test_kinds(data) {
+        var name = "kind." + data.tag;
+        if (data.tag === "svg")
+            CAPI.writeToFile("<svg xmlns='http://www.w3.org/2000/svg' width='64' height='64'>"
+                             + "<rect width='64' height='64' fill='red'/></svg>", name);
+        else if (data.tag === "gif")
+            fixture.makeClip(name, "red", 0.1, "64x64");
+        else
+            fixture.makePicture(name, "red");
+        var item = makeImage("");
+        load(item, name);
+        verify(isNear(colorAt(item, 100, 100), "#ff0000"), colorAt(item, 100, 100));
     }
 
     function test_naturalSizeUnlessGiven() {

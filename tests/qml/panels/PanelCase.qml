@@ -50,6 +50,21 @@ ComponentCase {
         takeChanges();
     }
 
+    readonly property var withoutPanel: ["BasicRow", "BasicColumn", "BasicGrid", "BasicEdit", "GlowText"]
+
+    // Test data: every component that has a panel.
+    function panelRows() {
+        return fixture.components().map(file => ({ tag: file.replace(".qml", "") }))
+                                   .filter(row => withoutPanel.indexOf(row.tag) < 0);
+    }
+
+    // Opens a document with a fresh `kind` and shows its panel.
+    function openComponent(kind) {
+        // One component is not in the module file.
+        open(CAPI.getItemPrototype(":/Nuvex/Components/" + kind + ".qml"), "import \"qrc:/Nuvex/Components\"\n");
+        select(0);
+    }
+
     // The number of completed changes and of renewed selections since the last call.
     function takeChanges() {
         const taken = [states.count, selections.length];

@@ -10,19 +10,6 @@ PanelCase {
     id: test
     name: "Panels"
 
-    readonly property var withoutPanel: ["BasicRow", "BasicColumn", "BasicGrid", "BasicEdit", "GlowText"]
-
-    function panelRows() {
-        return fixture.components().map(file => ({ tag: file.replace(".qml", "") }))
-                                   .filter(row => withoutPanel.indexOf(row.tag) < 0);
-    }
-
-    function openComponent(kind) {
-        // One component is not in the module file.
-        open(CAPI.getItemPrototype(":/Nuvex/Components/" + kind + ".qml"), "import \"qrc:/Nuvex/Components\"\n");
-        select(0);
-    }
-
     function test_files() {
         panelRows().forEach(row => {
             const file = row.tag === "GridOrganizer" ? "GridOrgnanizerEditor.qml" : row.tag + "Editor.qml";

@@ -60,7 +60,7 @@ PanelRow {
 
     Column {
         width: parent.width
-        spacing: BGUI.Theme.unit / 2
+        spacing: BGUI.Theme.unit
 
         Repeater {
             model: root.isPlain ? root.entries.length : 0

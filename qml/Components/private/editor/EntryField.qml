@@ -26,6 +26,7 @@ BGUI.FormRow {
     size: card.row.size
     label: field.label
     labelWidth: 11 * BGUI.Theme.unit
+    controlWidth: (isFile ? 32 : 24) * BGUI.Theme.unit
 
     Loader {
         width: parent.width

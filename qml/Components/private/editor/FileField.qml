@@ -19,12 +19,12 @@ Item {
     signal wanted()
     signal cleared()
 
-    implicitHeight: Math.max(thumbnail.height, choose.height)
+    implicitHeight: choose.height
 
     Rectangle {
         id: thumbnail
-        width: 7 * BGUI.Theme.unit
-        height: width * 0.75
+        width: height * 4 / 3
+        height: choose.height
         radius: BGUI.Theme.radius("base")
         color: BGUI.Theme.sunken
         border.width: Math.max(1, dp)

@@ -7,7 +7,7 @@ import "files.js" as Files
 
 /// Looks for a file over the whole window. Before a file of the project would be replaced by another of the same name, it
 /// asks.
-T.Popup {
+BGUI.ModalPopup {
     id: root
 
     property string size: "base"
@@ -30,20 +30,13 @@ T.Popup {
         root.picked(question.file);
     }
 
-    parent: T.Overlay.overlay
-    anchors.centerIn: parent
     width: parent ? Math.min(parent.width - 4 * BGUI.Theme.unit, 100 * BGUI.Theme.unit) : 0
     height: parent ? Math.min(parent.height - 4 * BGUI.Theme.unit, 75 * BGUI.Theme.unit) : 0
-    modal: true
-    focus: true
     closePolicy: T.Popup.CloseOnEscape
-
-    T.Overlay.modal: Rectangle {
-        color: Qt.rgba(0, 0, 0, 0.45)
-    }
 
     contentItem: BGUI.FileBrowser {
         id: browser
+        focus: true
         size: root.size
         folder: Files.startFolder()
         onFileSelected: root.offer(file)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Nuvex.GUI 1.0 as BGUI
 import "files.js" as Files
 import "values.js" as Values
 
@@ -24,6 +25,8 @@ PanelRow {
         if (old !== path)
             Files.letGo(old);
     }
+
+    controlWidth: 32 * BGUI.Theme.unit
 
     FileField {
         width: parent.width

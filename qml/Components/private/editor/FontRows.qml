@@ -28,18 +28,22 @@ Column {
         suffix: " px"
     }
 
-    Row {
-        readonly property Item form: root.form
-        spacing: 2 * BGUI.Theme.unit
+    PanelRow {
+        label: qsTr("Style")
 
-        FontSwitch {
-            name: root.name + ".bold"
-            text: qsTr("Bold")
-        }
+        Row {
+            readonly property Item form: root.form
+            spacing: 2 * BGUI.Theme.unit
 
-        FontSwitch {
-            name: root.name + ".italic"
-            text: qsTr("Italic")
+            FontSwitch {
+                name: root.name + ".bold"
+                text: qsTr("Bold")
+            }
+
+            FontSwitch {
+                name: root.name + ".italic"
+                text: qsTr("Italic")
+            }
         }
     }
 }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import QtQuick.Templates 2.15 as T
 import QtQml 2.15
 import Nuvex.Editor 1.0
 import Nuvex.GUI 1.0 as BGUI
@@ -131,13 +130,10 @@ FocusScope {
         name: "nuvex.components"
     }
 
-    Flickable {
+    BGUI.ScrollPane {
         anchors.fill: parent
         contentHeight: root.implicitHeight
-        boundsBehavior: Flickable.StopAtBounds
-        interactive: contentHeight > height
         clip: interactive
-        T.ScrollBar.vertical: BGUI.ScrollBar {}
 
         Column {
             id: column

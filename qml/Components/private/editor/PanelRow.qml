@@ -8,7 +8,7 @@ import Nuvex.GUI 1.0 as BGUI
 BGUI.FormRow {
     id: root
 
-    /// Name of the property, dotted for groups.
+    /// Name of the property, dotted for groups; empty in a row of controls that have names of their own.
     property string name
     /// The live value. It follows the item, whoever changes it.
     readonly property var value: form.revision > 0 ? form.value(name) : undefined
