@@ -4,7 +4,7 @@
 
 import zipfile
 
-from driver import ProgramTest, run_tests, wait_for
+from driver import Program, ProgramTest, Screen, run_tests, wait_for
 
 ACCOUNT = {"userEmail": "ann@example.org", "playerUID": "west_12", "doOnStart": "", "lastProject": "Shop"}
 
@@ -246,6 +246,17 @@ class PagesTest(ProgramTest):
         program.wait_page("MainPage")
         self.assertEqual(self.profile.setting("doOnStart"), "")  # only stored by the save button
         self.assert_clean(program)
+
+    def test_settings_on_a_small_screen(self):
+        screen = Screen("640x360")
+        self.addCleanup(screen.close)
+        program = Program(self.setup, screen, self.profile)
+        self.addCleanup(program.close)
+        self.go_to(program, "SettingsPage")
+        for label in ("Logout", "hostName", "save"):
+            program.tab_to(label)
+            _, y, _, height = program.find(label)["rect"]
+            self.assertTrue(y >= 56 and y + height <= 360, f"{label} at {y}")
 
     def test_sharing_needs_an_account(self):
         self.profile.write_settings(**{**ACCOUNT, "userEmail": "", "shareFolder": "false"})

@@ -3,15 +3,23 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A card in the middle of a page, in its upper part where there is room.
-BGUI.Card {
+// A card in the middle of a page, in its upper part where there is room; on a small screen it scrolls.
+BGUI.ScrollPane {
+    id: sheet
+
     property real maximumWidth: 90 * BGUI.Theme.unit
+    property alias spacing: card.spacing
+    default property alias content: card.content
 
-    readonly property real freeHeight: parent ? parent.height - height : 0
+    anchors.fill: parent
+    contentHeight: card.y + card.height + gap
 
-    x: parent ? (parent.width - width) / 2 : 0
-    y: Math.max(2 * BGUI.Theme.unit, freeHeight * 0.4)
-    width: parent ? Math.min(parent.width - 4 * BGUI.Theme.unit, maximumWidth) : 0
-    padding: 4 * BGUI.Theme.unit
-    spacing: 2 * BGUI.Theme.unit
+    BGUI.Card {
+        id: card
+        x: (sheet.width - width) / 2
+        y: Math.max(sheet.gap, (sheet.height - height) * 0.4)
+        width: Math.min(sheet.width - 2 * sheet.gap, sheet.maximumWidth)
+        padding: 4 * BGUI.Theme.unit
+        spacing: 2 * BGUI.Theme.unit
+    }
 }

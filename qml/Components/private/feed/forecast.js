@@ -4,18 +4,14 @@
 //
 // Reads the JSON of Open-Meteo's forecast service: current weather and days, with the weather codes of the World
 // Meteorological Organization (WMO code table 4677, as far as forecasts use it).
+.import "json.js" as Json
 .import "limits.js" as Limits
 
 /// What `text` tells: a map with "current", a map with "temperature" (in degrees Celsius), "code" and "isDay", or null;
 /// "offset", the place's offset from UTC in seconds; and "entries", the days as a list of maps with "date" (as
 /// "2026-11-23"), "code", "high" and "low". null when it is no such answer.
 function read(text) {
-    let answer = null;
-    try {
-        answer = JSON.parse(text);
-    } catch (notJson) {
-        return null;
-    }
+    const answer = Json.parsed(text);
     if (!answer || typeof answer !== "object" || answer.error === true)
         return null;
     const current = _current(answer);

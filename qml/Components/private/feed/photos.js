@@ -3,6 +3,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Reads the JSON of Flickr's public photo feed.
+.import "json.js" as Json
 .import "limits.js" as Limits
 .import "plaintext.js" as PlainText
 
@@ -29,14 +30,7 @@ function inSize(picture, size) {
 // The service escapes apostrophes as JavaScript may and JSON must not, and can wrap its answer in a call.
 function _parsed(text) {
     const json = text.trim().replace(/^jsonFlickrFeed\(/, "").replace(/\)$/, "");
-    for (const candidate of [json, json.replace(/\\'/g, "'")]) {
-        try {
-            return JSON.parse(candidate);
-        } catch (notJson) {
-            continue;
-        }
-    }
-    return null;
+    return Json.parsed(json) || Json.parsed(json.replace(/\\'/g, "'"));
 }
 
 function _entry(item) {

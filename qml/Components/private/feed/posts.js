@@ -6,6 +6,7 @@
 // - a list of statuses as the Mastodon API returns it (public tag timelines need no key);
 // - Twitter's search API version 1.1: "statuses", each with its "user";
 // - Twitter's search API version 2: "data", with the authors in "includes.users".
+.import "json.js" as Json
 .import "limits.js" as Limits
 .import "plaintext.js" as PlainText
 .import "rss.js" as Rss
@@ -14,13 +15,7 @@
 /// address on the web or "") and "time" (milliseconds since 1970, 0 when unknown). Messages marked as sensitive are left
 /// out. null when it is no such answer.
 function read(text) {
-    let answer = null;
-    try {
-        answer = JSON.parse(text);
-    } catch (notJson) {
-        return null;
-    }
-    const posts = _posts(answer);
+    const posts = _posts(Json.parsed(text));
     if (!posts)
         return null;
     const entries = posts.filter(post => post && post.sensitive !== true && post.possibly_sensitive !== true).map(_entry);
