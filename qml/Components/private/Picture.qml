@@ -97,7 +97,8 @@ Item {
     Retry {
         id: retry
         source: root.address
-        failed: root.hasFailed && root.visible
+        failed: root.hasFailed
+        isSeen: root.visible
         onWorthTrying: root.load()
     }
 

@@ -9,13 +9,17 @@ import "limits.js" as Limits
 Timer {
     id: root
 
-    /// The address, and whether it has failed; the watch runs while it has.
+    /// The address, whether it has failed, and whether that is seen; the watch runs while both are so.
     property url source
     property bool failed: false
+    property bool isSeen: true
+    readonly property bool isWatching: failed && isSeen
     property string watched: ""
     // What was at the address at the last look, and whether that is still to be found out.
     property string lastSeen: ""
     property bool isFirstLook: false
+    // When it failed, in milliseconds since 1970: what was written since is news at the first look already.
+    property real failedAt: 0
     property real pause: Limits.firstRetry
     readonly property bool isFile: /^file:/.test(source)
 
@@ -33,8 +37,10 @@ Timer {
         showHidden: true
         caseSensitive: true
         onStatusChanged: {
-            if (status === FolderListModel.Ready)
-                Qt.callLater(root.compare, count > 0 ? get(0, "fileSize") + " of " + get(0, "fileModified").getTime() : "");
+            if (status !== FolderListModel.Ready)
+                return;
+            const written = count > 0 ? get(0, "fileModified").getTime() : NaN;
+            Qt.callLater(root.compare, count > 0 ? get(0, "fileSize") + " of " + written : "", written);
         }
     }
 
@@ -52,16 +58,15 @@ Timer {
         root.watched = "";
     }
 
-    function begin() {
-        if (root.watched !== String(root.source)) {
-            root.watched = String(root.source);
-            root.pause = Limits.firstRetry;
-            root.lastSeen = "";
-        }
-        // A file that failed is to change before it is tried again; a server only has to answer.
+    // A file that failed is to change before it is tried again; a server only has to answer.
+    function noteFailure() {
+        if (root.watched === String(root.source))
+            return;
+        root.watched = String(root.source);
+        root.pause = Limits.firstRetry;
+        root.lastSeen = "";
         root.isFirstLook = root.isFile;
-        if (root.isFile)
-            ask();
+        root.failedAt = Date.now();
     }
 
     function look() {
@@ -76,10 +81,11 @@ Timer {
         root.line.active = true;
     }
 
-    function compare(mark) {
+    // `mark` tells what is there, "" for nothing; `written` when that was written, where it is known.
+    function compare(mark, written) {
         if (!root.line.active)
             return;
-        const isNews = mark !== "" && mark !== root.lastSeen && !root.isFirstLook;
+        const isNews = mark !== "" && mark !== root.lastSeen && (!root.isFirstLook || written >= root.failedAt);
         root.lastSeen = mark;
         root.line.active = false;
         if (isNews)
@@ -87,12 +93,19 @@ Timer {
     }
 
     interval: root.pause * (1 + 0.2 * Math.random())
-    running: root.failed
+    running: root.isWatching
     repeat: true
     onFailedChanged: {
-        root.line.active = false;
         if (root.failed)
-            begin();
+            noteFailure();
+    }
+    onIsWatchingChanged: {
+        root.line.active = false;
+        if (!root.isWatching)
+            return;
+        noteFailure();
+        if (root.isFile)
+            ask();
     }
     onTriggered: look()
 }

@@ -44,11 +44,13 @@ Item {
     anchors.fill: parent
     onPresenceChanged: followLater()
     onOnAirChanged: followLater()
+    onIsReadyChanged: {
+        if (isReady)
+            retry.forget();
+    }
     onIsMissingChanged: {
         if (isMissing)
             console.warn(log, "cannot play", root.video.source, root.video.errorString);
-        else
-            retry.forget();
     }
     Component.onCompleted: followLater()
 
@@ -76,7 +78,8 @@ Item {
     Retry {
         id: retry
         source: root.video.source
-        failed: root.isMissing && root.visible && root.presence !== Presence.absent
+        failed: root.isMissing
+        isSeen: root.visible && root.presence !== Presence.absent
         onWorthTrying: root.loadAgain()
     }
 
