@@ -58,7 +58,8 @@ Timer {
         root.watched = "";
     }
 
-    // A file that failed is to change before it is tried again; a server only has to answer.
+    // A file that failed is to change before it is tried again; a server only has to answer. Called by both handlers
+    // below, as either may run first.
     function noteFailure() {
         if (root.watched === String(root.source))
             return;

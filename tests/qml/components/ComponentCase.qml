@@ -30,6 +30,20 @@ TestCase {
         return Math.abs(a.r - b.r) + Math.abs(a.g - b.g) + Math.abs(a.b - b.b) < 0.2;
     }
 
+    // The watch over the media of `item`.
+    function findRetry(item) {
+        for (var i = 0; i < item.resources.length; ++i) {
+            if (item.resources[i].look !== undefined)
+                return item.resources[i];
+        }
+        for (i = 0; i < item.children.length; ++i) {
+            var found = findRetry(item.children[i]);
+            if (found)
+                return found;
+        }
+        return null;
+    }
+
     function expectWarnings(count, pattern) {
         var warnings = fixture.takeWarnings();
         compare(warnings.length, count, warnings.join("; "));

@@ -127,19 +127,6 @@ ComponentCase {
         compare(retry.pause, 60000);
     }
 
-    function findRetry(item) {
-        for (var i = 0; i < item.resources.length; ++i) {
-            if (item.resources[i].look !== undefined)
-                return item.resources[i];
-        }
-        for (i = 0; i < item.children.length; ++i) {
-            var found = findRetry(item.children[i]);
-            if (found)
-                return found;
-        }
-        return null;
-    }
-
     function test_relativePathsAreTheProjects() {
         var item = makeImage("");
         item.evaluate("source = 'red.png'");

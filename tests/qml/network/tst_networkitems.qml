@@ -267,4 +267,21 @@ NetworkCase {
         ComponentLimits.longestRetry = 60000;
         expectWarnings(1, /a\.jpg/);
     }
+
+    // What is no video is tried again once, and then when something else is there.
+    function test_brokenVideoIsTriedWhenItChanges() {
+        ComponentLimits.firstRetry = 30;
+        server.serve(path("broken.mp4"), "no video", "video/mp4");
+        const item = make("BasicVideo { width: 64; height: 36; source: '" + server.url(path("broken.mp4")) + "' }");
+        const retry = findRetry(item);
+        const attempts = createTemporaryQmlObject("import QtTest 1.15; SignalSpy { signalName: 'worthTrying' }", test);
+        attempts.target = retry;
+        tryVerify(() => retry.pause >= 480, 10000);
+        compare(attempts.count, 1);
+        server.serve(path("broken.mp4"), "still no video", "video/mp4");
+        tryCompare(attempts, "count", 2);
+        ComponentLimits.firstRetry = 1000;
+        tryVerify(() => fixture.warningCount() === 3);
+        expectWarnings(3, /cannot play/);
+    }
 }

@@ -9,6 +9,7 @@ import "../components"
 ComponentCase {
     id: test
 
+    readonly property var withoutPanel: ["BasicRow", "BasicColumn", "BasicGrid", "BasicEdit", "GlowText"]
     property Item document: null
     property Item panel: null
     /// The items that were selected anew since selectionsTaken().
@@ -49,8 +50,6 @@ ComponentCase {
         Ejs.codeEdited = false;
         takeChanges();
     }
-
-    readonly property var withoutPanel: ["BasicRow", "BasicColumn", "BasicGrid", "BasicEdit", "GlowText"]
 
     // Test data: every component that has a panel.
     function panelRows() {

@@ -26,9 +26,10 @@ BGUI.FormRow {
     size: card.row.size
     label: field.label
     labelWidth: 11 * BGUI.Theme.unit
-    controlWidth: (isFile ? 32 : 24) * BGUI.Theme.unit
+    controlWidth: isFile ? loader.implicitWidth : 24 * BGUI.Theme.unit
 
     Loader {
+        id: loader
         width: parent.width
         sourceComponent: root.isFile ? fileField : textField
     }

@@ -19,6 +19,7 @@ Item {
     signal wanted()
     signal cleared()
 
+    implicitWidth: 32 * BGUI.Theme.unit
     implicitHeight: choose.height
 
     Rectangle {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import Nuvex.GUI 1.0 as BGUI
 import "files.js" as Files
 import "values.js" as Values
 
@@ -26,9 +25,10 @@ PanelRow {
             Files.letGo(old);
     }
 
-    controlWidth: 32 * BGUI.Theme.unit
+    controlWidth: field.implicitWidth
 
     FileField {
+        id: field
         width: parent.width
         size: root.size
         kind: root.kind
