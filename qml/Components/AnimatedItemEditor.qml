@@ -22,7 +22,8 @@ Item {
         ChoiceRow {
             name: "motion"
             label: qsTr("Movement")
-            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"].map(name => ({ text: Values.words(name), is: name }))
+            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"]
+                .map(name => ({ text: Values.words(name), is: name }))
         }
         SliderRow {
             name: "strength"

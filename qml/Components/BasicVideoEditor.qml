@@ -31,7 +31,8 @@ Item {
             label: qsTr("Filling")
             choices: [
                 { text: qsTr("Whole video"), is: 1, code: root.namesMedia ? "VideoOutput.PreserveAspectFit" : "1" },
-                { text: qsTr("Fill, cut edges"), is: 2, code: root.namesMedia ? "VideoOutput.PreserveAspectCrop" : "2" },
+                { text: qsTr("Fill, cut edges"), is: 2,
+                  code: root.namesMedia ? "VideoOutput.PreserveAspectCrop" : "2" },
                 { text: qsTr("Stretch"), is: 0, code: root.namesMedia ? "VideoOutput.Stretch" : "0" }
             ]
         }
@@ -41,7 +42,8 @@ Item {
             choices: [
                 { text: qsTr("Again and again"), is: -1, code: root.namesMedia ? "MediaPlayer.Infinite" : "-1" },
                 { text: qsTr("Once"), is: 1, code: "1" },
-                { text: qsTr("Twice"), is: 2, code: "2" }
+                { text: qsTr("Twice"), is: 2,
+                  code: "2" }
             ]
         }
         CheckRow {

@@ -5,8 +5,8 @@ import "private"
 import "private/media.js" as Media
 import "private/presence.js" as Presence
 
-/// A web page. The browser is loaded when the first page is shown, and a page goes when its slide is absent. A page that
-/// cannot be loaded leaves a quiet placeholder and is tried again.
+/// A web page. The browser is loaded when the first page is shown, and a page goes when its slide is absent. A page
+/// that cannot be loaded leaves a quiet placeholder and is tried again.
 Item {
     id: root
 

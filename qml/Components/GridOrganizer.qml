@@ -39,7 +39,8 @@ Grid {
 
     readonly property int across: Math.max(1, columns)
     readonly property real tileWidth: Math.max(0, (width - (across - 1) * spacing) / across)
-    readonly property int fittingRows: rows > 0 ? rows : Math.max(1, Math.floor((height + spacing) / Math.max(1, tileWidth * 0.75 + spacing)))
+    readonly property int fittingRows:
+        rows > 0 ? rows : Math.max(1, Math.floor((height + spacing) / Math.max(1, tileWidth * 0.75 + spacing)))
     readonly property int neededRows: Math.ceil(Math.min(Entries.count(model), 1000) / across)
     readonly property int down: Math.max(1, Math.min(fittingRows, neededRows))
     readonly property real tileHeight: Math.max(0, (height - (down - 1) * spacing) / down)

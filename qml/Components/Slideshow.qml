@@ -59,8 +59,8 @@ Rectangle {
     }
 
     function collectSlides() {
-        var found = [];
-        for (var i = 0; i < root.children.length; ++i) {
+        const found = [];
+        for (let i = 0; i < root.children.length; ++i) {
             if (root.children[i].isSlide === true)
                 found.push(root.children[i]);
         }

@@ -3,13 +3,14 @@
 import QtQuick 2.15
 import "."
 
-// Sheets that show every widget in every state, and what else its host adds, in chapters of which one is open. The
-// keyboard reaches all of it: what has the focus scrolls into view, and the keys for pages scroll.
+/// Sheets that show every widget in every state, and what else its host adds, in chapters of which one is open. The
+/// keyboard reaches all of it: what has the focus scrolls into view, and the keys for pages scroll.
 FocusScope {
-    id: gallery
+    id: root
 
     // Chapters as maps with "text" and "faIcon" for their tabs and "source", a document with the sheets.
-    property var chapters: [{ "text": qsTr("Widgets"), "faIcon": "fa-check-square-o", "source": "gallery/GalleryWidgets.qml" }]
+    property var chapters: [{ "text": qsTr("Widgets"), "faIcon": "fa-check-square-o",
+                              "source": "gallery/GalleryWidgets.qml" }]
     property alias currentIndex: tabs.currentIndex
     // What the open chapter shows; null while it loads.
     readonly property alias chapter: loader.item
@@ -28,17 +29,17 @@ FocusScope {
         id: bar
         width: parent.width
         height: visible ? tabs.height : 0
-        visible: gallery.chapters.length > 1
+        visible: root.chapters.length > 1
         color: Theme.surface
 
         SwitchTabs {
             id: tabs
             width: parent.width
-            leftMargin: gallery.gap / 2
-            rightMargin: gallery.gap / 2
+            leftMargin: root.gap / 2
+            rightMargin: root.gap / 2
             focus: bar.visible
             currentIndex: 0
-            model: gallery.chapters
+            model: root.chapters
             onCurrentIndexChanged: pane.contentY = 0
         }
     }
@@ -47,16 +48,16 @@ FocusScope {
         id: pane
         anchors.fill: parent
         anchors.topMargin: bar.height
-        contentHeight: loader.height + 2 * gallery.gap
-        gap: gallery.gap
+        contentHeight: loader.height + 2 * root.gap
+        gap: root.gap
         clip: bar.visible
 
         Loader {
             id: loader
-            x: gallery.gap
-            y: gallery.gap
-            width: pane.width - 2 * gallery.gap
-            source: gallery.chapters[tabs.currentIndex].source
+            x: root.gap
+            y: root.gap
+            width: pane.width - 2 * root.gap
+            source: root.chapters[tabs.currentIndex].source
         }
     }
 }

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 
-// Who made the program, which version it is and which computer it runs on.
+/// Who made the program, which version it is and which computer it runs on.
 FormPage {
-    id: aboutPage
+    id: root
 
     readonly property string webSite: "https://nuvex.example/"
 
@@ -34,7 +34,7 @@ FormPage {
             objectName: "credit"
             width: parent.width
             size: "large"
-            text: aboutPage.credit()
+            text: root.credit()
             textFormat: Text.StyledText
             horizontalAlignment: Text.AlignHCenter
             lineHeight: 1.5
@@ -49,13 +49,13 @@ FormPage {
                 focus: true
                 faIcon: "fa-external-link"
                 text: qsTr("Web Site")
-                onClicked: Qt.openUrlExternally(aboutPage.webSite)
+                onClicked: Qt.openUrlExternally(root.webSite)
             }
 
             BGUI.Button {
                 faIcon: "fa-question-circle"
                 text: qsTr("Help")
-                onClicked: aboutPage.shell.open("HelpPage")
+                onClicked: root.shell.open("HelpPage")
             }
         }
     }

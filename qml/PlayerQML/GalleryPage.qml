@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import "private"
 
-// Every widget and component at a glance.
+/// Every widget and component at a glance.
 FormPage {
-    id: page
+    id: root
 
     function chapter(text, faIcon, name) {
         return { "text": text, "faIcon": faIcon, "source": "qrc:///Nuvex/Components/gallery/" + name + ".qml" };
@@ -19,13 +19,13 @@ FormPage {
         focus: true
         source: "qrc:///Nuvex/GUI/Gallery.qml"
         onLoaded: item.chapters = item.chapters.concat([
-            page.chapter(qsTr("Pictures"), "fa-picture-o", "PictureSheets"),
-            page.chapter(qsTr("Texts"), "fa-font", "TextSheets"),
-            page.chapter(qsTr("Time and news"), "fa-clock-o", "TimeSheets"),
-            page.chapter(qsTr("Menus"), "fa-cutlery", "MenuSheets"),
-            page.chapter(qsTr("Shows"), "fa-film", "ShowSheets"),
-            page.chapter(qsTr("Layouts"), "fa-th-large", "LayoutSheets"),
-            page.chapter(qsTr("Effects"), "fa-magic", "EffectSheets")
+            root.chapter(qsTr("Pictures"), "fa-picture-o", "PictureSheets"),
+            root.chapter(qsTr("Texts"), "fa-font", "TextSheets"),
+            root.chapter(qsTr("Time and news"), "fa-clock-o", "TimeSheets"),
+            root.chapter(qsTr("Menus"), "fa-cutlery", "MenuSheets"),
+            root.chapter(qsTr("Shows"), "fa-film", "ShowSheets"),
+            root.chapter(qsTr("Layouts"), "fa-th-large", "LayoutSheets"),
+            root.chapter(qsTr("Effects"), "fa-magic", "EffectSheets")
         ])
     }
 }

@@ -4,10 +4,10 @@ import QtQuick 2.15
 import "SharedVars.js" as SS
 import "private"
 
-// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
-// one sees of it is made only when it is shown: a wall starts without it.
+/// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
+/// one sees of it is made only when it is shown: a wall starts without it.
 StackPage {
-    id: mainPage
+    id: root
 
     property string project
     property bool busy: false
@@ -42,7 +42,7 @@ StackPage {
         if (!active)
             return;
         if (view.status === Loader.Null)
-            view.setSource("private/MainView.qml", {"page": mainPage});
+            view.setSource("private/MainView.qml", {"page": root});
         view.item.showMessage(workspaceProblem());
     }
 

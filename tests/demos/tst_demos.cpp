@@ -86,7 +86,7 @@ void tst_Demos::projects()
 
     // The root comes first, with the size of a screen before any child.
     const QString document = QString::fromUtf8(contents(project.filePath("main.qml")));
-    const QRegularExpression root("^Rectangle \\{\\s+id: page\\s+width: (\\d+)\\s+height: (\\d+)$",
+    const QRegularExpression root("^Rectangle \\{\\s+id: root\\s+width: (\\d+)\\s+height: (\\d+)$",
                                   QRegularExpression::MultilineOption);
     const QRegularExpressionMatch match = root.match(document);
     QVERIFY(match.hasMatch());

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// What moves for the sake of it.
+/// What moves for the sake of it.
 SheetColumns {
-    id: sheets
+    id: root
 
     narrowest: 40
     most: 4

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// Containers that lay their items out.
+/// Containers that lay their items out.
 SheetColumns {
-    id: sheets
+    id: root
 
     narrowest: 40
     most: 4

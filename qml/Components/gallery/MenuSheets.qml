@@ -4,9 +4,9 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// Menu boards: single entries and whole lists.
+/// Menu boards: single entries and whole lists.
 SheetColumns {
-    id: sheets
+    id: root
 
     readonly property string samples: "qrc:///Nuvex/Components/icons/"
 
@@ -26,7 +26,7 @@ SheetColumns {
             name: qsTr("Garden salad")
             about: qsTr("Leaves, tomato, cucumber, herb dressing")
             price: "7.90"
-            image: sheets.samples + "sampleSalad.png"
+            image: root.samples + "sampleSalad.png"
         }
     }
 
@@ -41,7 +41,7 @@ SheetColumns {
             name: qsTr("Cappuccino")
             about: qsTr("Double shot, velvet milk")
             price: "3.60"
-            image: sheets.samples + "sampleCoffee.png"
+            image: root.samples + "sampleCoffee.png"
         }
     }
 
@@ -65,7 +65,7 @@ SheetColumns {
             about: qsTr("Tomato, mozzarella, fresh basil, olive oil")
             calories: "780 kcal"
             price: "11.50"
-            image: sheets.samples + "samplePizza.png"
+            image: root.samples + "samplePizza.png"
         }
     }
 
@@ -82,7 +82,7 @@ SheetColumns {
             name: qsTr("Fresh orange juice")
             calories: "112 kcal"
             price: "4.20"
-            image: sheets.samples + "sampleJuice.png"
+            image: root.samples + "sampleJuice.png"
         }
     }
 

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// Pictures, video and web pages.
+/// Pictures, video and web pages.
 SheetColumns {
-    id: sheets
+    id: root
 
     readonly property string samples: "qrc:///Nuvex/Components/icons/"
     readonly property url film: "qrc:///Nuvex/Components/icons/sampleSun.webm"
@@ -17,19 +17,21 @@ SheetColumns {
     Specimen {
         title: "BasicImage"
         about: qsTr("A picture")
-        BasicImage { width: 640; height: 360; source: sheets.samples + "sampleSalad.png"; fillMode: Image.PreserveAspectCrop }
+        BasicImage {
+            width: 640; height: 360; source: root.samples + "sampleSalad.png"; fillMode: Image.PreserveAspectCrop
+        }
     }
 
     Specimen {
         title: "KImage"
         about: qsTr("A picture that is approached slowly")
-        KImage { width: 640; height: 360; source: sheets.samples + "sampleCake.png"; kTime: 6000 }
+        KImage { width: 640; height: 360; source: root.samples + "sampleCake.png"; kTime: 6000 }
     }
 
     Specimen {
         title: "LiveImage"
         about: qsTr("A picture that comes and goes")
-        LiveImage { width: 640; height: 360; source: sheets.samples + "samplePizza.png"; backColor: "#f3eee3" }
+        LiveImage { width: 640; height: 360; source: root.samples + "samplePizza.png"; backColor: "#f3eee3" }
     }
 
     Specimen {
@@ -41,13 +43,13 @@ SheetColumns {
     Specimen {
         title: "BasicVideo"
         about: qsTr("A video")
-        BasicVideo { width: 640; height: 360; source: sheets.film }
+        BasicVideo { width: 640; height: 360; source: root.film }
     }
 
     Specimen {
         title: "ChromaVideo"
         about: qsTr("The same video without its green")
-        ChromaVideo { width: 640; height: 360; source: sheets.film }
+        ChromaVideo { width: 640; height: 360; source: root.film }
     }
 
     Specimen {

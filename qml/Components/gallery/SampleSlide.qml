@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// A slide of one colour that says what it is.
+/// A slide of one colour that says what it is.
 Slide {
-    id: slide
+    id: root
 
     property string text
 
@@ -14,13 +14,13 @@ Slide {
     BasicRectangle {
         width: 960
         height: 540
-        color: slide.tagColor
+        color: root.tagColor
     }
 
     BasicText {
         width: 960
         height: 540
-        text: slide.text
+        text: root.text
         color: "white"
         font.family: "Open Sans"
         font.pixelSize: 72

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// What takes turns: slides, schedules, carousels.
+/// What takes turns: slides, schedules, carousels.
 SheetColumns {
-    id: sheets
+    id: root
 
     narrowest: 40
     most: 4

@@ -6,7 +6,7 @@ import Nuvex.GUI 1.0 as BGUI
 /// A card with one component on a piece of wall, made as small as the wall demands, and a line on what it is. The
 /// component is made after the card is seen.
 BGUI.Card {
-    id: specimen
+    id: root
 
     property string about
     /// Height of the wall over its width.
@@ -20,8 +20,8 @@ BGUI.Card {
     spacing: BGUI.Theme.unit
 
     BGUI.Label {
-        width: specimen.contentWidth
-        text: specimen.about
+        width: root.contentWidth
+        text: root.about
         size: "small"
         muted: true
         wrapMode: Text.NoWrap
@@ -31,12 +31,12 @@ BGUI.Card {
     Rectangle {
         id: ground
 
-        readonly property real room: width * (1 - 2 * specimen.margin)
+        readonly property real room: width * (1 - 2 * root.margin)
 
-        width: specimen.contentWidth
-        height: Math.round(width * specimen.ratio)
+        width: root.contentWidth
+        height: Math.round(width * root.ratio)
         radius: BGUI.Theme.radius("base")
-        color: specimen.wall
+        color: root.wall
         clip: true
 
         BGUI.CustomBuzyInd {
@@ -48,7 +48,7 @@ BGUI.Card {
             anchors.centerIn: parent
             scale: Math.min(1, ground.room / width, (ground.height - ground.width + ground.room) / height)
             asynchronous: true
-            sourceComponent: specimen.component
+            sourceComponent: root.component
         }
     }
 }

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// Texts, plates and controls.
+/// Texts, plates and controls.
 SheetColumns {
-    id: sheets
+    id: root
 
     narrowest: 40
     most: 4

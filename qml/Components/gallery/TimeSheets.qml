@@ -4,10 +4,10 @@ import QtQuick 2.15
 import "../../GUI/gallery"
 import ".."
 
-// Clocks, calendar, weather and feeds. The feeds show the answers that stand in for theirs in the editor: a number of
-// their own is what tells them.
+/// Clocks, calendar, weather and feeds. The feeds show the answers that stand in for theirs in the editor: a number of
+/// their own is what tells them.
 SheetColumns {
-    id: sheets
+    id: root
 
     narrowest: 40
     most: 4

@@ -13,8 +13,8 @@ Item {
 
     visible: false
     Component.onCompleted: {
-        var parts = [];
-        for (var i = 0; i < from.children.length; ++i)
+        const parts = [];
+        for (let i = 0; i < from.children.length; ++i)
             parts.push(from.children[i]);
         own = parts;
     }
@@ -22,7 +22,7 @@ Item {
     Connections {
         target: root.from
         function onChildrenChanged() {
-            for (var i = root.own === null ? -1 : root.from.children.length - 1; i >= 0; --i) {
+            for (let i = root.own === null ? -1 : root.from.children.length - 1; i >= 0; --i) {
                 if (root.own.indexOf(root.from.children[i]) < 0)
                     root.from.children[i].parent = root.to;
             }

@@ -22,7 +22,8 @@ Item {
         width: parent.width
         height: text === "" ? 0 : implicitHeight * 1.15
         // The month on its own: beside a day some languages write it in another form.
-        text: root.calendar.language.standaloneMonthName(root.calendar.today.getMonth()) + " " + root.calendar.today.getFullYear()
+        text: root.calendar.language.standaloneMonthName(root.calendar.today.getMonth()) + " "
+              + root.calendar.today.getFullYear()
         color: root.calendar.titleColor
         font: Fonts.sized(root.calendar.titleFont, Math.min(root.calendar.titleFont.pixelSize, root.height * 0.13))
         fontSizeMode: Text.HorizontalFit
@@ -38,7 +39,8 @@ Item {
             y: title.height
             width: root.column
             height: root.line
-            text: root.calendar.language.standaloneDayName((root.calendar.language.firstDayOfWeek + index) % 7, Locale.ShortFormat)
+            text: root.calendar.language.standaloneDayName(
+                      (root.calendar.language.firstDayOfWeek + index) % 7, Locale.ShortFormat)
             color: root.calendar.weekdayColor
             font: root.fitted(root.calendar.weekdayFont, 0.36)
         }

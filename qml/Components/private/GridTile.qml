@@ -33,7 +33,8 @@ Item {
     Rectangle {
         anchors { left: parent.left; bottom: parent.bottom }
         anchors.margins: root.height * 0.04
-        width: Math.min(Math.ceil(caption.implicitWidth) + 2 + 2 * caption.anchors.margins, parent.width - 2 * anchors.margins)
+        width: Math.min(Math.ceil(caption.implicitWidth) + 2 + 2 * caption.anchors.margins,
+                        parent.width - 2 * anchors.margins)
         height: caption.height + root.height * 0.06
         radius: root.height * 0.03
         visible: root.name !== ""

@@ -26,10 +26,10 @@ Timer {
 
     // Where the line that is cut at the lower edge, if not the only one, comes to stand at the top.
     function nextPage() {
-        var x = root.view.width / 2;
-        var bottom = root.view.contentY + root.view.height;
-        var cut = root.view.itemAt(x, bottom - 1) || root.view.itemAt(x, bottom - root.view.spacing - 1);
-        var next = cut ? cut.y - root.covered : bottom;
+        const x = root.view.width / 2;
+        const bottom = root.view.contentY + root.view.height;
+        const cut = root.view.itemAt(x, bottom - 1) || root.view.itemAt(x, bottom - root.view.spacing - 1);
+        const next = cut ? cut.y - root.covered : bottom;
         return next > root.view.contentY + 1 ? next : bottom;
     }
 

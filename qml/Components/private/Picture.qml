@@ -52,7 +52,7 @@ Item {
     }
 
     function takeOver() {
-        var old = root.front;
+        const old = root.front;
         root.front = root.back;
         root.shownAddress = root.address;
         retry.forget();

@@ -10,7 +10,8 @@ Image {
 
     /// The Picture.
     property Item frame
-    readonly property rect place: Media.placeOf(frame.fillMode, implicitWidth, implicitHeight, frame.width, frame.height)
+    readonly property rect place: Media.placeOf(frame.fillMode, implicitWidth, implicitHeight,
+                                               frame.width, frame.height)
 
     x: place.x
     y: place.y

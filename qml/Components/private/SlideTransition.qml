@@ -23,7 +23,7 @@ NumberAnimation {
     onProgressChanged: {
         if (!root.running || !root.incoming || !root.outgoing)
             return;
-        var at = Transitions.placement(root.name, root.progress, root.show.width, root.show.height);
+        const at = Transitions.placement(root.name, root.progress, root.show.width, root.show.height);
         Transitions.place(root.incoming, at.incoming);
         Transitions.place(root.outgoing, at.outgoing);
     }

@@ -38,8 +38,8 @@ Item {
 
     /// Position of the slide that follows (1) or precedes (-1) slide `index`; undefined without any.
     function neighbour(index, step) {
-        var count = root.order.length;
-        var place = root.order.indexOf(index);
+        const count = root.order.length;
+        const place = root.order.indexOf(index);
         return root.order[place < 0 ? 0 : (place + step + count) % count];
     }
 
@@ -47,7 +47,7 @@ Item {
     function turnTo(index) {
         begin();
         root.stage.finish();
-        var wanted = root.slides[index];
+        const wanted = root.slides[index];
         if (!wanted || wanted === root.stage.current)
             return;
         root.dueAt = Date.now();
@@ -74,8 +74,8 @@ Item {
         clock.stop();
         if (!root.isRunning || !root.stage.current || root.stage.turning)
             return;
-        var left = root.dueAt - Date.now();
-        var longest = timeOf(root.stage.current) + Math.abs(root.show.offsetTime);
+        let left = root.dueAt - Date.now();
+        const longest = timeOf(root.stage.current) + Math.abs(root.show.offsetTime);
         if (left > longest) {
             // The computer's clock was set back.
             left = longest;
@@ -110,7 +110,7 @@ Item {
 
     function turn() {
         // In step with other shows, unless loading or a change of the computer's clock has cost too much time.
-        var late = Date.now() - root.dueAt;
+        const late = Date.now() - root.dueAt;
         root.dueAt = Date.now() + timeOf(root.stage.incoming) - (late < Limits.shortestSlide ? Math.max(0, late) : 0);
         root.stage.turn();
     }

@@ -13,7 +13,7 @@ Timer {
     property date time: new Date()
 
     function update() {
-        var now = new Date();
+        const now = new Date();
         root.time = now;
         root.interval = Clock.untilNext(now.getTime(), Math.max(1, root.period));
     }

@@ -16,7 +16,8 @@ Item {
     readonly property bool isMissing: video.error !== MediaPlayer.NoError || video.status === MediaPlayer.InvalidMedia
     readonly property bool isEmpty: video.source == ""
     readonly property bool isReady: video.playbackState !== MediaPlayer.StoppedState
-                                    && (video.status === MediaPlayer.Buffered || video.status === MediaPlayer.EndOfMedia)
+                                    && (video.status === MediaPlayer.Buffered
+                                         || video.status === MediaPlayer.EndOfMedia)
     readonly property bool settled: isEmpty || isMissing || isReady
 
     // Deferred to the end of the event, when all bindings have settled.

@@ -4,14 +4,14 @@
 //
 // The days on the page of a calendar.
 
-/// The weeks that touch `month` (0 to 11) of `year`, from `firstDay` (0 is Sunday) on, as a flat list of days: date (the
-/// day's number), isInMonth.
+/// The weeks that touch `month` (0 to 11) of `year`, from `firstDay` (0 is Sunday) on, as a flat list of days: date
+/// (the day's number), isInMonth.
 function month(year, month, firstDay) {
-    var before = (new Date(year, month, 1).getDay() - firstDay + 7) % 7;
-    var length = new Date(year, month + 1, 0).getDate();
-    var days = [];
-    for (var i = 0; i < Math.ceil((before + length) / 7) * 7; ++i) {
-        var date = new Date(year, month, 1 - before + i, 12);
+    const before = (new Date(year, month, 1).getDay() - firstDay + 7) % 7;
+    const length = new Date(year, month + 1, 0).getDate();
+    const days = [];
+    for (let i = 0; i < Math.ceil((before + length) / 7) * 7; ++i) {
+        const date = new Date(year, month, 1 - before + i, 12);
         days.push({ date: date.getDate(), isInMonth: date.getMonth() === month });
     }
     return days;

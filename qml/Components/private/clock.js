@@ -7,7 +7,7 @@
 
 /// The shortest period, in milliseconds, at which a text in `format` (as for Qt.formatDateTime) can change.
 function period(format) {
-    var fields = format.replace(/'[^']*('|$)/g, "");
+    const fields = format.replace(/'[^']*('|$)/g, "");
     if (fields.indexOf("z") >= 0)
         return 100;
     if (fields.indexOf("s") >= 0)

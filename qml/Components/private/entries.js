@@ -15,7 +15,7 @@ function text(entry, name, main) {
         return "";
     if (typeof entry === "string" || typeof entry === "number")
         return name === main ? String(entry) : "";
-    var value = entry[name];
+    const value = entry[name];
     return value === undefined || value === null ? "" : String(value);
 }
 

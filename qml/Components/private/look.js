@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// Looks what a server has at an address, without fetching it, as a worker beside the screen's thread. The message is the
-// address; back comes a text that is another when something else is there, "" while there is nothing. The request ends
-// with the worker, its connection too.
+// Looks what a server has at an address, without fetching it, as a worker beside the screen's thread. The message is
+// the address; back comes a text that is another when something else is there, "" while there is nothing. The request
+// ends with the worker, its connection too.
 
 WorkerScript.onMessage = function(address) {
     const request = new XMLHttpRequest();

@@ -6,7 +6,7 @@
 // shows: a rule that begins in the hour that is skipped in spring begins when the clock jumps; one in the hour that
 // comes twice in autumn is active twice.
 
-var daySeconds = 86400;
+const daySeconds = 86400;
 
 /// A rule, made from `raw`, an object as written in a document:
 /// - slide or slides: positions or object names of the slides it shows;
@@ -16,7 +16,7 @@ var daySeconds = 86400;
 /// - priority: a number; of the active rules those with the highest win; none: 0.
 /// Days and dates are those on which it begins. Returns null when one of these cannot be understood.
 function parsed(raw) {
-    var rule = {
+    const rule = {
         slides: raw.slides !== undefined ? [].concat(raw.slides) : raw.slide !== undefined ? [raw.slide] : [],
         days: daySet(raw.days),
         from: dateBound(raw.from),
@@ -25,16 +25,17 @@ function parsed(raw) {
         end: seconds(raw.end, daySeconds),
         priority: raw.priority === undefined ? 0 : Number(raw.priority)
     };
-    var isUnderstood = rule.days && rule.from !== undefined && rule.until !== undefined && isYearly(rule.from, rule.until)
+    const isUnderstood = rule.days && rule.from !== undefined && rule.until !== undefined
+                         && isYearly(rule.from, rule.until)
         && rule.begin < daySeconds && rule.end <= daySeconds && isFinite(rule.priority);
     return isUnderstood ? rule : null;
 }
 
 /// Positions in `rules` of the active ones with the highest priority; null entries are skipped.
 function winners(rules, date) {
-    var when = moment(date);
-    var active = [];
-    var highest = -Infinity;
+    const when = moment(date);
+    let active = [];
+    let highest = -Infinity;
     rules.forEach(function(rule, i) {
         if (rule === null || !isActive(rule, when))
             return;
@@ -50,10 +51,10 @@ function winners(rules, date) {
 /// The moment, in milliseconds as Date.now() counts, at which the winners after `date` are no longer those at `date`;
 /// NaN when they stay.
 function nextChange(rules, date) {
-    var now = winners(rules, date).join();
-    var candidates = boundaries(rules, date).filter(function(time) { return time > date.getTime(); });
+    const now = winners(rules, date).join();
+    const candidates = boundaries(rules, date).filter(function(time) { return time > date.getTime(); });
     candidates.sort(function(a, b) { return a - b; });
-    for (var i = 0; i < candidates.length; ++i) {
+    for (let i = 0; i < candidates.length; ++i) {
         if (winners(rules, new Date(candidates[i])).join() !== now)
             return candidates[i];
     }
@@ -67,7 +68,7 @@ function needsSeconds(rule) {
 
 // What the wall shows at `date`: today, yesterday and the second of the day.
 function moment(date) {
-    var midday = new Date(date.getFullYear(), date.getMonth(), date.getDate(), 12);
+    const midday = new Date(date.getFullYear(), date.getMonth(), date.getDate(), 12);
     return {
         today: day(midday),
         yesterday: day(new Date(midday.getFullYear(), midday.getMonth(), midday.getDate() - 1, 12)),
@@ -76,7 +77,8 @@ function moment(date) {
 }
 
 function day(date) {
-    return { year: date.getFullYear(), date: (date.getMonth() + 1) * 100 + date.getDate(), weekday: (date.getDay() + 6) % 7 + 1 };
+    return { year: date.getFullYear(), date: (date.getMonth() + 1) * 100 + date.getDate(),
+             weekday: (date.getDay() + 6) % 7 + 1 };
 }
 
 function isActive(rule, when) {
@@ -92,9 +94,9 @@ function beginsOn(rule, day) {
 
 // Bounds without year are compared within the year, across its end when the first is the later one.
 function isBetween(from, day, until) {
-    var after = from === null || order(day, from) >= 0;
-    var before = until === null || order(day, until) <= 0;
-    var isAcrossNewYear = from !== null && until !== null && from.year === null && from.date > until.date;
+    const after = from === null || order(day, from) >= 0;
+    const before = until === null || order(day, until) <= 0;
+    const isAcrossNewYear = from !== null && until !== null && from.year === null && from.date > until.date;
     return isAcrossNewYear ? after || before : after && before;
 }
 
@@ -106,21 +108,21 @@ function isYearly(from, until) {
     return from === null || until === null || (from.year === null) === (until.year === null);
 }
 
-var weekdays = ["mo", "tu", "we", "th", "fr", "sa", "su"];
+const weekdays = ["mo", "tu", "we", "th", "fr", "sa", "su"];
 
 // Set of ISO day numbers as an object; null when `days` cannot be understood.
 function daySet(days) {
-    var set = {};
+    const set = {};
     if (days === undefined || days === null || days === "")
         days = "mo-su";
-    var parts = typeof days === "string" ? days.toLowerCase().split(/[\s,;]+/) : [].concat(days);
-    var isUnderstood = parts.every(function(part) {
-        var ends = typeof part === "string" ? part.split("-").map(weekday) : [Number(part), Number(part)];
-        var first = ends[0];
-        var last = ends[ends.length - 1];
+    const parts = typeof days === "string" ? days.toLowerCase().split(/[\s,;]+/) : [].concat(days);
+    const isUnderstood = parts.every(function(part) {
+        const ends = typeof part === "string" ? part.split("-").map(weekday) : [Number(part), Number(part)];
+        const first = ends[0];
+        const last = ends[ends.length - 1];
         if (!(first >= 1 && first <= 7 && last >= 1 && last <= 7 && ends.length <= 2))
             return false;
-        for (var i = first; ; i = i % 7 + 1) {
+        for (let i = first; ; i = i % 7 + 1) {
             set[i] = true;
             if (i === last)
                 return true;
@@ -137,17 +139,18 @@ function weekday(name) {
 function dateBound(text) {
     if (text === undefined || text === null || text === "")
         return null;
-    var match = /^(?:(\d{4})-)?(\d\d?)-(\d\d?)$/.exec(String(text));
+    const match = /^(?:(\d{4})-)?(\d\d?)-(\d\d?)$/.exec(String(text));
     if (!match || match[2] < 1 || match[2] > 12 || match[3] < 1 || match[3] > 31)
         return undefined;
-    return { year: match[1] === undefined || match[1] === "" ? null : Number(match[1]), date: match[2] * 100 + Number(match[3]) };
+    return { year: match[1] === undefined || match[1] === "" ? null : Number(match[1]),
+             date: match[2] * 100 + Number(match[3]) };
 }
 
 // Second of the day; NaN when not understood.
 function seconds(text, fallback) {
     if (text === undefined || text === null || text === "")
         return fallback;
-    var match = /^(\d\d?):(\d\d)(?::(\d\d))?$/.exec(String(text));
+    const match = /^(\d\d?):(\d\d)(?::(\d\d))?$/.exec(String(text));
     if (!match || match[2] > 59 || match[3] > 59)
         return NaN;
     return match[1] * 3600 + match[2] * 60 + Number(match[3] || 0);
@@ -155,8 +158,8 @@ function seconds(text, fallback) {
 
 // All moments around `date` and around the rules' bounds at which something may change.
 function boundaries(rules, date) {
-    var times = [];
-    var known = rules.filter(function(rule) { return rule !== null; });
+    const times = [];
+    const known = rules.filter(function(rule) { return rule !== null; });
     daysToLookAt(known, date).forEach(function(start) {
         addClockJump(times, start);
         known.forEach(function(rule) {
@@ -170,10 +173,10 @@ function boundaries(rules, date) {
 
 // Middays of the days to look at: a week and what touches it, and the same from each bound on.
 function daysToLookAt(rules, date) {
-    var days = {};
+    const days = {};
     function addWeek(year, month, day) {
-        for (var i = -1; i <= 8; ++i) {
-            var midday = new Date(year, month, day + i, 12);
+        for (let i = -1; i <= 8; ++i) {
+            const midday = new Date(year, month, day + i, 12);
             days[midday.getTime()] = midday;
         }
     }
@@ -182,7 +185,7 @@ function daysToLookAt(rules, date) {
         [rule.from, rule.until].forEach(function(bound) {
             if (bound === null)
                 return;
-            var years = bound.year === null ? [date.getFullYear(), date.getFullYear() + 1] : [bound.year];
+            const years = bound.year === null ? [date.getFullYear(), date.getFullYear() + 1] : [bound.year];
             years.forEach(function(year) { addWeek(year, Math.floor(bound.date / 100) - 1, bound.date % 100); });
         });
     });
@@ -191,19 +194,19 @@ function daysToLookAt(rules, date) {
 
 // The wall clock's `second` on the day of `midday`; in case the clock is put back, also an hour to either side.
 function addTime(times, midday, second) {
-    var time = new Date(midday.getFullYear(), midday.getMonth(), midday.getDate(), 0, 0, second).getTime();
+    const time = new Date(midday.getFullYear(), midday.getMonth(), midday.getDate(), 0, 0, second).getTime();
     times.push(time, time - 3600000, time + 3600000);
 }
 
 // The moment at which the clock is put forward or back between the midday before and `midday`.
 function addClockJump(times, midday) {
-    var early = new Date(midday.getFullYear(), midday.getMonth(), midday.getDate() - 1, 12).getTime();
-    var late = midday.getTime();
-    var offset = new Date(early).getTimezoneOffset();
+    let early = new Date(midday.getFullYear(), midday.getMonth(), midday.getDate() - 1, 12).getTime();
+    let late = midday.getTime();
+    const offset = new Date(early).getTimezoneOffset();
     if (offset === midday.getTimezoneOffset())
         return;
     while (late - early > 1) {
-        var middle = Math.floor((early + late) / 2);
+        const middle = Math.floor((early + late) / 2);
         if (new Date(middle).getTimezoneOffset() === offset)
             early = middle;
         else

@@ -36,6 +36,6 @@ function leaveStage(slide, keeps) {
 
 /// Milliseconds from the start of a slide's transition to the start of the next one's.
 function timeOf(slide, transitionTime) {
-    var wanted = slide.duration > 0 ? slide.duration : Limits.slideDuration;
+    const wanted = slide.duration > 0 ? slide.duration : Limits.slideDuration;
     return Math.max(wanted, Limits.shortestSlide + Math.max(0, transitionTime));
 }

@@ -5,7 +5,7 @@
 // The transitions between two slides, as functions from progress to placement.
 
 /// Names of all transitions, as they are written in documents.
-var names = ["cut", "fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover"];
+const names = ["cut", "fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover"];
 
 /// `name` if there is such a transition, else the gentlest one.
 function known(name) {
@@ -21,8 +21,8 @@ function isGrouped(name) {
 /// Where both slides stand at `progress` (0 to 1) of transition `name` in a frame of width x height. Members: x, y,
 /// opacity, scale, reveal (share of the slide that a wipe has uncovered) and down (whether the wipe runs downwards).
 function placement(name, progress, width, height) {
-    var result = { incoming: standing(), outgoing: standing() };
-    var step = steps[name];
+    const result = { incoming: standing(), outgoing: standing() };
+    const step = steps[name];
     if (step)
         step(result.incoming, result.outgoing, progress, width, height);
     return result;
@@ -69,7 +69,7 @@ function wipe(down) {
     };
 }
 
-var steps = {
+const steps = {
     fade: function(incoming, outgoing, progress) {
         incoming.opacity = coveredShare(progress);
         outgoing.opacity = leavingOpacity(progress);

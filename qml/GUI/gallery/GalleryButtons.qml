@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Buttons by type, size and state.
+/// Buttons by type, size and state.
 Card {
-    id: sheet
+    id: root
 
     readonly property var types: ["default", "primary", "success", "info", "warning", "danger", "link"]
     readonly property var sizes: ["xsmall", "small", "base", "large", "xlarge"]
@@ -17,7 +17,7 @@ Card {
         spacing: Theme.unit
 
         Repeater {
-            model: sheet.types
+            model: root.types
 
             Button {
                 type: modelData
@@ -30,7 +30,7 @@ Card {
         spacing: Theme.unit
 
         Repeater {
-            model: sheet.sizes
+            model: root.sizes
 
             Button {
                 anchors.verticalCenter: parent.verticalCenter

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Boxes, radios, lists to choose from, sliders and numbers.
+/// Boxes, radios, lists to choose from, sliders and numbers.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Choices")
 
@@ -32,7 +32,7 @@ Card {
         label: qsTr("Radio group, at the touch size")
 
         RadioGroup {
-            width: sheet.contentWidth
+            width: root.contentWidth
             size: "large"
             currentIndex: 0
             model: [qsTr("Play"), qsTr("Edit"), qsTr("Dash"), qsTr("Main")]

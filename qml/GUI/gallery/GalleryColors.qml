@@ -4,9 +4,9 @@ import QtQuick 2.15
 import ".."
 import "../private"
 
-// Choosing a colour, and the theme's own colours.
+/// Choosing a colour, and the theme's own colours.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Colours")
 
@@ -34,7 +34,8 @@ Card {
 
         Repeater {
             model: ["gray-darker", "gray-dark", "gray-light", "gray-lighter", "brand-primary", "brand-success",
-                    "brand-info", "brand-warning", "brand-danger", "link-hover-color", "input-border", "dropdown-border"]
+                    "brand-info", "brand-warning", "brand-danger", "link-hover-color", "input-border",
+                     "dropdown-border"]
 
             Row {
                 width: 17 * Theme.unit

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Fields for text, and how forms line them up.
+/// Fields for text, and how forms line them up.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Fields")
 
@@ -48,7 +48,7 @@ Card {
 
             Input {
                 anchors.verticalCenter: parent.verticalCenter
-                width: (sheet.contentWidth - 4 * Theme.unit) / 5
+                width: (root.contentWidth - 4 * Theme.unit) / 5
                 size: modelData
                 text: modelData
             }
@@ -59,20 +59,20 @@ Card {
         label: qsTr("Text areas: filled, empty, error")
 
         TextArea {
-            width: sheet.contentWidth
+            width: root.contentWidth
             height: 9 * Theme.unit
             text: qsTr("Welcome to our house.\nBreakfast is served from seven to ten.\nThe pool is open all day.\n"
                        + "Please ask at the desk for towels.")
         }
 
         TextArea {
-            width: (sheet.contentWidth - 1.5 * Theme.unit) / 2
+            width: (root.contentWidth - 1.5 * Theme.unit) / 2
             height: 7 * Theme.unit
             placeholderText: qsTr("What should the screen say?")
         }
 
         TextArea {
-            width: (sheet.contentWidth - 1.5 * Theme.unit) / 2
+            width: (root.contentWidth - 1.5 * Theme.unit) / 2
             height: 7 * Theme.unit
             hasError: true
             text: qsTr("Far too long")

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The file browser, in a small place.
+/// The file browser, in a small place.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Files")
 

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Every icon; the mouse over one tells its name, the field finds names.
+/// Every icon; the mouse over one tells its name, the field finds names.
 Card {
-    id: sheet
+    id: root
 
     readonly property var names: Object.keys(faIcons).filter(name => name.startsWith("fa-"))
     property string pointed
@@ -13,7 +13,7 @@ Card {
     title: qsTr("Icons")
 
     FormRow {
-        label: sheet.pointed || qsTr("%1 icons").arg(sheet.names.length)
+        label: root.pointed || qsTr("%1 icons").arg(root.names.length)
 
         Input {
             id: search
@@ -28,7 +28,7 @@ Card {
         width: parent.width
 
         Repeater {
-            model: sheet.names.filter(name => name.includes(search.text.toLowerCase()))
+            model: root.names.filter(name => name.includes(search.text.toLowerCase()))
 
             FontAwesomeIcon {
                 width: 3.5 * Theme.unit
@@ -39,7 +39,7 @@ Card {
 
                 HoverHandler {
                     id: hover
-                    onHoveredChanged: sheet.pointed = hovered ? modelData : ""
+                    onHoveredChanged: root.pointed = hovered ? modelData : ""
                 }
             }
         }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// A page's header and the rows of a list.
+/// A page's header and the rows of a list.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Headers and lists")
 

@@ -4,15 +4,18 @@ import QtQuick 2.15
 import ".."
 import "../private"
 
-// What the program says: notices, progress, busy and empty places, questions.
+/// What the program says: notices, progress, busy and empty places, questions.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Messages")
 
     Notice { type: "info"; text: qsTr("No cloud is set up on this player.") }
     Notice { type: "success"; closable: true; text: qsTr("Project exported to Lobby.zip.") }
-    Notice { type: "warning"; text: qsTr("The disk is nearly full: 120 MB are left. Remove projects that nobody needs.") }
+    Notice {
+        type: "warning"
+        text: qsTr("The disk is nearly full: 120 MB are left. Remove projects that nobody needs.")
+    }
     Notice { type: "danger"; closable: true; text: qsTr("The archive is damaged. Nothing was changed.") }
 
     StateRow {
@@ -65,6 +68,6 @@ Card {
 
     CustomBuzyInd {
         id: busy
-        parent: sheet
+        parent: root
     }
 }

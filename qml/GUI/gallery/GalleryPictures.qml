@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Thumbnails, rounded pictures and the scope, which follows the mouse.
+/// Thumbnails, rounded pictures and the scope, which follows the mouse.
 Card {
-    id: sheet
+    id: root
 
     readonly property url picture: "qrc:/Nuvex/Components/icons/LiveImage.png"
 
@@ -14,18 +14,18 @@ Card {
     StateRow {
         label: qsTr("Thumbnails: picture, chosen, empty, disabled")
 
-        Thumbnail { source: sheet.picture; text: "window.png" }
-        Thumbnail { source: sheet.picture; text: qsTr("a picture with a long name.png"); selected: true }
+        Thumbnail { source: root.picture; text: "window.png" }
+        Thumbnail { source: root.picture; text: qsTr("a picture with a long name.png"); selected: true }
         Thumbnail { text: qsTr("No picture") }
-        Thumbnail { source: sheet.picture; text: qsTr("Disabled"); enabled: false }
+        Thumbnail { source: root.picture; text: qsTr("Disabled"); enabled: false }
     }
 
     StateRow {
         label: qsTr("Rounded thumbnails")
 
-        RoundedThumbnail { source: sheet.picture; text: "Anna" }
-        RoundedThumbnail { source: sheet.picture; text: qsTr("Chosen"); selected: true }
-        RoundedThumbnail { source: sheet.picture; text: "16 dp"; radius: 16 * dp }
+        RoundedThumbnail { source: root.picture; text: "Anna" }
+        RoundedThumbnail { source: root.picture; text: qsTr("Chosen"); selected: true }
+        RoundedThumbnail { source: root.picture; text: "16 dp"; radius: 16 * dp }
         RoundedThumbnail { text: qsTr("Nobody") }
     }
 
@@ -36,14 +36,14 @@ Card {
             width: 24 * Theme.unit
             height: 16 * Theme.unit
             radius: 3 * Theme.unit
-            source: sheet.picture
+            source: root.picture
         }
 
         Image {
             id: ground
             width: 16 * Theme.unit
             height: 16 * Theme.unit
-            source: sheet.picture
+            source: root.picture
 
             ImageScope {
                 id: scope
@@ -55,7 +55,7 @@ Card {
                 y: centre.y - height / 2
                 width: 9 * Theme.unit
                 height: width
-                source: sheet.picture
+                source: root.picture
                 imageWidth: 2.5 * ground.width
                 imageHeight: 2.5 * ground.height
                 scopeX: 2.5 * centre.x - width / 2

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The type scale.
+/// The type scale.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Type")
 
@@ -13,7 +13,7 @@ Card {
         model: ["h1", "h2", "h3", "h4", "xlarge", "large", "base", "small"]
 
         Label {
-            width: sheet.contentWidth
+            width: root.contentWidth
             size: modelData
             text: qsTr("%1: Signs that people read").arg(modelData)
             wrapMode: Text.NoWrap

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// QML source with its tools and a marked line.
+/// QML source with its tools and a marked line.
 Card {
-    id: sheet
+    id: root
 
     title: qsTr("Source")
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-// Every widget in every state.
+/// Every widget in every state.
 SheetColumns {
-    id: widgets
+    id: root
 
     GalleryButtons {}
     GalleryChoices {}

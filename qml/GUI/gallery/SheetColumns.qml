@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Sheets in as many columns as fit: each goes below the shortest column so far. Lists made by a Repeater count too.
+/// Sheets in as many columns as fit: each goes below the shortest column so far. Lists made by a Repeater count too.
 Item {
-    id: board
+    id: root
 
     // How narrow a column may be, in units, and how many there are at most.
     property real narrowest: 62

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// A caption, and below it what it names, side by side.
+/// A caption, and below it what it names, side by side.
 Column {
-    id: row
+    id: root
 
     property string label
     default property alias items: flow.data
@@ -15,7 +15,7 @@ Column {
 
     Label {
         width: parent.width
-        text: row.label
+        text: root.label
         size: "small"
         muted: true
     }

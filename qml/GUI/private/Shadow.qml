@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// A soft shadow below its parent: a few faint sheets, no shader.
+/// A soft shadow below its parent: a few faint sheets, no shader.
 Repeater {
-    id: shadow
+    id: root
 
     model: 4
 

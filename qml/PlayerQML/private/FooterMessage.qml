@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A line at a page's foot for what went wrong. It clears itself after a while.
+/// A line at a page's foot for what went wrong. It clears itself after a while.
 Item {
-    id: footer
+    id: root
 
     property string text
 
@@ -22,7 +22,7 @@ Item {
         anchors.right: parent.right
         anchors.margins: 3 * BGUI.Theme.unit
         anchors.verticalCenter: parent.verticalCenter
-        text: footer.text
+        text: root.text
         textFormat: Text.PlainText
         maximumLineCount: 2
         elide: Text.ElideRight
@@ -33,6 +33,6 @@ Item {
     Timer {
         id: clearing
         interval: 5000
-        onTriggered: footer.text = ""
+        onTriggered: root.text = ""
     }
 }

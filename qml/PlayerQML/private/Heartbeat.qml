@@ -3,10 +3,10 @@
 import QtQuick 2.15
 import "../SharedVars.js" as SS
 
-// Tells the account's database once a minute that this player is alive, and with sharing on sends a screenshot
-// every twentieth time. The answer sets CAPI.iConnected.
+/// Tells the account's database once a minute that this player is alive, and with sharing on sends a screenshot
+/// every twentieth time. The answer sets CAPI.iConnected.
 Timer {
-    id: heartbeat
+    id: root
 
     property RequestTimer timeOut: RequestTimer {}
     property int sharedTicks: 0

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-// Aborts a request that takes too long; handed to the cloud calls of the shared script, which set `request`,
-// start it and stop it. A request that is still under way ends with the timer's owner.
+/// Aborts a request that takes too long; handed to the cloud calls of the shared script, which set `request`,
+/// start it and stop it. A request that is still under way ends with the timer's owner.
 Timer {
-    id: timer
+    id: root
 
     property var request: null
 

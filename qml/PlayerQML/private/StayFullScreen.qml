@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-// Asks for the full screen again and again for two minutes: the window system may restore the window shortly after
-// start.
+/// Asks for the full screen again and again for two minutes: the window system may restore the window shortly after
+/// start.
 Timer {
     property int rounds: 0
 

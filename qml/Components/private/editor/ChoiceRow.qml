@@ -8,8 +8,8 @@ import "values.js" as Values
 PanelRow {
     id: root
 
-    /// The choices: a list of maps with "text", "is" (the live value) and "code" (its source text; without it, `is` as a
-    /// quoted text).
+    /// The choices: a list of maps with "text", "is" (the live value) and "code" (its source text; without it, `is` as
+    /// a quoted text).
     property var choices: []
     readonly property alias box: box
 

@@ -36,7 +36,8 @@ PanelRow {
     }
 
     function remove(index) {
-        const files = root.fields.filter(field => field.kind in Files.filters).map(field => root.entries[index][field.name]);
+        const files = root.fields.filter(field => field.kind in Files.filters)
+                                   .map(field => root.entries[index][field.name]);
         root.open = -1;
         put(root.entries.filter((entry, i) => i !== index));
         files.forEach(file => Files.letGo(String(file || "")));

@@ -5,8 +5,8 @@ import QtQuick.Templates 2.15 as T
 import Nuvex.GUI 1.0 as BGUI
 import "files.js" as Files
 
-/// Looks for a file over the whole window. Before a file of the project would be replaced by another of the same name, it
-/// asks.
+/// Looks for a file over the whole window. Before a file of the project would be replaced by another of the same name,
+/// it asks.
 BGUI.ModalPopup {
     id: root
 

@@ -108,7 +108,8 @@ FocusScope {
         return /^\s*/.exec(line)[0] + (property ? "" : "    ");
     }
 
-    /// Lets the user choose a file of `kind`, of files.js, and copies it into the project; `chosen` gets its path there.
+    /// Lets the user choose a file of `kind`, of files.js, and copies it into the project; `chosen` gets its path
+    /// there.
     function pickFile(kind, chosen) {
         picker.kind = kind;
         picker.chosen = chosen;

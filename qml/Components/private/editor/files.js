@@ -33,10 +33,11 @@ function bringIn(url) {
     return path;
 }
 
-/// Takes the file `path` off the directory map when no document of the project names it any more. The file itself stays:
-/// undo may need it.
+/// Takes the file `path` off the directory map when no document of the project names it any more. The file itself
+/// stays: undo may need it.
 function letGo(path) {
-    if (path && path.startsWith(folder + "/") && Editor.Ejs.dirmap && Editor.Ejs.dirmap[path] !== undefined && !_isUsed(path))
+    if (path && path.startsWith(folder + "/") && Editor.Ejs.dirmap && Editor.Ejs.dirmap[path] !== undefined
+            && !_isUsed(path))
         Editor.Ejs.removeFileFromDirmap(path);
 }
 

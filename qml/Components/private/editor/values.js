@@ -46,7 +46,8 @@ function _object(entry) {
 function _value(value) {
     if (Array.isArray(value))
         return "[" + value.map(_value).join(", ") + "]";
-    return typeof value === "string" ? quoted(value) : typeof value === "object" && value !== null ? _object(value) : String(value);
+    return typeof value === "string" ? quoted(value)
+         : typeof value === "object" && value !== null ? _object(value) : String(value);
 }
 
 // What a panel calls the value `name`, a name in camel case: "Slide left" for slideLeft.
