@@ -61,7 +61,7 @@ void showWidgets(QQuickView& view)
     view.rootContext()->setContextProperty(QStringLiteral("bs"), themeTable());
     view.rootContext()->setContextProperty(QStringLiteral("dp"), 1.0);
     addImportPaths(*view.engine());
-    view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/GUI/Gallery.qml")));
+    view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/Gallery/Gallery.qml")));
 }
 
 int runBare(int& argc, char** argv, void (*show)(QQuickView&))

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "private/editor"
-import "private/editor/values.js" as Values
+import Nuvex.Editor.panel 1.0
 
 /// The panel of AnimatedItem: how it moves.
 Item {

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/entries.js" as Entries
+import "private/menu"
+import "private/picture"
+import "private/menu/entries.js" as Entries
 import "private/presence.js" as Presence
-import "private/samples.js" as Samples
+import "private/menu/samples.js" as Samples
 
 /// A menu whose entries take turns: the one that is marked in the list shows its picture. The model has objects with
 /// the members name, price, details, image.

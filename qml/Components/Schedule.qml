@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/schedule.js" as Rules
+import "private/clock"
+import "private/show/schedule.js" as Rules
 
 /// A slideshow whose slides are on at set times. Each entry of `schedules` names slides and when they are on (see
-/// private/schedule.js). The slides of the active entries with the highest priority take turns; in the gaps between,
+/// private/show/schedule.js). The slides of the active entries with the highest priority take turns; in the gaps between,
 /// the slides that no entry names. Looked at again at every full minute, so that it follows when the clock is set.
 Slideshow {
     id: root

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// A sheet on the ground of a page, with a title; what is declared inside stands below it, one under the other.
 Rectangle {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
 /// Chooses a colour: a plane of saturation and brightness, strips of hue and opacity, the hexadecimal name, a palette.

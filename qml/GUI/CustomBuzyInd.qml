@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
 /// A busy indicator with its text, over the whole parent, which takes no presses meanwhile. It can end with a message

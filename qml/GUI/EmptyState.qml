@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// Stands where there is nothing to show, or where showing it failed: says so, and what to do about it. Buttons
 /// declared inside stand below the text.

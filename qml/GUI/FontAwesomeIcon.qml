@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// One icon of the icon font in a square of its own, so that icons of different widths line up.
 Text {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// A line of a form: a label, and the control declared inside. Where the width is short the control stands below its
 /// label. The control takes the free width when it says `width: parent.width`.

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// A round or elliptic window onto a part of a picture, like a magnifier's glass. The picture is laid out at
 /// `imageWidth` by `imageHeight`; the window shows it from (`scopeX`, `scopeY`) on, nothing outside it.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
 /// A question or message over the whole window. Enter or Space presses the focused button, at first the one that does
 /// no harm: the accepting one, or the rejecting one when `type` is "danger". Escape rejects.

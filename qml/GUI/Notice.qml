@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// A message in the flow of a page: "info", "success", "warning" or "danger". Takes no room while its text is empty.
 Rectangle {

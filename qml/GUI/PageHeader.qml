@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
 /// The bar at the top of a page: back button, title, a second line, and at the right end what is declared inside it
 /// (ActionButtons with `onDark`).

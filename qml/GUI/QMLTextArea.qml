@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.Native 1.0
-import "."
 import "private"
 import "private/indent.js" as Indent
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
 /// Radios for the entries of `model`, a list of texts or of objects with "text" and "value". One stop for the Tab
 /// key; the arrow keys move the choice. Wraps into further lines where the width is short.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
 /// Attach it to a list or flickable: `T.ScrollBar.vertical: ScrollBar {}`. Gone while everything fits.
 T.ScrollBar {

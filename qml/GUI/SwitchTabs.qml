@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
 /// A row of tabs, one chosen: `model` lists texts, or objects with "text" and "faIcon". One stop for the Tab key;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "SharedVars.js" as SS
 import "private"
+import "SharedVars.js" as SS
 
 /// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
 /// one sees of it is made only when it is shown: a wall starts without it.

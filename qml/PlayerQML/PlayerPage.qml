@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "SharedVars.js" as SS
 import "private"
+import "SharedVars.js" as SS
 
 /// Shows a project's document over the whole page, and follows the account's wishes.
 StackPage {

@@ -4,8 +4,8 @@ import QtQuick 2.15
 import QtQml 2.15
 import QtQuick.Controls 1.4
 import Nuvex.Deployment 1.0
-import "SharedVars.js" as SS
 import "private"
+import "SharedVars.js" as SS
 
 /// The program's root: a stack of pages. Decides what is shown first and keeps the heartbeat going.
 StackView {

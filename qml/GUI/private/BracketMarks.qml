@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import ".."
 
 /// Frames the bracket beside the cursor of an edit and the one that belongs to it.
 Repeater {
