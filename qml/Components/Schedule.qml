@@ -6,8 +6,9 @@ import "private/clock"
 import "private/show/schedule.js" as Rules
 
 /// A slideshow whose slides are on at set times. Each entry of `schedules` names slides and when they are on (see
-/// private/show/schedule.js). The slides of the active entries with the highest priority take turns; in the gaps between,
-/// the slides that no entry names. Looked at again at every full minute, so that it follows when the clock is set.
+/// private/show/schedule.js). The slides of the active entries with the highest priority take turns; in the gaps
+/// between, the slides that no entry names. Looked at again at every full minute, so that it follows when the clock is
+/// set.
 Slideshow {
     id: root
 
