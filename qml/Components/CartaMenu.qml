@@ -39,6 +39,7 @@ ListView {
     property color nameColor: "white"
     property color priceColor: "#f2b04a"
     property color detailsColor: "#b7c3ce"
+    property color iconColor: "#8fb85f"
     property color backColor: "#17212b"
     /// How long a page stays, in milliseconds, when the list does not fit.
     property int pageTime: 8000
