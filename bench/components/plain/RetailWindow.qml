@@ -69,7 +69,7 @@ Rectangle {
                 }
             }
 
-            Clip { id: gift; width: 960; height: 960; visible: false; muted: true; autoPlay: true; source: root.media + "videos/gift.mp4" }
+            Clip { id: gift; width: 960; height: 960; visible: false; muted: true; autoPlay: true; source: root.media + "videos/card.mp4" }
             ShaderEffect {
                 property var source: ShaderEffectSource { sourceItem: gift }
 
