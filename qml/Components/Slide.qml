@@ -20,8 +20,8 @@ Item {
     tagColor: '#3d8fd6'
 }"
 
-    /// By this a Slideshow knows its slides.
-    readonly property bool isSlide: true
+    /// By this a Slideshow knows its slides; without it the item is one that stays.
+    property bool isSlide: true
     /// How long the slide is shown, in milliseconds, from the start of its transition to the start of the next one.
     property int duration: 5000
     /// Marks the slide in the editor.

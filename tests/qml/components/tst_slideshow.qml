@@ -133,7 +133,8 @@ ComponentCase {
         tryVerify(function() { return show.slides.length === 2; });
         tryCompare(show, "currentIndex", 0);
         compare(colorAt(show, 10, 10), "#0000ff");
-        createTemporaryQmlObject("import Nuvex.Components 1.0; Slide {}", show);
+        createTemporaryQmlObject("import Nuvex.Components 1.0; Slide { isSlide: true }", show);
+        createTemporaryQmlObject("import Nuvex.Components 1.0; Slide { isSlide: false }", show);
         compare(show.slides.length, 3);
         compare(show.slides[2].visible, false);
         show.slides[1].destroy();

@@ -14,6 +14,8 @@ Item {
     property Item video
     property int presence: Presence.shown
     property bool onAir: true
+    /// Whether it played when it was hidden, whoever had started it: then it goes on when it is seen again.
+    property bool hasPlayed: false
     readonly property bool isMissing: video.error !== MediaPlayer.NoError || video.status === MediaPlayer.InvalidMedia
     readonly property bool isEmpty: video.source == ""
     readonly property bool isReady: video.playbackState !== MediaPlayer.StoppedState
@@ -29,9 +31,12 @@ Item {
     function follow() {
         if (root.isEmpty || root.isMissing)
             return;
+        const isPlaying = root.video.playbackState === MediaPlayer.PlayingState;
+        const plays = isPlaying || root.hasPlayed;
+        root.hasPlayed = plays && !root.onAir && root.presence !== Presence.absent;
         if (root.presence === Presence.absent)
             root.video.stop();
-        else if (root.onAir && root.video.autoPlay)
+        else if (root.onAir && (root.video.autoPlay || plays))
             root.video.play();
         else
             root.video.pause();
