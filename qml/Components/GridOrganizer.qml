@@ -9,7 +9,8 @@ import "private/menu/samples.js" as Samples
 import "private/show/tiles.js" as Tiles
 
 /// A grid of pictures with names. The model has texts (addresses of pictures) or objects with the members image and
-/// name. Tiles fill the given size, the last row too; when there are more entries than tiles, an animated grid turns pages.
+/// name. Tiles fill the given size, in the last row too; when there are more entries than tiles, an animated grid turns
+/// pages.
 Grid {
     id: root
 

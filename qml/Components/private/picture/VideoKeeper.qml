@@ -6,7 +6,7 @@ import QtMultimedia 5.15
 import ".."
 import "../presence.js" as Presence
 
-/// Looks after its parent, a Video: makes it hold, play and rest with its slide, shows a quiet placeholder while it
+/// Looks after its parent, a Video: makes it hold, play and rest with its slide, marks its place in the editor while it
 /// cannot be played, and tries again when its file comes back.
 Item {
     id: root
@@ -90,11 +90,9 @@ Item {
         onWorthTrying: root.loadAgain()
     }
 
-    Loader {
-        anchors.fill: parent
-        active: root.isMissing || root.isEmpty
-        sourceComponent: Placeholder {
-            icon: "missingVideo"
-        }
+    Placeholder {
+        target: root.video
+        isNeeded: root.isMissing || root.isEmpty
+        icon: "missingVideo"
     }
 }

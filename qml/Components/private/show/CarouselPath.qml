@@ -10,8 +10,8 @@ Path {
     /// Size of the Carousel.
     property real width
     property real height
-    /// Whether the two ends of the ring, where it comes around behind, are drawn out to the side: two pictures then stand
-    /// beside each other instead of one behind the other.
+    /// Whether the two ends of the ring, where it comes around behind, are drawn out to the side: two pictures then
+    /// stand beside each other instead of one behind the other.
     property bool isOpen: false
     readonly property real middle: width / 2
     readonly property real end: width * (isOpen ? 0.78 : 0.5)

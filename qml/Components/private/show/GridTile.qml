@@ -6,8 +6,8 @@ import "../menu"
 import "../picture"
 import "../menu/entries.js" as Entries
 
-/// One tile of a GridOrganizer: the picture, and its name on a darker foot. The grid's own layout knows only cells of one
-/// size; the tile itself stands where `place` says.
+/// One tile of a GridOrganizer: the picture, and its name on a darker foot. The grid's own layout knows only cells of
+/// one size; the tile itself stands where `place` says.
 Item {
     id: root
 
