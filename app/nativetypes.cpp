@@ -5,6 +5,7 @@
 
 #include "cloud/deployment.h"
 #include "quick/highlighter/syntaxhighlighter.h"
+#include "quick/picture/boundedimage.h"
 #include "quick/video/transparentvideo.h"
 
 #include <QQmlEngine>
@@ -15,6 +16,11 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    // With what Image has learned in its versions.
+    qmlRegisterRevision<QQuickItem, 15>("Nuvex.Native", 1, 1);
+    qmlRegisterRevision<QQuickImageBase, 15>("Nuvex.Native", 1, 1);
+    qmlRegisterRevision<QQuickImage, 15>("Nuvex.Native", 1, 1);
+    qmlRegisterType<BoundedImage>("Nuvex.Native", 1, 1, "BoundedImage");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",

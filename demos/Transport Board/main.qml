@@ -55,7 +55,7 @@ Rectangle {
         width: 1128
         height: 752
         color: "#10192e"
-        transType: "fade"
+        transType: "stagger"
         transTime: 800
         schedules: [
             { name: "Day", slides: [0, 1], begin: "04:45", end: "00:30" },
@@ -147,7 +147,7 @@ Rectangle {
         width: 1920
         height: 152
         color: "#f5f3ec"
-        transType: "fade"
+        transType: "stagger"
         transTime: 800
 
         Slide {

@@ -13,6 +13,8 @@ T.ItemDelegate {
     property string size: "base"
     property string faIcon
     property string detail
+    /// Whether the text stands out, as a head does.
+    property bool strong: highlighted
     property color iconColor: highlighted ? Theme.accent : Theme.mutedInk
     property int elide: Text.ElideRight
     default property alias trailing: tail.data
@@ -56,7 +58,7 @@ T.ItemDelegate {
                 text: root.text
                 textFormat: Text.PlainText
                 size: root.size
-                strong: root.highlighted
+                strong: root.strong
                 wrapMode: Text.NoWrap
                 elide: root.elide
             }

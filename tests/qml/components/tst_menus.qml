@@ -240,24 +240,54 @@ ComponentCase {
         tryVerify(function() { return ring.currentIndex !== index; });
     }
 
+    // On every page the tiles stand side by side over the whole width and height: no hole, none on another.
     function test_gridFillsItsPlace_data() {
         return [
-            { tag: "six", entries: 6, columns: 3, shown: 6, pages: 1 },
-            { tag: "one", entries: 1, columns: 3, shown: 1, pages: 1 },
-            { tag: "too many", entries: 20, columns: 3, shown: 6, pages: 4 },
-            { tag: "absurd columns", entries: 2, columns: -3, shown: 1, pages: 2 }
+            { tag: "six", entries: 6, columns: 3, sizes: [6] },
+            { tag: "one", entries: 1, columns: 3, sizes: [1] },
+            { tag: "two rows", entries: 5, columns: 3, sizes: [5] },
+            { tag: "still", entries: 20, columns: 3, sizes: [6], still: true },
+            { tag: "four pages", entries: 19, columns: 3, sizes: [5, 5, 5, 4] },
+            { tag: "one on the last page", entries: 7, columns: 2, sizes: [2, 2, 2, 1] },
+            { tag: "absurd columns", entries: 2, columns: -3, sizes: [1, 1] },
+            { tag: "none", entries: 0, columns: 3, sizes: [0] }
         ];
     }
     function test_gridFillsItsPlace(data) {
-        var model = [];
-        for (var i = 0; i < data.entries; ++i)
-            model.push({ name: "Tile " + i });
-        var grid = make("GridOrganizer { width: 640; height: 330; animated: false }");
+        const grid = make("GridOrganizer { width: 640; height: 330; animated: " + !data.still + " }");
         grid.columns = data.columns;
-        grid.model = model;
-        compare(grid.pages, data.pages);
-        var tiles = texts(grid).filter(function(text) { return /^Tile/.test(text); });
-        compare(tiles.length, data.shown);
+        grid.model = Array.from({ length: data.entries }, (nothing, i) => ({ name: "Tile " + i }));
+        const sizes = [];
+        let area = 0;
+        for (grid.page = 0; grid.page < (data.still ? 1 : grid.pages); ++grid.page) {
+            waitForRendering(grid, 50);
+            const tiles = all(grid, item => item.entry !== undefined)
+                .map(cell => Qt.rect(cell.x + cell.children[1].x, cell.y + cell.children[1].y, cell.children[1].width, cell.children[1].height));
+            tiles.forEach(tile => verify(tile.x > -1 && tile.y > -1 && tile.x + tile.width < 641 && tile.y + tile.height < 331, tile));
+            const covered = tiles.reduce((sum, tile) => sum + (tile.width + grid.spacing) * (tile.height + grid.spacing), 0);
+            fuzzyCompare(covered, tiles.length > 0 ? (640 + grid.spacing) * (330 + grid.spacing) : 0, 1);
+            sizes.push(tiles.length);
+        }
+        compare(sizes, data.sizes);
+    }
+
+    // Of two and of three pictures on the ring, each can be seen.
+    function test_carouselShowsAll_data() {
+        return [{ tag: "one", count: 1 }, { tag: "two", count: 2 }, { tag: "two of many", count: 2, model: 7 }, { tag: "three", count: 3 }];
+    }
+    function test_carouselShowsAll(data) {
+        const ring = make("Carousel { width: 600; height: 300; showTime: 60000; pathItemCount: " + data.count + " }");
+        ring.model = Array.from({ length: data.model || data.count }, (nothing, i) => ({ name: "Card " + i }));
+        for (let turn = 0; turn < 2; ++turn) {
+            ring.currentIndex = turn % data.count;
+            wait(1200);
+            const cards = all(ring, item => item.depth !== undefined && item.entry !== undefined && item.opacity > 0.8);
+            compare(cards.length, data.count);
+            const middles = cards.map(card => boxOf(card, ring).x + boxOf(card, ring).width / 2).sort((a, b) => a - b);
+            for (let i = 1; i < middles.length; ++i)
+                verify(middles[i] - middles[i - 1] > 100, middles);
+            verify(middles[0] > 0 && middles[middles.length - 1] < 600);
+        }
     }
 
     function test_gridTurnsPages() {

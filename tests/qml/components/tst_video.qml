@@ -50,15 +50,6 @@ ComponentCase {
         verify(isShown(ground, "red"));
     }
 
-    function test_hiddenVideoHolds() {
-        var ground = makeVideo("white.mp4", "");
-        tryCompare(ground.video, "playbackState", MediaPlayer.PlayingState, 8000);
-        ground.video.visible = false;
-        tryCompare(ground.video, "playbackState", MediaPlayer.PausedState);
-        ground.video.visible = true;
-        tryCompare(ground.video, "playbackState", MediaPlayer.PlayingState);
-    }
-
     function test_withoutAutoPlayShowsFirstFrame() {
         var ground = makeVideo("red.mp4", "autoPlay: false");
         tryVerify(function() { return isShown(ground, "red"); }, 8000);
