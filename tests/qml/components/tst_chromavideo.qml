@@ -86,6 +86,11 @@ ComponentCase {
         verify(isNear(colorAt(green, 160, 90), "blue"), colorAt(green, 160, 90));
         var red = makeVideo("red", "");
         tryVerify(function() { return isNear(colorAt(red, 160, 90), "red"); }, 8000, colorAt(red, 160, 90));
+        // Enlarged, at a width that is no whole number of pixels, it is keyed out to its edges.
+        red.width = 500.5;
+        red.height = 400;
+        tryVerify(function() { return [[0, 0], [499, 0], [250, 399], [0, 399], [499, 399]].every(
+                      at => isNear(colorAt(red, at[0], at[1]), "red")); });
     }
 
     // Without autoPlay it goes on as it was when it was hidden: at rest, or playing when somebody has started it.

@@ -392,6 +392,7 @@ PanelCase {
             .sort((a, b) => a.top - b.top);
         for (let i = 1; i < byTop.length; ++i)
             verify(byTop[i].top >= byTop[i - 1].top + byTop[i - 1].row.height - 1, byTop[i].row.label);
+        all(panel, item => item.checkState !== undefined).forEach(box => verify(box.text !== "", "a box without its label"));
         fixture.takeWarnings();
     }
 

@@ -19,3 +19,11 @@ function expectedAddress(path) {
     const file = path.charAt(0) === "/" ? path : CAPI.getBaseFolder() + "/" + path;
     return "file://" + file.split("/").map(encodeURIComponent).join("/");
 }
+
+/// Size in pixels of a copy of a video's frame for `item`: the video's own, `resolution`, where it is known and smaller
+/// than the item; else 0 x 0, which stands for the item's.
+function copySize(resolution, item) {
+    const isSmall = resolution !== undefined && resolution.width > 0 && resolution.height > 0
+        && resolution.width * resolution.height < item.width * item.height;
+    return isSmall ? resolution : Qt.size(0, 0);
+}
