@@ -87,7 +87,7 @@ Rectangle {
 
                     Text {
                         x: 16
-                        y: 8
+                        y: 5
                         text: modelData.time
                         color: row.isNext ? "#f3b765" : "#8a4a12"
                         font.family: "Manrope"
@@ -97,7 +97,7 @@ Rectangle {
 
                     Text {
                         x: 128
-                        y: 8
+                        y: 5
                         width: row.width - x - 16
                         text: modelData.name
                         color: row.isNext ? "#ffffff" : "#14233a"
@@ -109,7 +109,7 @@ Rectangle {
 
                     Text {
                         x: 128
-                        y: 46
+                        y: 43
                         width: row.width - x - 16
                         text: modelData.place
                         color: row.isNext ? "#c3cddb" : "#56606f"

@@ -33,7 +33,7 @@ Rectangle {
                 fillMode: Image.PreserveAspectCrop
                 kenburnsEnable: true
                 kScale0: 1.0
-                kScale1: 1.08
+                kScale1: 1.04
                 kTime: 14000
                 easingType: Easing.InOutSine
             }
@@ -102,7 +102,7 @@ Rectangle {
                 source: "images/boxes.jpg"
                 fillMode: Image.PreserveAspectCrop
                 kenburnsEnable: true
-                kScale0: 1.08
+                kScale0: 1.06
                 kScale1: 1.0
                 kTime: 14000
                 easingType: Easing.InOutSine

@@ -196,6 +196,15 @@ Rectangle {
             duration: 10000
             tagColor: "#c08a62"
 
+            BasicRectangle {
+                x: 0
+                y: 0
+                width: 1920
+                height: 976
+                radius: 0
+                color: "#f4ede3"
+            }
+
             BasicVideo {
                 x: 0
                 y: 0
