@@ -39,8 +39,17 @@ SheetColumns {
 
     Specimen {
         title: "BasicWebView"
-        about: qsTr("A web page; here before one is chosen")
-        BasicWebView { width: 640; height: 360 }
+        about: qsTr("A web page; here its mark, before one is chosen")
+
+        BasicWebView {
+            width: 640
+            height: 360
+
+            Loader {
+                anchors.fill: parent
+                sourceComponent: parent.preview
+            }
+        }
     }
 
     // A player takes the window's thread for a moment when it is made: last.

@@ -23,6 +23,12 @@ ComponentCase {
         return item.contentWidth !== undefined && item.text !== "";
     }
 
+    // Where the letters of `text` begin in `item`, in pixels.
+    function start(text, item) {
+        const room = text.horizontalAlignment === Text.AlignLeft ? 0 : text.width - text.contentWidth;
+        return text.mapToItem(item, text.horizontalAlignment === Text.AlignRight ? room : room / 2, 0).x;
+    }
+
     function test_departures_data() {
         const night = { every: 60, at: 30, first: 450, last: 1170 };
         return [
@@ -57,10 +63,9 @@ ComponentCase {
                 verify(texts.length > 30);
                 texts.forEach((text, i) => {
                     const next = texts[i + 1];
-                    const isLast = !next || next.mapToItem(table, 0, 0).x < text.mapToItem(table, 0, 0).x;
-                    const end = isLast ? table.width : next.mapToItem(table, next.width - next.contentWidth, 0).x;
-                    const start = text.mapToItem(table, 0, 0).x;
-                    verify(start + text.contentWidth < end, text.text + " in " + table.title);
+                    const isLast = !next || start(next, table) < start(text, table);
+                    verify(start(text, table) + text.contentWidth + 8 < (isLast ? table.width : start(next, table)),
+                           text.text + " in " + table.title);
                 });
             }
         }
