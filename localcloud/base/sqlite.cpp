@@ -105,7 +105,7 @@ Statement::Statement(const Sqlite& sqlite, const char* sql)
 void Statement::bind(int index, std::string_view text)
 {
     const int result = sqlite3_bind_text64(m_statement.get(), index, text.empty() ? "" : text.data(),
-                                           text.size(), SQLITE_STATIC, SQLITE_UTF8);
+                                           text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
     if (result != SQLITE_OK)
         fail(sqlite3_db_handle(m_statement.get()));
 }

@@ -78,8 +78,7 @@ class Statement
 public:
     Statement(const Sqlite& sqlite, const char* sql);
 
-    /// Runs it with these values, texts or numbers, for its parameters. Texts stay valid until the rows are
-    /// gone.
+    /// Runs it with these values, texts or numbers, for its parameters.
     template <typename... Values>
     Rows rows(const Values&... values)
     {
