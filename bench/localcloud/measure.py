@@ -5,7 +5,7 @@
 
 measure.py NUVEX-LOCALCLOUD [--players N] [--writes PER-SECOND] [--seconds S] [--long] [--rounds N] [--mebibytes N]
 
---long lets the players run for 30 minutes. Prints markdown tables.
+--long lets the players run for 30 minutes, in memory alone. Prints markdown tables.
 """
 import argparse
 import json
@@ -13,6 +13,7 @@ import os
 import pathlib
 import random
 import selectors
+import signal
 import socket
 import statistics
 import subprocess
@@ -103,41 +104,55 @@ def percentile(values, percent):
     return sorted(values)[min(len(values) * percent // 100, len(values) - 1)] * 1000
 
 
-class BareDisk:
-    """What a commit costs without the local cloud: a page appended and stored."""
+class BareServer:
+    """The least that a write costs on this machine, now: a process that stores a page and sends a byte back."""
 
     def __init__(self, folder):
-        self.file = (folder / "bare").open("wb", buffering=0)
-        self.times = []
+        self.socket, other = socket.socketpair()
+        self.child = os.fork()
+        if self.child == 0:
+            with (folder / "bare").open("wb", buffering=0) as file:
+                while other.recv(1):
+                    file.write(bytes(4096))
+                    os.fdatasync(file.fileno())
+                    other.send(b"x")
+                os._exit(0)
+        other.close()
 
-    def append(self):
+    def write(self):
         began = time.perf_counter()
-        self.file.write(bytes(4096))
-        os.fdatasync(self.file.fileno())
-        self.times.append(time.perf_counter() - began)
+        self.socket.send(b"x")
+        self.socket.recv(1)
+        return time.perf_counter() - began
+
+    def stop(self):
+        os.kill(self.child, signal.SIGKILL)
+        os.waitpid(self.child, 0)
+        self.socket.close()
 
 
 def measure_players(known, place):
     """One row: the players on a server that keeps its data in the folder `place`."""
     with tempfile.TemporaryDirectory(dir=place) as name:
         server = cloud.Cloud(known.program, folder=name)
-        players, disk = Players(server, known.players), BareDisk(pathlib.Path(name))
+        players, bare = Players(server, known.players), BareServer(pathlib.Path(name))
         connection, choice = server.connect(), random.Random(1)
-        times = []
+        times, least = [], []
         began = time.monotonic()
         for number in range((known.seconds + SETTLING) * known.writes):
             if number == SETTLING * known.writes:
                 used, started, memory = processor_seconds(server.process), time.monotonic(), server.memory_mib()
-                times, disk.times = [], []
+                times, least = [], []
             time.sleep(max(0.0, began + number / known.writes - time.monotonic()))
             times.append(beat(server, players, connection, known.players, choice))
-            disk.append()
+            least.append(bare.write())
         share = 100 * (processor_seconds(server.process) - used) / (time.monotonic() - started)
-        figures = [percentile(values, percent) for values in (times, disk.times) for percent in (50, 99)]
+        figures = [percentile(values, percent) for values in (times, least) for percent in (50, 99)]
         print(f"| {place} | {share:.1f} | " + " | ".join(f"{figure:.2f}" for figure in figures)
               + f" | {memory:.1f} | {server.memory_mib():.1f} |", flush=True)
         players.close()
         connection.close()
+        bare.stop()
         server.stop()
 
 
@@ -204,9 +219,9 @@ def measure_files(known):
                 "down, rclone serve http": ["-o", "/dev/null", pages.base + "/source"]}
         times = {way: [] for way in ways}
         memory = server.memory_mib()
-        for _ in range(known.rounds):
-            for way, words in ways.items():
-                times[way].append(curl(*words))
+        for number in range(known.rounds): # to and fro, so that none always follows the same other
+            for way in list(ways)[::-1 if number % 2 else 1]:
+                times[way].append(curl(*ways[way]))
         print(f"\n| {known.mebibytes} MiB by curl | seconds, median | least | most |\n|---|---|---|---|")
         for way, values in times.items():
             print(f"| {way} | {statistics.median(values[1:]):.2f} | {min(values[1:]):.2f} | {max(values[1:]):.2f} |")
@@ -220,10 +235,10 @@ def main():
     known = options()
     known.program = str(pathlib.Path(known.program).resolve())
     print(f"{known.players} players, {known.writes} heartbeats a second, {known.seconds} s\n")
-    print("| data in | CPU, % of a core | write to stream, ms: p50 | p99 | bare append and fdatasync, ms: p50 | p99 "
+    print("| data in | CPU, % of a core | write to stream, ms: p50 | p99 | bare server, ms: p50 | p99 "
           "| memory, MiB: begin | end |")
     print("|---|---|---|---|---|---|---|---|")
-    for place in ("/var/tmp", "/dev/shm"):
+    for place in ("/dev/shm",) if known.long else ("/var/tmp", "/dev/shm"):
         measure_players(known, place)
     measure_restart(known)
     measure_files(known)
