@@ -4,10 +4,9 @@
 #include "api/archivecheck.h"
 
 #include "api/limits.h"
+#include "base/safepath.h"
 
 #include <QSet>
-
-#include <algorithm>
 
 namespace {
 
@@ -18,34 +17,9 @@ constexpr quint32 unixTypeMask = 0170000;
 constexpr quint32 unixFile = 0100000;
 constexpr quint32 unixFolder = 0040000;
 
-bool isSafePart(const QStringRef& part)
-{
-    return !part.isEmpty() && part != QLatin1String(".") && part != QLatin1String("..") &&
-           part.toUtf8().size() <= limits::archivePartBytes;
-}
-
-bool isUnsafeCharacter(QChar c)
-{
-    return c < QLatin1Char(' ') || c == QLatin1Char('\\') || c == QChar(0x7f);
-}
-
 QStringRef withoutFinalSlash(const QString& name)
 {
     return name.leftRef(name.endsWith(QLatin1Char('/')) ? name.size() - 1 : -1);
-}
-
-QString faultOfName(const QString& name)
-{
-    if (name.toUtf8().size() > limits::archiveNameBytes)
-        return QStringLiteral("a name is too long");
-    const QVector<QStringRef> parts = withoutFinalSlash(name).split(QLatin1Char('/'));
-    if (parts.size() > limits::archiveNameParts)
-        return QStringLiteral("a name is too deep");
-    const bool drive = name.size() > 1 && name[1] == QLatin1Char(':');
-    if (drive || std::any_of(name.cbegin(), name.cend(), isUnsafeCharacter) ||
-        !std::all_of(parts.cbegin(), parts.cend(), isSafePart))
-        return QStringLiteral("a name could lead out of the target");
-    return {};
 }
 
 bool isBomb(quint64 bytes, quint64 packedBytes)
@@ -67,7 +41,7 @@ QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
         return QStringLiteral("an entry is larger than the archive");
     if (isBomb(entry.uncompressedSize, entry.compressedSize))
         return QStringLiteral("an entry unpacks to far more than it is");
-    return faultOfName(entry.name);
+    return pathFault(withoutFinalSlash(entry.name).toString());
 }
 
 // Compares names without case, as some file systems do.

@@ -4,7 +4,7 @@
 #include "api/archive.h"
 
 #include "api/logging.h"
-#include "cloud/atomicfile.h"
+#include "base/atomicfile.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,6 +6,7 @@
 #include "api/projectfolder.h"
 #include "api/settings.h"
 #include "api/workspace.h"
+#include "cloud/deployment.h"
 #include "cloud/projectupdatelist.h"
 #include "qmldoc/editingsession.h"
 
@@ -39,7 +40,9 @@ public:
 
     /// Opens the settings, creates the workspace folders and writes first-run defaults; becomes current().
     /// `view` is not owned and must outlive this object; it may be null in tests without a window.
-    CAPI(QQuickView* view, QObject* parent, WindowMode windowMode = WindowMode::FullScreenAllowed);
+    /// `deployment` is the customer's cloud; one that is not set leaves the cloud's members without effect.
+    CAPI(QQuickView* view, QObject* parent, const Deployment& deployment = {},
+         WindowMode windowMode = WindowMode::FullScreenAllowed);
     ~CAPI() override;
 
     /// The instance of this run, for native workers; null before construction and after destruction.
@@ -266,6 +269,7 @@ private:
     void emitEditingState();
 
     QQuickView* m_view;
+    Deployment m_deployment;
     WindowMode m_windowMode;
     ProjectUpdateList m_projectsToUpdate;
     std::atomic_bool m_extractFinished{true}; // written by the importing thread

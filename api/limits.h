@@ -15,10 +15,6 @@ constexpr qint64 textFileBytes = 64LL * 1024 * 1024;
 
 /// Entries of a project archive.
 constexpr int archiveEntries = 100'000;
-/// Bytes of an entry's name, its parts, and the bytes of one part (the file system's own bound).
-constexpr int archiveNameBytes = 1024;
-constexpr int archiveNameParts = 64;
-constexpr int archivePartBytes = 255;
 /// An archive, or an entry of it, that unpacks to more than this must not grow more than by the ratio.
 constexpr qint64 archiveRatioFreeBytes = 1024LL * 1024;
 constexpr qint64 archiveRatio = 200;

@@ -5,7 +5,7 @@
 
 #include "api/limits.h"
 #include "api/logging.h"
-#include "cloud/atomicfile.h"
+#include "base/atomicfile.h"
 #include "cloud/webfile.h"
 
 #include <QFileInfo>

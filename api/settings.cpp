@@ -4,7 +4,7 @@
 #include "api/settings.h"
 
 #include "api/logging.h"
-#include "cloud/atomicfile.h"
+#include "base/atomicfile.h"
 
 #include <QFile>
 

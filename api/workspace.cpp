@@ -4,9 +4,11 @@
 #include "api/workspace.h"
 
 #include "api/logging.h"
+#include "base/safepath.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace {
@@ -20,11 +22,16 @@ void makeFolder(const QString& path)
 // An empty name or one with a path in it would reach beyond one project.
 bool isFolderName(const QString& name)
 {
-    const bool plain = !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-                       !name.contains(QLatin1Char('/'));
+    const bool plain = pathFault(name).isEmpty() && !name.contains(QLatin1Char('/'));
     if (!plain)
         qCWarning(lcApi) << "Not the name of a project:" << name;
     return plain;
+}
+
+// A project that is a link into another place stays there: it is the link that goes.
+bool removeFolder(const QString& path)
+{
+    return QFileInfo(path).isSymLink() ? QFile::remove(path) : QDir(path).removeRecursively();
 }
 
 } // namespace
@@ -67,7 +74,7 @@ bool Workspace::create(const QString& name)
 bool Workspace::remove(const QString& name)
 {
     m_projects.removeOne(name);
-    return isFolderName(name) && QDir(workDirectory() + QLatin1Char('/') + name).removeRecursively();
+    return isFolderName(name) && removeFolder(workDirectory() + QLatin1Char('/') + name);
 }
 
 bool Workspace::rename(const QString& oldName, const QString& newName)

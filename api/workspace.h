@@ -33,7 +33,8 @@ public:
 
     /// Makes an empty project folder; false when it exists or cannot be made.
     bool create(const QString& name);
-    /// Deletes a project folder with everything in it. Its name leaves the cached list in any case.
+    /// Deletes a project folder with everything in it; of a project that is a link, the link. Its name leaves
+    /// the cached list in any case.
     bool remove(const QString& name);
     /// Renames a project folder.
     bool rename(const QString& oldName, const QString& newName);

@@ -4,8 +4,8 @@
 #include "app/nativetypes.h"
 
 #include "cloud/deployment.h"
-#include "quick/syntaxhighlighter.h"
-#include "quick/transparentvideo.h"
+#include "quick/highlighter/syntaxhighlighter.h"
+#include "quick/video/transparentvideo.h"
 
 #include <QQmlEngine>
 
@@ -28,10 +28,4 @@ void registerNativeTypes(const Deployment& deployment)
 {
     static const bool registered = registerOnce(deployment);
     Q_UNUSED(registered)
-}
-
-void addImportPaths(QQmlEngine& engine)
-{
-    engine.addImportPath(QStringLiteral("qrc:///./"));
-    engine.addImportPath(QStringLiteral("qrc:///./Nuvex/Components/"));
 }

@@ -3,12 +3,8 @@
 
 #pragma once
 
-class QQmlEngine;
 struct Deployment;
 
 /// Registers the program's native QML types ("Nuvex.Native" 1.0) and the singleton Deployment
 /// ("Nuvex.Deployment" 1.0), which shows `deployment`. Once a process; further calls do nothing.
 void registerNativeTypes(const Deployment& deployment);
-
-/// Makes the modules in the program's resources importable: "Nuvex.GUI", "Nuvex.Editor", "Nuvex.Components".
-void addImportPaths(QQmlEngine& engine);

@@ -5,8 +5,8 @@
 
 #include "api/projectfolder.h"
 #include "api/workspace.h"
-#include "app/nativetypes.h"
 #include "app/projectreferences.h"
+#include "app/qmlcontext.h"
 #include "cloud/deployment.h"
 
 #include <QDirIterator>
@@ -56,14 +56,6 @@ QStringList missingReferences(const ProjectFolder& project, const QString& file)
     return missing;
 }
 
-void loadProgramFonts()
-{
-    QDirIterator files(QStringLiteral(":/Nuvex"), {"*.ttf", "*.otf"}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext())
-        QFontDatabase::addApplicationFont(files.next());
-}
-
 QString projectFolder(const QString& project)
 {
     const QString named = Workspace(Workspace::defaultRoot()).workDirectory() + '/' + project;
@@ -94,12 +86,10 @@ int runProjectCheck(int& argc, char** argv, const Options& options)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
-    QCoreApplication::setApplicationName(QStringLiteral("Nuvex"));
-    registerNativeTypes({});
+    setApplicationNames();
     loadProgramFonts();
     QQmlEngine engine;
-    addImportPaths(engine);
+    prepareEngine(engine, {});
     const QStringList problems = checkProject(engine, projectFolder(options.checkProject));
     for (const QString& problem : problems)
         QTextStream(stdout) << problem << '\n';

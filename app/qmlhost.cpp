@@ -5,28 +5,19 @@
 
 #include "api/capi.h"
 #include "api/platform.h"
-#include "app/nativetypes.h"
+#include "app/displayhold.h"
+#include "app/qmlcontext.h"
 #include "app/restart.h"
 #include "app/screenshot.h"
 #include "app/startpage.h"
 #include "cloud/deployment.h"
-#include "quick/icontable.h"
-#include "quick/themetable.h"
-#include "quick/transparentvideo.h"
+#include "quick/tables/icontable.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFontDatabase>
 #include <QGuiApplication>
-#include <QLoggingCategory>
-#include <QQmlContext>
 #include <QQmlEngine>
-#include <QQmlPropertyMap>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QScreen>
-#include <QStandardPaths>
-#include <QTextStream>
 #include <QTimer>
 
 #include <malloc.h>
@@ -34,39 +25,7 @@
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcApp, "nuvex.app")
-
 constexpr std::chrono::seconds networkAddressInterval(30);
-
-QUrl picturesPath()
-{
-    const QStringList places = QStandardPaths::standardLocations(QStandardPaths::PicturesLocation);
-    return QUrl::fromLocalFile(places.isEmpty() ? QCoreApplication::applicationDirPath()
-                                                : places.constFirst());
-}
-
-void loadIconFont()
-{
-    if (QFontDatabase::addApplicationFont(QStringLiteral(":/Nuvex/font/fontawesome-webfont.ttf")) == -1)
-        qCWarning(lcApp) << "Error: failed to load FontAwesome font";
-}
-
-void publishShader(QQmlContext* context, const QString& property, const QString& resource)
-{
-    QFile file(resource);
-    if (file.open(QIODevice::ReadOnly))
-        context->setContextProperty(property, QTextStream(&file).readAll());
-}
-
-void publishTables(QQmlContext* context)
-{
-    context->setContextProperty(QStringLiteral("faIcons"), iconTable());
-    context->setContextProperty(QStringLiteral("bs"), themeTable());
-    publishShader(context, QStringLiteral("roundedImageFragShader"),
-                  QStringLiteral(":/Nuvex/GUI/RoundedImage.frag"));
-    publishShader(context, QStringLiteral("imageScopeFragShader"),
-                  QStringLiteral(":/Nuvex/GUI/ImageScope.frag"));
-}
 
 void placeWindow(QQuickView& view, const QRect& available, bool windowed)
 {
@@ -93,31 +52,23 @@ void keepNetworkAddress(QQuickView& view)
 int runOnce(int& argc, char** argv, const Options& options, const Deployment& deployment)
 {
     QGuiApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
-    QCoreApplication::setOrganizationDomain(QStringLiteral("nuvex.example"));
-    QCoreApplication::setApplicationName(QStringLiteral("Nuvex"));
+    setApplicationNames();
 
     QQuickView view;
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.setColor(Qt::black);
-    registerNativeTypes(deployment);
+    prepareEngine(*view.engine(), deployment);
 
     const auto windowMode =
         options.windowed ? CAPI::WindowMode::AlwaysWindowed : CAPI::WindowMode::FullScreenAllowed;
-    auto capi = std::make_unique<CAPI>(&view, &application, windowMode);
-    TransparentVideo::setPathResolver([&capi](const QString& path) { return capi->resolvedPath(path); });
-    QQmlContext* context = view.rootContext();
-    context->setContextProperty(QStringLiteral("CAPI"), capi.get());
-    context->setContextProperty(QStringLiteral("picturesPath"), picturesPath());
-    addImportPaths(*view.engine());
-    QObject::connect(view.engine(), &QQmlEngine::quit, &application, &QGuiApplication::quit);
+    auto capi = std::make_unique<CAPI>(&view, &application, deployment, windowMode);
     const QScreen* screen = QGuiApplication::screens().constFirst();
-    context->setContextProperty(QStringLiteral("dp"), densityFactor(screen->physicalDotsPerInch()));
-    loadIconFont();
-    publishTables(context);
     const QRect available = screen->availableGeometry();
-    context->setContextProperty(QStringLiteral("asw"), available.width());
-    context->setContextProperty(QStringLiteral("ash"), available.height());
+    auto context =
+        std::make_unique<QmlContext>(*view.engine(), *capi, available.size(), screen->physicalDotsPerInch());
+    QObject::connect(view.engine(), &QQmlEngine::quit, &application, &QGuiApplication::quit);
+    QObject::connect(view.engine(), &QQmlEngine::exit, &application, &QGuiApplication::exit,
+                     Qt::QueuedConnection);
 
     view.setInitialProperties(startPage(options, capi->getWorkDirectory()));
     view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/PlayerQML/main.qml")));
@@ -130,22 +81,18 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
 
     // Documents say goodbye through CAPI, so they go first.
     view.setSource(QUrl());
-    TransparentVideo::setPathResolver({});
+    context.reset();
     capi.reset();
     return code;
 }
 
 } // namespace
 
-double densityFactor(double dotsPerInch)
-{
-    return qMax(1.0, qRound(dotsPerInch) / 125.0);
-}
-
 int runHost(int& argc, char** argv, const Options& options)
 {
     prepareIconTable();
     const Deployment deployment = Deployment::find(options.deployment);
+    const DisplayHold display;
     // Lets a web view be shown later without loading its library now.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     int code = 0;

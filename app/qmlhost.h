@@ -8,9 +8,6 @@
 /// Exit code of the event loop that asks for the whole set-up to run again in this process.
 constexpr int restartCode = 1000;
 
-/// Display density factor for a screen of `dotsPerInch`: 1 at up to 125 dpi, growing in proportion.
-double densityFactor(double dotsPerInch);
-
 /// Builds application, view, native API and shell, and runs the event loop, again as long as it ends with
 /// restartCode. Takes the process's own argument vector. Returns the last exit code.
 int runHost(int& argc, char** argv, const Options& options);

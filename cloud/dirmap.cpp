@@ -3,13 +3,14 @@
 
 #include "cloud/dirmap.h"
 
-#include "cloud/atomicfile.h"
+#include "base/atomicfile.h"
+#include "base/safepath.h"
 #include "cloud/limits.h"
 #include "cloud/logging.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSet>
 
 namespace {
@@ -26,34 +27,29 @@ void appendLine(Dirmap& map, const QString& line)
     map.append(line.left(qMax(space, 0)), line.midRef(space + 1).toInt());
 }
 
-bool climbsOut(const QString& path)
-{
-    const QString clean = QDir::cleanPath(path);
-    return path.isEmpty() || QDir::isAbsolutePath(path) || clean == QLatin1String(".") ||
-           clean == QLatin1String("..") || clean.startsWith(QLatin1String("../"));
-}
-
-bool isBelow(const QDir& folder, const QString& canonicalPath)
-{
-    const QString root = folder.canonicalPath();
-    return canonicalPath == root || canonicalPath.startsWith(root + QLatin1Char('/'));
-}
-
 // True when the file is gone afterwards.
-bool removeInside(const QDir& folder, const QString& path)
+bool removeInside(const QString& folder, const QString& path)
 {
-    const QFileInfo info(folder.absoluteFilePath(QDir::cleanPath(path)));
-    const QString parent = info.dir().canonicalPath();
-    if (climbsOut(path) || (!parent.isEmpty() && !isBelow(folder, parent))) {
+    const std::optional<QString> inside = pathInside(folder, path, LastLink::Keep);
+    if (!inside) {
         qCWarning(lcCloud) << "Not deleted, leads out of the project:" << path;
         return false;
     }
-    if (!info.exists() && !info.isSymLink())
+    const QFileInfo info(*inside);
+    if ((!info.exists() && !info.isSymLink()) || QFile::remove(*inside))
         return true;
-    if (QFile::remove(info.filePath()))
-        return true;
-    qCWarning(lcCloud) << "Cannot delete" << info.filePath();
+    qCWarning(lcCloud) << "Cannot delete" << *inside;
     return false;
+}
+
+// Path to index of its first line.
+QHash<QString, int> firstLines(const Dirmap& map)
+{
+    QHash<QString, int> lines;
+    lines.reserve(map.paths.size());
+    for (int i = map.paths.size() - 1; i >= 0; --i)
+        lines.insert(map.paths[i], i);
+    return lines;
 }
 
 } // namespace
@@ -106,6 +102,24 @@ std::optional<QByteArray> dirmapText(const Dirmap& map)
     return text;
 }
 
+DirmapChanges changesBetween(const Dirmap& from, const Dirmap& to)
+{
+    DirmapChanges changes;
+    const QHash<QString, int> known = firstLines(from);
+    QSet<QString> kept;
+    for (int i = 0; i < to.paths.size(); ++i) {
+        const int line = known.value(to.paths[i], -1);
+        if (line < 0 || from.revisions[line] != to.revisions[i])
+            changes.changed.append(to.paths[i], to.revisions[i]);
+        kept.insert(to.paths[i]);
+    }
+    for (const QString& path : from.paths) {
+        if (!kept.contains(path))
+            changes.gone.append(path);
+    }
+    return changes;
+}
+
 QVariantMap toVariantMap(const Dirmap& map)
 {
     QVariantMap result;
@@ -150,10 +164,9 @@ bool removeListedFiles(const QString& folder, const QString& listf)
         return false;
     const QStringList lines = listf.split(QLatin1Char('\n'));
     const QSet<QString> listed(lines.cbegin(), lines.cend());
-    const QDir dir(folder);
     Dirmap kept;
     for (int i = 0; i < map->paths.size(); ++i) {
-        if (!listed.contains(map->paths[i]) || !removeInside(dir, map->paths[i]))
+        if (!listed.contains(map->paths[i]) || !removeInside(folder, map->paths[i]))
             kept.append(map->paths[i], map->revisions[i]);
     }
     return writeDirmap(folder, kept);

@@ -41,6 +41,18 @@ std::optional<Dirmap> parseDirmap(const QByteArray& text);
 /// text would exceed the bounds that parseDirmap() keeps.
 std::optional<QByteArray> dirmapText(const Dirmap& map);
 
+/// What makes one directory map into another.
+struct DirmapChanges
+{
+    Dirmap changed; ///< lines of the second map that the first one lacks or has at another revision, in order
+    QStringList gone; ///< paths that only the first one has, in order
+};
+
+/// What makes the map `from` into the map `to`; of a path that occurs more than once in `from` its first line
+/// counts. Whoever gets a project compares what it has with what the other side has, whoever sends one the
+/// other way round.
+DirmapChanges changesBetween(const Dirmap& from, const Dirmap& to);
+
 /// Path to revision (int); of a path that occurs more than once the last revision counts.
 QVariantMap toVariantMap(const Dirmap& map);
 

@@ -23,11 +23,12 @@ if(NUVEX_SANITIZE)
   add_link_options(-fsanitize=${NUVEX_SANITIZE})
 endif()
 
-# nuvex_library(<name> SOURCES <files> LINK <targets>): the static library of one folder.
+# nuvex_library(<name> SOURCES <files> PUBLIC <targets> [PRIVATE <targets>]): a static library of one folder. PUBLIC are
+# the targets whose headers its own headers include.
 function(nuvex_library name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
-  target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE nuvex_flags)
+  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE nuvex_flags ${arg_PRIVATE})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
 endfunction()
 

@@ -21,7 +21,7 @@ int length(int beg, int end)
 
 EditingSession::EditingSession(Writer writer)
     : m_writer(std::move(writer))
-    , m_history(qmldoc::initialHistoryCapacity)
+    , m_history(limits::initialHistoryCapacity)
 {
 }
 
@@ -33,7 +33,7 @@ QString EditingSession::editorVersion()
 void EditingSession::begin(const QString& source)
 {
     m_source = source;
-    m_history.reset(qmldoc::historyCapacity);
+    m_history.reset(limits::historyCapacity);
     m_history.push(m_source);
 }
 
@@ -60,7 +60,7 @@ int EditingSession::previousPosition(const QString& text, int from) const
 
 void EditingSession::saveState()
 {
-    if (++savedStates % qmldoc::statesPerSafetyCopy == 0)
+    if (++savedStates % limits::statesPerSafetyCopy == 0)
         m_writer(m_source, QStringLiteral("main.savestatus"));
     m_history.push(m_source);
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-namespace qmldoc {
+namespace limits {
 
 /// Longest text that is taken for a document, in UTF-16 code units. The editor text of a document of this
 /// length that is nothing but objects still fits a QString.
@@ -16,4 +16,4 @@ constexpr int initialHistoryCapacity = 1;
 /// Every so many saved editing states one is written to disk.
 constexpr int statesPerSafetyCopy = 10;
 
-} // namespace qmldoc
+} // namespace limits

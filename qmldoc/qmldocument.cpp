@@ -30,7 +30,7 @@ QString withoutByteOrderMark(const QString& source)
 // The syntax tree of `source`, owned by `engine`; null with a line in the log when there is none.
 AST::UiProgram* parsed(const QString& source, Engine& engine)
 {
-    if (source.size() > qmldoc::maxSourceLength) {
+    if (source.size() > limits::maxSourceLength) {
         qCWarning(lcQmlDoc) << "a document of" << source.size() << "characters is too long";
         return nullptr;
     }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
-#include "quick/icontable.h"
-#include "quick/themetable.h"
+#include "quick/tables/icontable.h"
+#include "quick/tables/themetable.h"
 
 #include <QFileInfo>
 #include <QQmlContext>

@@ -4,8 +4,8 @@
 // Throughput of the QML highlighter on real QML documents, beside KSyntaxHighlighting where it was found at
 // build time. Usage: bench_qmlhighlighter [FOLDER], by default the QML modules of the installed Qt.
 
-#include "quick/qmlhighlighter.h"
-#include "quick/qmltokenizer.h"
+#include "quick/highlighter/qmlhighlighter.h"
+#include "quick/highlighter/qmltokenizer.h"
 
 #include <QDirIterator>
 #include <QElapsedTimer>
@@ -99,10 +99,10 @@ void report(const QString& title, const std::vector<Contender>& contenders, doub
 
 void tokenizeAll(const QStringList& lines)
 {
-    nuvex::LineTokens tokens;
+    LineTokens tokens;
     tokens.state = -1;
     for (const QString& line : lines)
-        nuvex::tokenizeQmlLine(line, tokens.state, tokens);
+        tokenizeQmlLine(line, tokens.state, tokens);
 }
 
 #ifdef KSYNTAX_VERSION

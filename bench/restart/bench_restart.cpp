@@ -5,10 +5,10 @@
 // empty window, and against one that shows a page of widgets in such a window and nothing else of Nuvex. Each
 // in a process of its own. Arguments: "nuvex", "empty" or "widgets".
 
-#include "app/nativetypes.h"
+#include "app/qmlcontext.h"
 #include "app/qmlhost.h"
-#include "quick/icontable.h"
-#include "quick/themetable.h"
+#include "quick/tables/icontable.h"
+#include "quick/tables/themetable.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -60,8 +60,8 @@ void showWidgets(QQuickView& view)
     view.rootContext()->setContextProperty(QStringLiteral("faIcons"), iconTable());
     view.rootContext()->setContextProperty(QStringLiteral("bs"), themeTable());
     view.rootContext()->setContextProperty(QStringLiteral("dp"), 1.0);
-    addImportPaths(*view.engine());
-    view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/GUI/Gallery.qml")));
+    prepareEngine(*view.engine(), {});
+    view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/Gallery/Gallery.qml")));
 }
 
 int runBare(int& argc, char** argv, void (*show)(QQuickView&))

@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.Components 1.0
 
 Rectangle {
-    id: page
+    id: root
     width: 1920
     height: 1080
     color: "#f1eee8"

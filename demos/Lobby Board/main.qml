@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.Components 1.0
 
 Rectangle {
-    id: page
+    id: root
     width: 1080
     height: 1920
     color: "#f3eee3"

@@ -5,7 +5,7 @@ import QtMultimedia 5.15
 import Nuvex.Components 1.0
 
 Rectangle {
-    id: page
+    id: root
     width: 1920
     height: 1080
     color: "#f4ede3"

@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.Components 1.0
 
 Rectangle {
-    id: page
+    id: root
     width: 1920
     height: 1080
     color: "#10192e"
@@ -487,7 +487,8 @@ Rectangle {
                 y: 64
                 width: 512
                 height: 704
-                text: "Old Brewery\nHospital\nBotanical Garden\nStadium\nOld Airfield\nVineyards\nFerry, Lighthouse\nFerry, Seal Island"
+                text: "Old Brewery\nHospital\nBotanical Garden\nStadium\n"
+                      + "Old Airfield\nVineyards\nFerry, Lighthouse\nFerry, Seal Island"
                 color: "#ffffff"
                 wordWrap: false
                 lineHeightMode: Text.FixedHeight

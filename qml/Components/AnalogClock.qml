@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/clock"
 import "private/presence.js" as Presence
 
 /// A clock face with three hands. It wakes up once a second, or once a minute without second hand.

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "private/editor"
-import "private/editor/values.js" as Values
+import Nuvex.Editor.panel 1.0
 
 /// The panel of AnimatedItem: how it moves.
 Item {
@@ -22,7 +21,8 @@ Item {
         ChoiceRow {
             name: "motion"
             label: qsTr("Movement")
-            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"].map(name => ({ text: Values.words(name), is: name }))
+            choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"]
+                .map(name => ({ text: Values.words(name), is: name }))
         }
         SliderRow {
             name: "strength"

@@ -3,7 +3,8 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import "private"
-import "private/calendar.js" as Calendar
+import "private/clock"
+import "private/clock/calendar.js" as Calendar
 import "private/presence.js" as Presence
 
 /// The calendar of the current month, in the words and with the first day of week of its language. At midnight it moves

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/show"
 
 /// Lays its items out in rows and columns, on a plate as large as they need.
 Rectangle {

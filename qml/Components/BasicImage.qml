@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/picture"
 
 /// A picture. While its file is missing or broken it shows a quiet placeholder; it comes back with the file.
 ///

@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtMultimedia 5.15
 import "private"
+import "private/picture"
 import "private/presence.js" as Presence
 
 /// A video. It plays while it is seen: in a slide from its first frame on when the slide's turn comes, elsewhere from

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "private/editor"
+import Nuvex.Editor.panel 1.0
 
 /// The panel of BasicVideo: the file and how it is played.
 Item {
@@ -31,7 +31,8 @@ Item {
             label: qsTr("Filling")
             choices: [
                 { text: qsTr("Whole video"), is: 1, code: root.namesMedia ? "VideoOutput.PreserveAspectFit" : "1" },
-                { text: qsTr("Fill, cut edges"), is: 2, code: root.namesMedia ? "VideoOutput.PreserveAspectCrop" : "2" },
+                { text: qsTr("Fill, cut edges"), is: 2,
+                  code: root.namesMedia ? "VideoOutput.PreserveAspectCrop" : "2" },
                 { text: qsTr("Stretch"), is: 0, code: root.namesMedia ? "VideoOutput.Stretch" : "0" }
             ]
         }
@@ -41,7 +42,8 @@ Item {
             choices: [
                 { text: qsTr("Again and again"), is: -1, code: root.namesMedia ? "MediaPlayer.Infinite" : "-1" },
                 { text: qsTr("Once"), is: 1, code: "1" },
-                { text: qsTr("Twice"), is: 2, code: "2" }
+                { text: qsTr("Twice"), is: 2,
+                  code: "2" }
             ]
         }
         CheckRow {

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/media.js" as Media
+import "private/picture/media.js" as Media
 import "private/presence.js" as Presence
 
-/// A web page. The browser is loaded when the first page is shown, and a page goes when its slide is absent. A page that
-/// cannot be loaded leaves a quiet placeholder and is tried again.
+/// A web page. The browser is loaded when the first page is shown, and a page goes when its slide is absent. A page
+/// that cannot be loaded leaves a quiet placeholder and is tried again.
 Item {
     id: root
 
@@ -45,7 +45,7 @@ Item {
         id: page
         anchors.fill: parent
         active: root.isWanted
-        source: "private/WebPage.qml"
+        source: "private/picture/WebPage.qml"
         onLoaded: {
             item.address = Qt.binding(function() { return Media.address(root.url); });
             item.zoomFactor = Qt.binding(function() { return Math.max(0.25, Math.min(5, root.zoomFactor)); });

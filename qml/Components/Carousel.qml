@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/entries.js" as Entries
+import "private/show"
+import "private/menu/entries.js" as Entries
 import "private/presence.js" as Presence
-import "private/samples.js" as Samples
+import "private/menu/samples.js" as Samples
 
 /// Pictures on a turning ring. The model has texts (addresses of pictures) or objects with the members image and name.
 Item {

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/entries.js" as Entries
+import "private/menu"
+import "private/menu/entries.js" as Entries
 import "private/presence.js" as Presence
-import "private/samples.js" as Samples
+import "private/menu/samples.js" as Samples
 
 /// A price list: title, and a line with name, price and details for each entry of the model (objects with the members
 /// name, price, details). When the list is longer than its place, it turns pages.

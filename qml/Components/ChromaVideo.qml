@@ -3,7 +3,8 @@
 import QtQuick 2.15
 import QtMultimedia 5.15
 import "private"
-import "private/media.js" as Media
+import "private/picture"
+import "private/picture/media.js" as Media
 import "private/presence.js" as Presence
 
 /// A video without its green background: what lies beneath shows through. The key runs on the graphics card. It plays

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/clock.js" as Clock
+import "private/clock"
+import "private/clock/clock.js" as Clock
 import "private/presence.js" as Presence
 
 /// A clock, or a date: any format of time and date, in the words of the system's language. It wakes up only when its

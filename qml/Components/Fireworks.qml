@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtQuick.Particles 2.15
 import "private"
+import "private/picture"
 import "private/presence.js" as Presence
 
 /// Fireworks: rockets rise from the lower edge and burst in changing colours.

@@ -7,8 +7,8 @@ import "private/feed/addresses.js" as Addresses
 import "private/feed/photos.js" as Photos
 import "private/presence.js" as Presence
 
-/// Photos of a public feed, one fading into the next. The last ones stay while there is no network; before the first one
-/// the subject stands there.
+/// Photos of a public feed, one fading into the next. The last ones stay while there is no network; before the first
+/// one the subject stands there.
 Rectangle {
     id: root
 

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/entries.js" as Entries
+import "private/show"
+import "private/menu/entries.js" as Entries
 import "private/presence.js" as Presence
-import "private/samples.js" as Samples
+import "private/menu/samples.js" as Samples
 
 /// A grid of pictures with names. The model has texts (addresses of pictures) or objects with the members image and
 /// name. Tiles fill the given size; when there are more entries than tiles, an animated grid turns pages.
@@ -39,7 +40,8 @@ Grid {
 
     readonly property int across: Math.max(1, columns)
     readonly property real tileWidth: Math.max(0, (width - (across - 1) * spacing) / across)
-    readonly property int fittingRows: rows > 0 ? rows : Math.max(1, Math.floor((height + spacing) / Math.max(1, tileWidth * 0.75 + spacing)))
+    readonly property int fittingRows:
+        rows > 0 ? rows : Math.max(1, Math.floor((height + spacing) / Math.max(1, tileWidth * 0.75 + spacing)))
     readonly property int neededRows: Math.ceil(Math.min(Entries.count(model), 1000) / across)
     readonly property int down: Math.max(1, Math.min(fittingRows, neededRows))
     readonly property real tileHeight: Math.max(0, (height - (down - 1) * spacing) / down)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/picture"
 import "private/presence.js" as Presence
 
 /// A picture under a slowly moving camera: it zooms from one scale to the other while drifting to a side, and back,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/picture"
 
 /// A picture that enters and exits: it rises into its place from a slight zoom, on a ground of its own.
 Item {

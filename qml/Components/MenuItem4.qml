@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/menu"
+import "private/picture"
 
 /// A menu board entry as one numbered line: number, small picture, name with calories below, dots, price.
 Rectangle {

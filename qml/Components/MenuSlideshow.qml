@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/entries.js" as Entries
+import "private/menu"
+import "private/picture"
+import "private/menu/entries.js" as Entries
 import "private/presence.js" as Presence
-import "private/samples.js" as Samples
+import "private/menu/samples.js" as Samples
 
-/// A menu whose entries take turns: the one that is marked in the list shows its picture. The model has objects with the
-/// members name, price, details, image.
+/// A menu whose entries take turns: the one that is marked in the list shows its picture. The model has objects with
+/// the members name, price, details, image.
 Item {
     id: root
 
@@ -21,11 +23,16 @@ Item {
     mode: 'right'
     showTime: 6000
     model: [
-        { name: 'Cappuccino', price: '3.60', details: 'Double shot, velvet milk', image: 'qrc:///Nuvex/Components/icons/sampleCoffee.png' },
-        { name: 'Garden salad', price: '7.90', details: 'Leaves, tomato, cucumber, herb dressing', image: 'qrc:///Nuvex/Components/icons/sampleSalad.png' },
-        { name: 'Pizza Margherita', price: '11.50', details: 'Tomato, mozzarella, fresh basil', image: 'qrc:///Nuvex/Components/icons/samplePizza.png' },
-        { name: 'Strawberry cake', price: '4.80', details: 'Chocolate sponge, cream, fresh berries', image: 'qrc:///Nuvex/Components/icons/sampleCake.png' },
-        { name: 'Fresh orange juice', price: '4.20', details: 'Pressed while you wait', image: 'qrc:///Nuvex/Components/icons/sampleJuice.png' }
+        { name: 'Cappuccino', price: '3.60',
+          details: 'Double shot, velvet milk', image: 'qrc:///Nuvex/Components/icons/sampleCoffee.png' },
+        { name: 'Garden salad', price: '7.90',
+          details: 'Leaves, tomato, cucumber, herb dressing', image: 'qrc:///Nuvex/Components/icons/sampleSalad.png' },
+        { name: 'Pizza Margherita', price: '11.50',
+          details: 'Tomato, mozzarella, fresh basil', image: 'qrc:///Nuvex/Components/icons/samplePizza.png' },
+        { name: 'Strawberry cake', price: '4.80',
+          details: 'Chocolate sponge, cream, fresh berries', image: 'qrc:///Nuvex/Components/icons/sampleCake.png' },
+        { name: 'Fresh orange juice', price: '4.20',
+          details: 'Pressed while you wait', image: 'qrc:///Nuvex/Components/icons/sampleJuice.png' }
     ]
 }"
 
@@ -44,7 +51,8 @@ Item {
 
     readonly property int count: Entries.count(model)
     readonly property bool isUpright: mode === "top" || height > width * 1.2
-    readonly property real unit: Math.max(0, isUpright ? Math.min(width / 560, height / 1000) : Math.min(height / 600, width / 1000))
+    readonly property real unit: Math.max(0, isUpright ? Math.min(width / 560, height / 1000)
+                                                       : Math.min(height / 600, width / 1000))
     readonly property real margin: 28 * unit
 
     width: 1120
@@ -77,7 +85,8 @@ Item {
     MenuList {
         x: root.mode === "right" || root.isUpright ? root.margin : picture.width + 2 * root.margin
         y: root.isUpright ? picture.height + 2 * root.margin : root.margin
-        width: Math.max(0, root.width - x - root.margin - (root.mode === "right" && !root.isUpright ? picture.width + root.margin : 0))
+        width: Math.max(0, root.width - x - root.margin
+                           - (root.mode === "right" && !root.isUpright ? picture.width + root.margin : 0))
         height: Math.max(0, root.height - y - root.margin)
         menu: root
     }

@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtQuick.Particles 2.15
 import "private"
+import "private/picture"
 import "private/presence.js" as Presence
 
 /// A stream of particles: glowing dots that rise, or any small picture in any direction.

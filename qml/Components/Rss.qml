@@ -8,8 +8,8 @@ import "private/feed/rss.js" as Feed
 import "private/feed/sample.js" as Sample
 import "private/presence.js" as Presence
 
-/// The entries of a news feed (RSS or Atom), page after page. The last answer stays while there is no network; before the
-/// first one the feed's sign stands there.
+/// The entries of a news feed (RSS or Atom), page after page. The last answer stays while there is no network; before
+/// the first one the feed's sign stands there.
 Rectangle {
     id: root
 

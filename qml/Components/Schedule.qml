@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/schedule.js" as Rules
+import "private/clock"
+import "private/show/schedule.js" as Rules
 
 /// A slideshow whose slides are on at set times. Each entry of `schedules` names slides and when they are on (see
-/// private/schedule.js). The slides of the active entries with the highest priority take turns; in the gaps between,
-/// the slides that no entry names. Looked at again at every full minute, so that it follows when the clock is set.
+/// private/show/schedule.js). The slides of the active entries with the highest priority take turns; in the gaps
+/// between, the slides that no entry names. Looked at again at every full minute, so that it follows when the clock is
+/// set.
 Slideshow {
     id: root
 
@@ -45,9 +47,9 @@ Slideshow {
     property double validUntil: 0
 
     function lookUp(date) {
-        var now = date.getTime();
-        var won = Rules.winners(root.rules, date);
-        var isKnown = won.join() === root.winning && now >= root.lookedAt && now < root.validUntil;
+        const now = date.getTime();
+        const won = Rules.winners(root.rules, date);
+        const isKnown = won.join() === root.winning && now >= root.lookedAt && now < root.validUntil;
         root.lookedAt = now;
         if (isKnown)
             return;
@@ -58,8 +60,8 @@ Slideshow {
     }
 
     function lookAhead(date) {
-        var change = Rules.nextChange(root.rules, date);
-        var won = isNaN(change) ? [] : Rules.winners(root.rules, new Date(change));
+        const change = Rules.nextChange(root.rules, date);
+        const won = isNaN(change) ? [] : Rules.winners(root.rules, new Date(change));
         root.validUntil = isNaN(change) ? date.getTime() + 86400000 : change;
         root.nextChange = new Date(change);
         root.next = won.length > 0 ? root.schedules[won[0]] : null;
@@ -67,11 +69,11 @@ Slideshow {
 
     // Positions of the slides that the entries at `places` name.
     function slidesOf(places) {
-        var positions = [];
+        const positions = [];
         places.forEach(function(place) {
             (root.rules[place] ? root.rules[place].slides : []).forEach(function(name) {
-                var position = typeof name === "number" ? name
-                                                        : root.slides.findIndex(function(slide) { return slide.objectName === name; });
+                const position = typeof name === "number" ? name
+                                                          : root.slides.findIndex(slide => slide.objectName === name);
                 if (root.slides[position] !== undefined && positions.indexOf(position) < 0)
                     positions.push(position);
             });
@@ -80,7 +82,7 @@ Slideshow {
     }
 
     function unnamedSlides() {
-        var named = slidesOf(root.rules.map(function(rule, i) { return i; }));
+        const named = slidesOf(root.rules.map(function(rule, i) { return i; }));
         return root.slides.map(function(slide, i) { return i; }).filter(function(i) { return named.indexOf(i) < 0; });
     }
 
@@ -94,7 +96,8 @@ Slideshow {
     onRulesChanged: {
         rules.forEach(function(rule, i) {
             if (rule === null)
-                console.warn(log, "schedules, entry " + i + " cannot be understood: " + JSON.stringify(root.schedules[i]));
+                console.warn(log, "schedules, entry " + i + " cannot be understood: "
+                             + JSON.stringify(root.schedules[i]));
         });
         renew();
     }

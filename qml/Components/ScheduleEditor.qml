@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "private/editor"
+import Nuvex.Editor.panel 1.0
+import "private/show"
 
 /// The panel of Schedule: when its slides are on, and how they turn.
 Item {
@@ -23,13 +24,15 @@ Item {
             label: qsTr("On at")
             fields: [
                 { name: "name", label: qsTr("Name"), kind: "text" },
-                { name: "slide", label: qsTr("Slide"), kind: "number", hint: qsTr("0 is the first one, or its objectName") },
+                { name: "slide", label: qsTr("Slide"), kind: "number",
+                  hint: qsTr("0 is the first one, or its objectName") },
                 { name: "begin", label: qsTr("From"), kind: "text", hint: "06:00" },
                 { name: "end", label: qsTr("To"), kind: "text", hint: "11:00" },
                 { name: "days", label: qsTr("Days"), kind: "text", hint: "mon-fri, sun" },
                 { name: "from", label: qsTr("First day"), kind: "text", hint: "2026-12-24" },
                 { name: "until", label: qsTr("Last day"), kind: "text", hint: "12-31" },
-                { name: "priority", label: qsTr("Priority"), kind: "number", hint: "0" }
+                { name: "priority", label: qsTr("Priority"), kind: "number",
+                  hint: "0" }
             ]
         }
         Section {

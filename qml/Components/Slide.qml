@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/show"
 import "private/limits.js" as Limits
 import "private/presence.js" as Presence
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/show"
 import "private/presence.js" as Presence
 
 /// Shows its Slide children one after the other, in their order, again and again. The next slide is loaded, and the
@@ -59,8 +60,8 @@ Rectangle {
     }
 
     function collectSlides() {
-        var found = [];
-        for (var i = 0; i < root.children.length; ++i) {
+        const found = [];
+        for (let i = 0; i < root.children.length; ++i) {
             if (root.children[i].isSlide === true)
                 found.push(root.children[i]);
         }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "private/editor"
+import Nuvex.Editor.panel 1.0
+import "private/show"
 
 /// The panel of Slideshow: how its slides turn.
 Item {

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/clock.js" as Clock
+import "private/clock"
 import "private/feed"
+import "private/clock/clock.js" as Clock
 import "private/feed/addresses.js" as Addresses
 import "private/feed/forecast.js" as Forecast
 
@@ -44,7 +45,8 @@ Rectangle {
 
     readonly property var current: client.weather ? client.weather.current : null
     readonly property bool isTall: height > width * 0.75
-    readonly property real measure: Math.max(1, isTall ? Math.min(width * 0.8, height * 0.62) : Math.min(height, width * 0.48))
+    readonly property real measure: Math.max(1, isTall ? Math.min(width * 0.8, height * 0.62)
+                                                      : Math.min(height, width * 0.48))
 
     width: 420
     height: 200
@@ -80,7 +82,8 @@ Rectangle {
             visible: root.showIcon
             opacity: root.current ? 1 : 0.4
             mipmap: true
-            source: "icons/" + (root.current ? Forecast.icon(root.current.code, root.current.isDay) : "weatherFair") + ".png"
+            source: "icons/" + (root.current ? Forecast.icon(root.current.code, root.current.isDay)
+                                             : "weatherFair") + ".png"
         }
 
         WeatherText {

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
-import "private/clock.js" as Clock
+import "private/clock"
 import "private/feed"
+import "private/clock/clock.js" as Clock
 import "private/feed/addresses.js" as Addresses
 import "private/feed/days.js" as Days
 

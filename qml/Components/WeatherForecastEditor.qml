@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "private/editor"
+import Nuvex.Editor.panel 1.0
 
 /// The panel of WeatherForecast: the place, and what is told of its days.
 Item {

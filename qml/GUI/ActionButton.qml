@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 
-// A flat icon button for tool bars and page headers; with a text, a tile: a large icon above its caption.
-// The tool tip names it where it has no text of its own.
+/// A flat icon button for tool bars and page headers; with a text, a tile: a large icon above its caption.
+/// The tool tip names it where it has no text of its own.
 T.Button {
-    id: control
+    id: root
 
     property string size: "base"
     property string faIcon
@@ -32,31 +31,31 @@ T.Button {
     Accessible.name: text || toolTip
 
     Keys.onPressed: event.accepted = busy && event.key === Qt.Key_Space
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     contentItem: IconText {
-        text: control.text
-        faIcon: control.faIcon
-        size: control.size
-        iconSize: control.isTile ? "h1" : control.size
-        stacked: control.isTile
-        strong: control.isTile
-        busy: control.busy
-        color: control.color
+        text: root.text
+        faIcon: root.faIcon
+        size: root.size
+        iconSize: root.isTile ? "h1" : root.size
+        stacked: root.isTile
+        strong: root.isTile
+        busy: root.busy
+        color: root.color
     }
 
     background: Rectangle {
-        radius: Theme.radius(control.size)
-        color: control.isTile && !control.onDark ? Theme.surface : "transparent"
-        border.width: control.isTile ? Math.max(1, dp) : 0
-        border.color: control.hovered ? Theme.accent : Theme.line
+        radius: Theme.radius(root.size)
+        color: root.isTile && !root.onDark ? Theme.surface : "transparent"
+        border.width: root.isTile ? Math.max(1, dp) : 0
+        border.color: root.hovered ? Theme.accent : Theme.line
 
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
-            color: control.wash
-            opacity: control.down || control.checked ? 0.16 : (control.hovered ? 0.08 : 0)
+            color: root.wash
+            opacity: root.down || root.checked ? 0.16 : (root.hovered ? 0.08 : 0)
 
             Behavior on opacity {
                 NumberAnimation { duration: Theme.quick }
@@ -64,23 +63,23 @@ T.Button {
         }
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             cornerRadius: parent.radius
-            gap: control.isTile ? 2 * dp : dp
+            gap: root.isTile ? 2 * dp : dp
         }
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 
     ToolTip {
-        text: control.toolTip
-        visible: text !== "" && (control.hovered || control.visualFocus) && !control.down
+        text: root.toolTip
+        visible: text !== "" && (root.hovered || root.visualFocus) && !root.down
     }
 
     MouseArea {
         anchors.fill: parent
-        visible: control.busy
+        visible: root.busy
     }
 }

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 
-// A push button. Space and Enter press it like a click; while busy it takes no presses.
+/// A push button. Space and Enter press it like a click; while busy it takes no presses.
 T.Button {
-    id: control
+    id: root
 
     property string size: "base"
     // "default", "primary", "success", "info", "warning", "danger" or "link".
@@ -30,51 +29,51 @@ T.Button {
     Accessible.name: text
 
     Keys.onPressed: event.accepted = busy && event.key === Qt.Key_Space
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     contentItem: IconText {
-        text: control.text
-        faIcon: control.faIcon
-        size: control.size
-        busy: control.busy
-        color: control.isLink && control.hovered ? Theme.strongInk : control.kind.ink
+        text: root.text
+        faIcon: root.faIcon
+        size: root.size
+        busy: root.busy
+        color: root.isLink && root.hovered ? Theme.strongInk : root.kind.ink
     }
 
     background: Rectangle {
-        radius: Theme.radius(control.size)
-        color: control.down || control.checked ? control.kind.pressed
-                                               : (control.hovered ? control.kind.hover : control.kind.fill)
+        radius: Theme.radius(root.size)
+        color: root.down || root.checked ? root.kind.pressed
+                                         : (root.hovered ? root.kind.hover : root.kind.fill)
         border.width: Math.max(1, dp)
-        border.color: control.kind.border
+        border.color: root.kind.border
 
         Behavior on color {
-            enabled: control.enabled
+            enabled: root.enabled
             ColorAnimation { duration: Theme.quick }
         }
 
         Rectangle {
-            x: control.leftPadding
+            x: root.leftPadding
             y: parent.height - Theme.padding("xsmall")
             width: parent.width - 2 * x
             height: Math.max(1, dp)
-            visible: control.isLink && control.hovered
+            visible: root.isLink && root.hovered
             color: Theme.strongInk
         }
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             cornerRadius: parent.radius
         }
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 
     MouseArea {
         anchors.fill: parent
-        anchors.margins: -Theme.reach(control.size, control.height)
-        visible: control.busy
+        anchors.margins: -Theme.reach(root.size, root.height)
+        visible: root.busy
     }
 }

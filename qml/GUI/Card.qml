@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// A sheet on the ground of a page, with a title; what is declared inside stands below it, one under the other.
+/// A sheet on the ground of a page, with a title; what is declared inside stands below it, one under the other.
 Rectangle {
-    id: card
+    id: root
 
     property string title
     property real padding: 2 * Theme.unit
@@ -22,11 +21,11 @@ Rectangle {
 
     Label {
         id: heading
-        x: card.padding
-        y: card.padding
-        width: card.contentWidth
+        x: root.padding
+        y: root.padding
+        width: root.contentWidth
         visible: text !== ""
-        text: card.title
+        text: root.title
         textFormat: Text.PlainText
         size: "large"
         strong: true
@@ -34,9 +33,9 @@ Rectangle {
 
     Column {
         id: content
-        x: card.padding
-        y: card.title === "" ? card.padding : heading.y + heading.height + 1.5 * Theme.unit
-        width: card.contentWidth
+        x: root.padding
+        y: root.title === "" ? root.padding : heading.y + heading.height + 1.5 * Theme.unit
+        width: root.contentWidth
         spacing: 1.5 * Theme.unit
     }
 }

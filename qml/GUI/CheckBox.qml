@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 
-// A box to tick, with its text. Space and Enter change it.
+/// A box to tick, with its text. Space and Enter change it.
 T.CheckBox {
-    id: control
+    id: root
 
     property string size: "base"
 
@@ -20,21 +19,21 @@ T.CheckBox {
     hoverEnabled: true
     Accessible.name: text
 
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     indicator: Mark {
-        control: control
+        control: root
         radius: Theme.radius("small")
-        glyph: control.checkState === Qt.PartiallyChecked ? "fa-minus" : "fa-check"
-        isSet: control.checkState !== Qt.Unchecked
+        glyph: root.checkState === Qt.PartiallyChecked ? "fa-minus" : "fa-check"
+        isSet: root.checkState !== Qt.Unchecked
     }
 
     contentItem: MarkText {
-        control: control
+        control: root
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 }

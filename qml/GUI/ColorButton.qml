@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 
-// Shows a colour and its name in hexadecimal; pressed, it drops down a ColorPicker.
+/// Shows a colour and its name in hexadecimal; pressed, it drops down a ColorPicker.
 T.Button {
-    id: control
+    id: root
 
     property string size: "base"
     property color color: Theme.accent
@@ -33,8 +32,8 @@ T.Button {
     onClicked: toggle()
     Accessible.name: text
 
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     contentItem: Item {
         Swatch {
@@ -43,7 +42,7 @@ T.Button {
             x: 4 * dp
             width: height * 1.5
             height: parent.height - 2 * x
-            sample: control.color
+            sample: root.color
         }
 
         Label {
@@ -51,25 +50,25 @@ T.Button {
             anchors.right: parent.right
             anchors.margins: Theme.unit
             anchors.verticalCenter: parent.verticalCenter
-            text: control.text
-            size: control.size
+            text: root.text
+            size: root.size
             wrapMode: Text.NoWrap
             elide: Text.ElideRight
         }
     }
 
     background: FieldFrame {
-        control: control
-        isFocused: control.visualFocus || popup.visible
+        control: root
+        isFocused: root.visualFocus || popup.visible
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 
     T.Popup {
         id: dropDown
-        y: control.height + Theme.unit / 2
+        y: root.height + Theme.unit / 2
         width: implicitContentWidth + 2 * padding
         height: implicitContentHeight + 2 * padding
         margins: Theme.unit
@@ -77,15 +76,15 @@ T.Button {
         focus: true
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
         onOpened: picker.forceActiveFocus(Qt.TabFocusReason)
-        onClosed: control.forceActiveFocus(Qt.TabFocusReason)
+        onClosed: root.forceActiveFocus(Qt.TabFocusReason)
 
         contentItem: ColorPicker {
             id: picker
-            size: control.size
-            color: control.color
+            size: root.size
+            color: root.color
             onPicked: {
-                control.color = color;
-                control.picked(color);
+                root.color = color;
+                root.picked(color);
             }
         }
 

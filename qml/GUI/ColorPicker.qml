@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
-// Chooses a colour: a plane of saturation and brightness, strips of hue and opacity, the hexadecimal name, a palette.
+/// Chooses a colour: a plane of saturation and brightness, strips of hue and opacity, the hexadecimal name, a palette.
 FocusScope {
-    id: picker
+    id: root
 
     property string size: "base"
     property color color: "#428bca"
@@ -56,17 +55,17 @@ FocusScope {
 
         ColorPlane {
             focus: true
-            hue: picker.hue
-            saturation: picker.saturation
-            brightness: picker.brightness
-            onMoved: picker.mix(picker.hue, saturation, brightness)
+            hue: root.hue
+            saturation: root.saturation
+            brightness: root.brightness
+            onMoved: root.mix(root.hue, saturation, brightness)
         }
 
         ColorStrip {
             width: parent.width
-            size: picker.size
-            value: picker.hue
-            onMoved: picker.mix(value, picker.saturation, picker.brightness)
+            size: root.size
+            value: root.hue
+            onMoved: root.mix(value, root.saturation, root.brightness)
             Accessible.name: qsTr("Hue")
             gradient: Gradient {
                 orientation: Gradient.Horizontal
@@ -82,15 +81,15 @@ FocusScope {
 
         ColorStrip {
             width: parent.width
-            visible: picker.hasOpacity
-            size: picker.size
-            value: picker.color.a
-            onMoved: picker.pick(Qt.rgba(picker.color.r, picker.color.g, picker.color.b, value))
+            visible: root.hasOpacity
+            size: root.size
+            value: root.color.a
+            onMoved: root.pick(Qt.rgba(root.color.r, root.color.g, root.color.b, value))
             Accessible.name: qsTr("Opacity")
             gradient: Gradient {
                 orientation: Gradient.Horizontal
                 GradientStop { position: 0; color: "transparent" }
-                GradientStop { position: 1; color: Qt.hsva(picker.hue, picker.saturation, picker.brightness, 1) }
+                GradientStop { position: 1; color: Qt.hsva(root.hue, root.saturation, root.brightness, 1) }
             }
         }
 
@@ -99,23 +98,23 @@ FocusScope {
             spacing: Theme.unit * 0.75
 
             Repeater {
-                model: picker.palette
+                model: root.palette
 
                 SwatchButton {
-                    visible: picker.hasOpacity || sample.a === 1
-                    size: picker.size
+                    visible: root.hasOpacity || sample.a === 1
+                    size: root.size
                     sample: modelData
-                    selected: Qt.colorEqual(picker.color, sample)
-                    onClicked: picker.pick(sample)
+                    selected: Qt.colorEqual(root.color, sample)
+                    onClicked: root.pick(sample)
                 }
             }
         }
 
         HexField {
             width: parent.width
-            size: picker.size
-            color: picker.color
-            onPicked: picker.pick(color)
+            size: root.size
+            color: root.color
+            onPicked: root.pick(color)
         }
     }
 }

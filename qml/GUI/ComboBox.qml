@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 
-// One choice of a list that drops down. Up and Down change it, Space or Enter opens the list.
+/// One choice of a list that drops down. Up and Down change it, Space or Enter opens the list.
 T.ComboBox {
-    id: control
+    id: root
 
     property string size: "base"
     property string placeholderText
@@ -32,38 +31,38 @@ T.ComboBox {
     Keys.onReleased: openByKey(event)
 
     indicator: FontAwesomeIcon {
-        x: control.width - width - Theme.padding(control.size)
-        y: (control.height - height) / 2
+        x: root.width - width - Theme.padding(root.size)
+        y: (root.height - height) / 2
         faIcon: "fa-caret-down"
-        size: control.size
+        size: root.size
         color: bs["dropdown-caret-color"]
     }
 
     contentItem: Text {
-        text: control.displayText || control.placeholderText
+        text: root.displayText || root.placeholderText
         textFormat: Text.PlainText
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
-        color: control.displayText === "" ? bs["input-color-placeholder"] : bs["input-color"]
-        font: control.font
+        color: root.displayText === "" ? bs["input-color-placeholder"] : bs["input-color"]
+        font: root.font
     }
 
     background: FieldFrame {
-        control: control
-        isFocused: control.activeFocus || control.popup.visible
+        control: root
+        isFocused: root.activeFocus || root.popup.visible
     }
 
     delegate: ListRow {
         width: ListView.view.width
-        size: control.size
-        text: control.textRole === "" ? modelData : (Array.isArray(control.model) ? modelData[control.textRole]
-                                                                                  : model[control.textRole])
-        highlighted: control.highlightedIndex === index
+        size: root.size
+        text: root.textRole === "" ? modelData : (Array.isArray(root.model) ? modelData[root.textRole]
+                                                                            : model[root.textRole])
+        highlighted: root.highlightedIndex === index
     }
 
     popup: T.Popup {
-        y: control.height + 2 * dp
-        width: control.width
+        y: root.height + 2 * dp
+        width: root.width
         height: Math.min(contentItem.implicitHeight + 2 * padding, 40 * Theme.unit)
         margins: Theme.unit
         padding: Math.max(1, dp)
@@ -71,15 +70,15 @@ T.ComboBox {
         contentItem: ListView {
             implicitHeight: contentHeight
             clip: true
-            model: control.delegateModel
-            currentIndex: control.highlightedIndex
+            model: root.delegateModel
+            currentIndex: root.highlightedIndex
             highlightMoveDuration: 0
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ScrollBar {}
         }
 
         background: Rectangle {
-            radius: Theme.radius(control.size)
+            radius: Theme.radius(root.size)
             color: bs["dropdown-bg"]
             border.width: Math.max(1, dp)
             border.color: bs["dropdown-border"]
@@ -89,6 +88,6 @@ T.ComboBox {
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 }

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
-// A busy indicator with its text, over the whole parent, which takes no presses meanwhile. It can end with a message
-// that stays for a moment. Shown while `running` or while such a message stands.
+/// A busy indicator with its text, over the whole parent, which takes no presses meanwhile. It can end with a message
+/// that stays for a moment. Shown while `running` or while such a message stands.
 Item {
-    id: indicator
+    id: root
 
     property bool running: false
     property string text
@@ -51,10 +50,10 @@ Item {
 
     Timer {
         id: linger
-        interval: indicator.messageTime
+        interval: root.messageTime
         onTriggered: {
-            indicator.message = "";
-            indicator.finished();
+            root.message = "";
+            root.finished();
         }
     }
 
@@ -87,22 +86,22 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: 5 * Theme.unit
                 height: width
-                visible: !indicator.ending
+                visible: !root.ending
             }
 
             FontAwesomeIcon {
                 anchors.horizontalCenter: parent.horizontalCenter
-                visible: indicator.ending
+                visible: root.ending
                 size: "h1"
-                faIcon: indicator.hasFailed ? "fa-exclamation-circle" : "fa-check-circle"
-                color: indicator.hasFailed ? Theme.danger : Theme.success
+                faIcon: root.hasFailed ? "fa-exclamation-circle" : "fa-check-circle"
+                color: root.hasFailed ? Theme.danger : Theme.success
             }
 
             Label {
                 width: parent.width
                 visible: text !== ""
                 size: "large"
-                text: indicator.ending ? indicator.message : indicator.text
+                text: root.ending ? root.message : root.text
                 textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
             }
@@ -110,8 +109,8 @@ Item {
             ProgressBar {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(parent.width, 20 * Theme.unit)
-                visible: indicator.running && indicator.progress >= 0
-                value: indicator.progress
+                visible: root.running && root.progress >= 0
+                value: root.progress
             }
         }
     }

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// Stands where there is nothing to show, or where showing it failed: says so, and what to do about it. Buttons
-// declared inside stand below the text.
+/// Stands where there is nothing to show, or where showing it failed: says so, and what to do about it. Buttons
+/// declared inside stand below the text.
 Item {
-    id: state
+    id: root
 
     property string faIcon: "fa-inbox"
     property string title
@@ -27,15 +26,15 @@ Item {
 
         FontAwesomeIcon {
             anchors.horizontalCenter: parent.horizontalCenter
-            faIcon: state.faIcon
-            color: state.isError ? Theme.danger : Theme.mutedInk
-            opacity: state.isError ? 1 : 0.6
+            faIcon: root.faIcon
+            color: root.isError ? Theme.danger : Theme.mutedInk
+            opacity: root.isError ? 1 : 0.6
             font.pixelSize: 6 * Theme.unit
         }
 
         Label {
             width: parent.width
-            text: state.title
+            text: root.title
             textFormat: Text.PlainText
             size: "large"
             strong: true
@@ -45,7 +44,7 @@ Item {
         Label {
             width: parent.width
             visible: text !== ""
-            text: state.text
+            text: root.text
             textFormat: Text.PlainText
             muted: true
             horizontalAlignment: Text.AlignHCenter

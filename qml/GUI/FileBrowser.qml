@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 import "private/format.js" as Format
 
-// Looks for a file. Arrow keys move, Enter opens, Backspace goes to the folder above, typing jumps to a name, Escape
-// cancels. At the touch sizes a tap opens a folder, else a double click.
+/// Looks for a file. Arrow keys move, Enter opens, Backspace goes to the folder above, typing jumps to a name, Escape
+/// cancels. At the touch sizes a tap opens a folder, else a double click.
 FocusScope {
-    id: browser
+    id: root
 
     property string title: qsTr("Choose a file")
     property string size: "base"
@@ -48,9 +47,9 @@ FocusScope {
 
     PageHeader {
         id: header
-        title: browser.title
-        subtitle: browser.nameFilters.join("  ")
-        onBack: browser.canceled()
+        title: root.title
+        subtitle: root.nameFilters.join("  ")
+        onBack: root.canceled()
     }
 
     Rectangle {
@@ -64,11 +63,11 @@ FocusScope {
             id: up
             x: Theme.unit
             anchors.verticalCenter: parent.verticalCenter
-            enabled: browser.folderAbove !== ""
-            size: browser.size
+            enabled: root.folderAbove !== ""
+            size: root.size
             faIcon: "fa-level-up"
             toolTip: qsTr("Folder above")
-            onClicked: browser.goUp()
+            onClicked: root.goUp()
         }
 
         PathBar {
@@ -76,9 +75,9 @@ FocusScope {
             anchors.right: parent.right
             anchors.margins: Theme.unit
             anchors.verticalCenter: parent.verticalCenter
-            size: browser.size
-            folder: browser.folder
-            onChosen: browser.folder = folder
+            size: root.size
+            folder: root.folder
+            onChosen: root.folder = folder
         }
     }
 
@@ -87,10 +86,10 @@ FocusScope {
         anchors.top: way.bottom
         anchors.bottom: footer.top
         width: parent.width
-        size: browser.size
-        folder: browser.folder
-        nameFilters: browser.nameFilters
-        onOpened: isFolder ? browser.folder = entry : browser.fileSelected(entry)
+        size: root.size
+        folder: root.folder
+        nameFilters: root.nameFilters
+        onOpened: isFolder ? root.folder = entry : root.fileSelected(entry)
     }
 
     EmptyState {
@@ -100,7 +99,7 @@ FocusScope {
         isError: !list.isReadable
         faIcon: isError ? "fa-exclamation-triangle" : "fa-folder-open-o"
         title: isError ? qsTr("This folder cannot be opened") : qsTr("Nothing to choose here")
-        text: isError ? "" : qsTr("No folders, and no files of this kind: %1").arg(browser.nameFilters.join(", "))
+        text: isError ? "" : qsTr("No folders, and no files of this kind: %1").arg(root.nameFilters.join(", "))
     }
 
     Spinner {
@@ -112,9 +111,9 @@ FocusScope {
         id: footer
         anchors.bottom: parent.bottom
         width: parent.width
-        size: browser.size
-        file: browser.currentFile
-        onAccepted: browser.fileSelected(browser.currentFile)
-        onCanceled: browser.canceled()
+        size: root.size
+        file: root.currentFile
+        onAccepted: root.fileSelected(root.currentFile)
+        onCanceled: root.canceled()
     }
 }

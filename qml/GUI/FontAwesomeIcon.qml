@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// One icon of the icon font in a square of its own, so that icons of different widths line up.
+/// One icon of the icon font in a square of its own, so that icons of different widths line up.
 Text {
-    id: icon
+    id: root
 
     // Name as in the icon table ("fa-play"). Unknown names show a question mark, the empty name nothing.
     property string faIcon

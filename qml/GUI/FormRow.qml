@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// A line of a form: a label, and the control declared inside. Where the width is short the control stands below its
-// label. The control takes the free width when it says `width: parent.width`.
+/// A line of a form: a label, and the control declared inside. Where the width is short the control stands below its
+/// label. The control takes the free width when it says `width: parent.width`.
 Item {
-    id: row
+    id: root
 
     property string label
     property string size: "base"
@@ -23,20 +22,20 @@ Item {
 
     Label {
         id: caption
-        width: row.isNarrow ? row.width : row.labelWidth - Theme.unit
-        height: row.isNarrow ? implicitHeight : Math.max(implicitHeight, Theme.controlHeight(row.size))
-        text: row.label
+        width: root.isNarrow ? root.width : root.labelWidth - Theme.unit
+        height: root.isNarrow ? implicitHeight : Math.max(implicitHeight, Theme.controlHeight(root.size))
+        text: root.label
         textFormat: Text.PlainText
-        size: row.size
+        size: root.size
         muted: true
         verticalAlignment: Text.AlignVCenter
     }
 
     Item {
         id: slot
-        x: row.isNarrow ? 0 : row.labelWidth
-        y: row.isNarrow ? caption.height + Theme.unit / 2 : Math.max(0, (caption.height - height) / 2)
-        width: row.width - x
-        height: Math.max(childrenRect.height, Theme.controlHeight(row.size))
+        x: root.isNarrow ? 0 : root.labelWidth
+        y: root.isNarrow ? caption.height + Theme.unit / 2 : Math.max(0, (caption.height - height) / 2)
+        width: root.width - x
+        height: Math.max(childrenRect.height, Theme.controlHeight(root.size))
     }
 }

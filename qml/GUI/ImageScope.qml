@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// A round or elliptic window onto a part of a picture, like a magnifier's glass. The picture is laid out at
-// `imageWidth` by `imageHeight`; the window shows it from (`scopeX`, `scopeY`) on, nothing outside it.
+/// A round or elliptic window onto a part of a picture, like a magnifier's glass. The picture is laid out at
+/// `imageWidth` by `imageHeight`; the window shows it from (`scopeX`, `scopeY`) on, nothing outside it.
 Item {
-    id: scope
+    id: root
 
     property alias source: picture.source
     property alias status: picture.status
@@ -30,12 +29,12 @@ Item {
 
     ShaderEffect {
         property var _image: picture
-        property real _w: scope.width / Math.max(1, scope.imageWidth)
-        property real _h: scope.height / Math.max(1, scope.imageHeight)
-        property real _cX: scope.scopeX / Math.max(1, scope.imageWidth)
-        property real _cY: scope.scopeY / Math.max(1, scope.imageHeight)
-        property real _rX: scope.radius / Math.max(1, scope.width)
-        property real _rY: scope.radius / Math.max(1, scope.height)
+        property real _w: root.width / Math.max(1, root.imageWidth)
+        property real _h: root.height / Math.max(1, root.imageHeight)
+        property real _cX: root.scopeX / Math.max(1, root.imageWidth)
+        property real _cY: root.scopeY / Math.max(1, root.imageHeight)
+        property real _rX: root.radius / Math.max(1, root.width)
+        property real _rY: root.radius / Math.max(1, root.height)
 
         anchors.fill: parent
         visible: picture.status === Image.Ready

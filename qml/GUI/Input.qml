@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 
-// One line of text. Enter accepts. With an `error` the field turns red and the message stands below it.
+/// One line of text. Enter accepts. With an `error` the field turns red and the message stands below it.
 T.TextField {
-    id: control
+    id: root
 
     property string size: "base"
     property string faIcon
@@ -50,23 +49,23 @@ T.TextField {
     Accessible.name: placeholderText
 
     background: FieldFrame {
-        implicitHeight: control.fieldHeight
-        control: control
-        isError: control.error !== ""
-        isReadOnly: control.readOnly
+        implicitHeight: root.fieldHeight
+        control: root
+        isError: root.error !== ""
+        isReadOnly: root.readOnly
 
         FontAwesomeIcon {
-            x: Theme.padding(control.size) * 0.75
+            x: Theme.padding(root.size) * 0.75
             anchors.verticalCenter: parent.verticalCenter
-            faIcon: control.faIcon
-            size: control.size
+            faIcon: root.faIcon
+            size: root.size
             color: Theme.mutedInk
         }
 
         Placeholder {
-            control: control
-            width: parent.width - control.leftPadding - control.rightPadding
-            visible: control.length === 0 && control.preeditText === ""
+            control: root
+            width: parent.width - root.leftPadding - root.rightPadding
+            visible: root.length === 0 && root.preeditText === ""
         }
     }
 
@@ -74,9 +73,9 @@ T.TextField {
         id: message
         anchors.bottom: parent.bottom
         width: parent.width
-        visible: control.error !== ""
+        visible: root.error !== ""
         size: "small"
-        text: control.error
+        text: root.error
         textFormat: Text.PlainText
         color: Theme.danger
     }
@@ -84,13 +83,13 @@ T.TextField {
     ActionButton {
         id: clear
         anchors.right: parent.right
-        y: (control.fieldHeight - height) / 2
-        visible: control.showsClear
+        y: (root.fieldHeight - height) / 2
+        visible: root.showsClear
         focusPolicy: Qt.NoFocus
-        size: control.size
+        size: root.size
         faIcon: "fa-times-circle"
         toolTip: qsTr("Clear")
         color: Theme.mutedInk
-        onClicked: control.clear()
+        onClicked: root.clear()
     }
 }

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// Text of the interface.
+/// Text of the interface.
 Text {
-    id: label
+    id: root
 
     // "xsmall" to "xlarge", or "h1" to "h6" for headings.
     property string size: "base"

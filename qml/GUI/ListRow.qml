@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 
-// A row of a list: icon, text, a second line of detail, and what is declared inside it at the right end.
-// `highlighted` marks the chosen row. Space and Enter click it.
+/// A row of a list: icon, text, a second line of detail, and what is declared inside it at the right end.
+/// `highlighted` marks the chosen row. Space and Enter click it.
 T.ItemDelegate {
-    id: control
+    id: root
 
     property string size: "base"
     property string faIcon
@@ -29,8 +28,8 @@ T.ItemDelegate {
     hoverEnabled: true
     Accessible.name: detail === "" ? text : text + ", " + detail
 
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     contentItem: Item {
         implicitWidth: lines.x + lines.implicitWidth
@@ -40,32 +39,32 @@ T.ItemDelegate {
             id: icon
             width: font.pixelSize * 1.4
             anchors.verticalCenter: parent.verticalCenter
-            visible: control.faIcon !== ""
-            faIcon: control.faIcon
-            size: control.size
-            color: control.iconColor
+            visible: root.faIcon !== ""
+            faIcon: root.faIcon
+            size: root.size
+            color: root.iconColor
         }
 
         Column {
             id: lines
-            x: icon.visible ? icon.width + control.spacing : 0
+            x: icon.visible ? icon.width + root.spacing : 0
             width: parent.width - x
             anchors.verticalCenter: parent.verticalCenter
 
             Label {
                 width: parent.width
-                text: control.text
+                text: root.text
                 textFormat: Text.PlainText
-                size: control.size
-                strong: control.highlighted
+                size: root.size
+                strong: root.highlighted
                 wrapMode: Text.NoWrap
-                elide: control.elide
+                elide: root.elide
             }
 
             Label {
                 width: parent.width
                 visible: text !== ""
-                text: control.detail
+                text: root.detail
                 textFormat: Text.PlainText
                 size: "small"
                 muted: true
@@ -76,19 +75,19 @@ T.ItemDelegate {
     }
 
     background: Rectangle {
-        color: control.highlighted ? Theme.tint : (control.down ? Theme.sunken
-                                                                : (control.hovered ? bs["dropdown-link-hover-bg"]
-                                                                                   : "transparent"))
+        color: root.highlighted ? Theme.tint : (root.down ? Theme.sunken
+                                                          : (root.hovered ? bs["dropdown-link-hover-bg"]
+                                                                          : "transparent"))
 
         Rectangle {
             width: 3 * dp
             height: parent.height
-            visible: control.highlighted
+            visible: root.highlighted
             color: Theme.accent
         }
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             gap: -2 * border.width
         }
     }
@@ -96,7 +95,7 @@ T.ItemDelegate {
     Row {
         id: tail
         anchors.right: parent.right
-        anchors.rightMargin: Theme.padding(control.size) + Theme.unit / 2
+        anchors.rightMargin: Theme.padding(root.size) + Theme.unit / 2
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.unit / 2
     }

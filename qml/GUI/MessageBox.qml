@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
-// A question or message over the whole window. Enter or Space presses the focused button, at first the one that does
-// no harm: the accepting one, or the rejecting one when `type` is "danger". Escape rejects.
+/// A question or message over the whole window. Enter or Space presses the focused button, at first the one that does
+/// no harm: the accepting one, or the rejecting one when `type` is "danger". Escape rejects.
 ModalPopup {
-    id: box
+    id: root
 
     property string title
     property string text
@@ -45,8 +44,8 @@ ModalPopup {
 
     contentItem: FocusScope {
         implicitHeight: column.height
-        Keys.onEscapePressed: box.answer(false)
-        Keys.onBackPressed: box.answer(false)
+        Keys.onEscapePressed: root.answer(false)
+        Keys.onBackPressed: root.answer(false)
 
         Column {
             id: column
@@ -56,7 +55,7 @@ ModalPopup {
             Label {
                 width: parent.width
                 visible: text !== ""
-                text: box.title
+                text: root.title
                 textFormat: Text.PlainText
                 size: "h4"
             }
@@ -64,9 +63,9 @@ ModalPopup {
             Label {
                 width: parent.width
                 visible: text !== ""
-                text: box.text
+                text: root.text
                 textFormat: Text.PlainText
-                size: box.size
+                size: root.size
             }
 
             Row {
@@ -77,17 +76,17 @@ ModalPopup {
                 Button {
                     id: reject
                     visible: text !== ""
-                    size: box.size
-                    text: box.rejectText
-                    onClicked: box.answer(false)
+                    size: root.size
+                    text: root.rejectText
+                    onClicked: root.answer(false)
                 }
 
                 Button {
                     id: accept
-                    size: box.size
-                    type: box.type
-                    text: box.acceptText
-                    onClicked: box.answer(true)
+                    size: root.size
+                    type: root.type
+                    text: root.acceptText
+                    onClicked: root.answer(true)
                 }
             }
         }

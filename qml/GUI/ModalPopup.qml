@@ -3,12 +3,11 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import QtQuick.Window 2.15
-import "."
 
-// Stands in the middle of the window, over everything. The keyboard is in it while it is open, and goes back to where
-// it was.
+/// Stands in the middle of the window, over everything. The keyboard is in it while it is open, and goes back to where
+/// it was.
 T.Popup {
-    id: popup
+    id: root
 
     property Item opener: null
     property int openersReason: Qt.OtherFocusReason

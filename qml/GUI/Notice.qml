@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// A message in the flow of a page: "info", "success", "warning" or "danger". Takes no room while its text is empty.
+/// A message in the flow of a page: "info", "success", "warning" or "danger". Takes no room while its text is empty.
 Rectangle {
-    id: notice
+    id: root
 
     property string type: "info"
     property string text
@@ -32,8 +31,8 @@ Rectangle {
         x: 1.5 * Theme.unit
         y: message.y
         height: message.height / message.lineCount
-        faIcon: notice.icons[notice.type] || "fa-info-circle"
-        size: notice.size
+        faIcon: root.icons[root.type] || "fa-info-circle"
+        size: root.size
         color: Theme.strongInk
     }
 
@@ -44,9 +43,9 @@ Rectangle {
         anchors.leftMargin: Theme.unit
         anchors.rightMargin: 1.5 * Theme.unit
         anchors.verticalCenter: parent.verticalCenter
-        text: notice.text
+        text: root.text
         textFormat: Text.PlainText
-        size: notice.size
+        size: root.size
         color: Theme.strongInk
     }
 
@@ -55,10 +54,10 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: Theme.unit / 2
         anchors.verticalCenter: parent.verticalCenter
-        visible: notice.closable
-        size: notice.size
+        visible: root.closable
+        size: root.size
         faIcon: "fa-times"
         toolTip: qsTr("Close")
-        onClicked: notice.text = ""
+        onClicked: root.text = ""
     }
 }

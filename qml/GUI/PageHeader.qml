@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// The bar at the top of a page: back button, title, a second line, and at the right end what is declared inside it
-// (ActionButtons with `onDark`).
+/// The bar at the top of a page: back button, title, a second line, and at the right end what is declared inside it
+/// (ActionButtons with `onDark`).
 Rectangle {
-    id: header
+    id: root
 
     property string title
     property string subtitle
@@ -26,12 +25,12 @@ Rectangle {
         id: backButton
         x: Theme.unit
         anchors.verticalCenter: parent.verticalCenter
-        visible: header.backVisible
-        size: header.size
+        visible: root.backVisible
+        size: root.size
         faIcon: "fa-arrow-left"
         toolTip: qsTr("Back")
         onDark: true
-        onClicked: header.back()
+        onClicked: root.back()
     }
 
     Column {
@@ -42,7 +41,7 @@ Rectangle {
 
         Label {
             width: parent.width
-            text: header.title
+            text: root.title
             textFormat: Text.PlainText
             size: "large"
             strong: true
@@ -54,7 +53,7 @@ Rectangle {
         Label {
             width: parent.width
             visible: text !== ""
-            text: header.subtitle
+            text: root.subtitle
             textFormat: Text.PlainText
             size: "small"
             color: Theme.barInk

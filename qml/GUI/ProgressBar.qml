@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
-// How far long work has come; `indeterminate` while nobody knows.
+/// How far long work has come; `indeterminate` while nobody knows.
 T.ProgressBar {
-    id: control
+    id: root
 
     implicitWidth: 24 * Theme.unit
     implicitHeight: Theme.unit
@@ -19,26 +18,26 @@ T.ProgressBar {
     }
 
     contentItem: Item {
-        clip: control.indeterminate
+        clip: root.indeterminate
 
         Rectangle {
             id: bar
-            width: control.indeterminate ? parent.width / 3 : parent.width * control.visualPosition
+            width: root.indeterminate ? parent.width / 3 : parent.width * root.visualPosition
             height: parent.height
             radius: height / 2
             color: Theme.accent
 
             Behavior on width {
-                enabled: !control.indeterminate
+                enabled: !root.indeterminate
                 NumberAnimation { duration: Theme.quick }
             }
         }
 
         XAnimator {
             target: bar
-            running: control.indeterminate && control.visible
-            from: -control.width / 3
-            to: control.width
+            running: root.indeterminate && root.visible
+            from: -root.width / 3
+            to: root.width
             duration: 1400
             loops: Animation.Infinite
             onStopped: bar.x = 0

@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.Native 1.0
-import "."
 import "private"
 import "private/indent.js" as Indent
 
-// QML source: coloured, with line numbers. Tab indents by four columns and Ctrl+Tab leaves; Enter keeps the
-// indentation; a closing brace typed on a blank line takes one step back. `errorLine` (from 1; 0 for none) marks a
-// line.
+/// QML source: coloured, with line numbers. Tab indents by four columns and Ctrl+Tab leaves; Enter keeps the
+/// indentation; a closing brace typed on a blank line takes one step back. `errorLine` (from 1; 0 for none) marks a
+/// line.
 TextArea {
-    id: area
+    id: root
 
     property int errorLine: 0
 
@@ -90,16 +89,16 @@ TextArea {
     }
 
     BracketMarks {
-        parent: area.edit
-        edit: area.edit
+        parent: root.edit
+        edit: root.edit
         highlighter: highlighter
     }
 
     LineNumbers {
         anchors.fill: parent
-        edit: area.edit
-        scroll: area.scroll
-        currentLine: area.currentLine
-        errorLine: area.errorLine
+        edit: root.edit
+        scroll: root.scroll
+        currentLine: root.currentLine
+        errorLine: root.errorLine
     }
 }

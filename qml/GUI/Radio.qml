@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 import "private/press.js" as Press
 
-// One choice of several: radios with the same parent, or of one RadioGroup, switch each other off.
-// Space and Enter choose it.
+/// One choice of several: radios with the same parent, or of one RadioGroup, switch each other off.
+/// Space and Enter choose it.
 T.RadioButton {
-    id: control
+    id: root
 
     property string size: "base"
 
@@ -21,22 +20,22 @@ T.RadioButton {
     hoverEnabled: true
     Accessible.name: text
 
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     indicator: Mark {
-        control: control
+        control: root
         radius: width / 2
         glyph: "fa-circle"
         glyphScale: 0.5
-        isSet: control.checked
+        isSet: root.checked
     }
 
     contentItem: MarkText {
-        control: control
+        control: root
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 }

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
-// Radios for the entries of `model`, a list of texts or of objects with "text" and "value". One stop for the Tab
-// key; the arrow keys move the choice. Wraps into further lines where the width is short.
+/// Radios for the entries of `model`, a list of texts or of objects with "text" and "value". One stop for the Tab
+/// key; the arrow keys move the choice. Wraps into further lines where the width is short.
 FocusScope {
-    id: group
+    id: root
 
     property var model: []
     property int currentIndex: -1
@@ -67,22 +66,22 @@ FocusScope {
 
     Flow {
         id: flow
-        width: group.width
-        flow: group.vertical ? Flow.TopToBottom : Flow.LeftToRight
-        spacing: group.vertical ? Theme.unit : 2.5 * Theme.unit
+        width: root.width
+        flow: root.vertical ? Flow.TopToBottom : Flow.LeftToRight
+        spacing: root.vertical ? Theme.unit : 2.5 * Theme.unit
 
         Repeater {
             id: radios
-            model: group.model
+            model: root.model
 
             Radio {
                 T.ButtonGroup.group: exclusive
-                activeFocusOnTab: index === Math.max(0, group.currentIndex)
+                activeFocusOnTab: index === Math.max(0, root.currentIndex)
                 focus: activeFocusOnTab
-                size: group.size
-                text: group.entryText(modelData)
-                checked: group.currentIndex === index
-                onClicked: group.choose(index)
+                size: root.size
+                text: root.entryText(modelData)
+                checked: root.currentIndex === index
+                onClicked: root.choose(index)
             }
         }
     }

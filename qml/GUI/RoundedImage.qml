@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 
-// A picture with rounded corners; half the shorter side as `radius` makes it round.
+/// A picture with rounded corners; half the shorter side as `radius` makes it round.
 Item {
-    id: rounded
+    id: root
 
     property alias source: picture.source
     property alias fillMode: picture.fillMode
@@ -31,8 +30,8 @@ Item {
     // Drawn at twice the size and smoothed down: the shader's edge is hard.
     ShaderEffect {
         property var _image: picture
-        property real _rX: Math.min(0.5, rounded.radius / Math.max(1, rounded.width))
-        property real _rY: Math.min(0.5, rounded.radius / Math.max(1, rounded.height))
+        property real _rX: Math.min(0.5, root.radius / Math.max(1, root.width))
+        property real _rY: Math.min(0.5, root.radius / Math.max(1, root.height))
 
         anchors.fill: parent
         visible: picture.status === Image.Ready

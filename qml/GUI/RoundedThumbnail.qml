@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
-// A small picture with rounded corners and a caption, to click; round unless `radius` says otherwise.
+/// A small picture with rounded corners and a caption, to click; round unless `radius` says otherwise.
 PictureButton {
-    id: thumbnail
+    id: root
 
     property alias source: image.source
     property real radius: pictureSize / 2
@@ -18,8 +17,8 @@ PictureButton {
         id: image
         anchors.fill: parent
         asynchronous: true
-        radius: thumbnail.radius
+        radius: root.radius
         // Decoded no larger than shown.
-        sourceSize.width: 2 * thumbnail.pictureSize
+        sourceSize.width: 2 * root.pictureSize
     }
 }

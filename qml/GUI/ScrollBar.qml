@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
-// Attach it to a list or flickable: `T.ScrollBar.vertical: ScrollBar {}`. Gone while everything fits.
+/// Attach it to a list or flickable: `T.ScrollBar.vertical: ScrollBar {}`. Gone while everything fits.
 T.ScrollBar {
-    id: control
+    id: root
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -19,7 +18,7 @@ T.ScrollBar {
         implicitHeight: Theme.unit * 0.75
         radius: Math.min(width, height) / 2
         color: Theme.mutedInk
-        opacity: control.pressed ? 0.9 : (control.hovered ? 0.7 : 0.4)
+        opacity: root.pressed ? 0.9 : (root.hovered ? 0.7 : 0.4)
 
         Behavior on opacity {
             NumberAnimation { duration: Theme.quick }

@@ -3,11 +3,11 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import QtQuick.Window 2.15
-import "."
 
-// A column of content that scrolls: by mouse and touch, by the keys for pages, and by itself to what gets the keyboard.
+/// A column of content that scrolls: by mouse and touch, by the keys for pages, and by itself to what gets the
+/// keyboard.
 Flickable {
-    id: pane
+    id: root
 
     // Room between what has the keyboard and the edge.
     property real gap: 2 * Theme.unit

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 
-// A value between two ends. Arrow keys step, Home and End go to the ends.
+/// A value between two ends. Arrow keys step, Home and End go to the ends.
 T.Slider {
-    id: control
+    id: root
 
     property string size: "base"
 
@@ -27,16 +26,16 @@ T.Slider {
     }
 
     background: Rectangle {
-        x: control.horizontal ? 0 : (control.width - width) / 2
-        y: control.horizontal ? (control.height - height) / 2 : 0
-        width: control.horizontal ? control.width : 4 * dp
-        height: control.horizontal ? 4 * dp : control.height
+        x: root.horizontal ? 0 : (root.width - width) / 2
+        y: root.horizontal ? (root.height - height) / 2 : 0
+        width: root.horizontal ? root.width : 4 * dp
+        height: root.horizontal ? 4 * dp : root.height
         radius: 2 * dp
         color: Theme.line
 
         Rectangle {
-            y: control.horizontal ? 0 : control.visualPosition * parent.height
-            width: control.horizontal ? control.visualPosition * parent.width : parent.width
+            y: root.horizontal ? 0 : root.visualPosition * parent.height
+            width: root.horizontal ? root.visualPosition * parent.width : parent.width
             height: parent.height - y
             radius: parent.radius
             color: Theme.accent
@@ -44,26 +43,26 @@ T.Slider {
     }
 
     handle: Rectangle {
-        readonly property real travel: control.visualPosition
+        readonly property real travel: root.visualPosition
 
-        x: control.horizontal ? control.leftPadding + travel * control.availableWidth - width / 2
-                              : (control.width - width) / 2
-        y: control.horizontal ? (control.height - height) / 2
-                              : control.topPadding + travel * control.availableHeight - height / 2
-        implicitWidth: Math.round(Theme.fontSize(control.size) * 1.15)
+        x: root.horizontal ? root.leftPadding + travel * root.availableWidth - width / 2
+                           : (root.width - width) / 2
+        y: root.horizontal ? (root.height - height) / 2
+                           : root.topPadding + travel * root.availableHeight - height / 2
+        implicitWidth: Math.round(Theme.fontSize(root.size) * 1.15)
         implicitHeight: implicitWidth
         radius: width / 2
-        color: control.pressed ? Theme.link : Theme.surface
+        color: root.pressed ? Theme.link : Theme.surface
         border.width: 2 * dp
-        border.color: control.hovered || control.pressed ? Theme.link : Theme.accent
+        border.color: root.hovered || root.pressed ? Theme.link : Theme.accent
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             cornerRadius: parent.radius
         }
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 }

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 
-// A number to type or to step. `decimals` digits after the point; `realValue`, `realFrom`, `realTo` and `realStep`
-// are in the number's own unit. Up and Down step, the wheel too while it has the focus.
+/// A number to type or to step. `decimals` digits after the point; `realValue`, `realFrom`, `realTo` and `realStep`
+/// are in the number's own unit. Up and Down step, the wheel too while it has the focus.
 T.SpinBox {
-    id: control
+    id: root
 
     property string size: "base"
     property string suffix
@@ -59,32 +58,32 @@ T.SpinBox {
     }
 
     contentItem: TextInput {
-        text: control.displayText
-        readOnly: !control.editable
-        validator: control.validator
+        text: root.displayText
+        readOnly: !root.editable
+        validator: root.validator
         selectByMouse: true
         clip: width < implicitWidth
         verticalAlignment: TextInput.AlignVCenter
         color: bs["input-color"]
         selectionColor: Theme.accent
         selectedTextColor: Theme.surface
-        font: control.font
+        font: root.font
     }
 
     up.indicator: SpinStep {
-        control: control
+        control: root
         faIcon: "fa-angle-up"
         isUp: true
-        part: control.up
+        part: root.up
     }
 
     down.indicator: SpinStep {
-        control: control
+        control: root
         faIcon: "fa-angle-down"
-        part: control.down
+        part: root.down
     }
 
     background: FieldFrame {
-        control: control
+        control: root
     }
 }

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
-// A row of tabs, one chosen: `model` lists texts, or objects with "text" and "faIcon". One stop for the Tab key;
-// the arrow keys move the choice. Scrolls sideways where the tabs do not fit.
+/// A row of tabs, one chosen: `model` lists texts, or objects with "text" and "faIcon". One stop for the Tab key;
+/// the arrow keys move the choice. Scrolls sideways where the tabs do not fit.
 ListView {
-    id: tabs
+    id: root
 
     property string size: "base"
 
@@ -42,9 +41,9 @@ ListView {
     Keys.onRightPressed: choose(currentIndex + 1)
 
     Rectangle {
-        y: tabs.height - height
+        y: root.height - height
         z: -1
-        width: tabs.width
+        width: root.width
         height: Math.max(1, dp)
         color: Theme.line
     }
@@ -65,8 +64,8 @@ ListView {
 
         readonly property bool isCurrent: ListView.isCurrentItem
 
-        width: label.implicitWidth + 2 * Theme.padding(tabs.size)
-        height: tabs.height
+        width: label.implicitWidth + 2 * Theme.padding(root.size)
+        height: root.height
         Accessible.role: Accessible.PageTab
         Accessible.name: label.text
 
@@ -80,16 +79,16 @@ ListView {
             id: label
             anchors.centerIn: parent
             width: implicitWidth
-            text: tabs.caption(modelData)
+            text: root.caption(modelData)
             faIcon: modelData.faIcon || ""
-            size: tabs.size
+            size: root.size
             color: tab.isCurrent ? Theme.accent : Theme.ink
         }
 
         FocusRing {
-            visible: tabs.activeFocus && tab.isCurrent
+            visible: root.activeFocus && tab.isCurrent
             gap: -2 * border.width
-            cornerRadius: Theme.radius(tabs.size) + 4 * dp
+            cornerRadius: Theme.radius(root.size) + 4 * dp
         }
 
         HoverHandler {
@@ -98,8 +97,8 @@ ListView {
 
         TapHandler {
             onTapped: {
-                tabs.forceActiveFocus(Qt.MouseFocusReason);
-                tabs.choose(index);
+                root.forceActiveFocus(Qt.MouseFocusReason);
+                root.choose(index);
             }
         }
     }

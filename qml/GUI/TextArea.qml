@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 import "private"
 
-// Text of many lines, scrolled; it follows the cursor. Tab leaves it.
+/// Text of many lines, scrolled; it follows the cursor. Tab leaves it.
 FocusScope {
-    id: area
+    id: root
 
     property string size: "base"
     property bool hasError: false
@@ -46,16 +45,16 @@ FocusScope {
 
     FieldFrame {
         anchors.fill: parent
-        control: area
-        isError: area.hasError
-        isReadOnly: area.readOnly
+        control: root
+        isError: root.hasError
+        isReadOnly: root.readOnly
     }
 
     Item {
         id: margin
         x: flick.x - width
         y: flick.y
-        width: area.gutterWidth
+        width: root.gutterWidth
         height: flick.height
         clip: true
     }
@@ -64,7 +63,7 @@ FocusScope {
         id: flick
         anchors.fill: parent
         anchors.margins: 2 * dp
-        anchors.leftMargin: area.gutterWidth + 2 * dp
+        anchors.leftMargin: root.gutterWidth + 2 * dp
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
@@ -83,11 +82,11 @@ FocusScope {
             placeholderTextColor: bs["input-color-placeholder"]
             selectionColor: Theme.accent
             selectedTextColor: Theme.surface
-            font.family: area.fontFamily
-            font.pixelSize: Theme.fontSize(area.size)
+            font.family: root.fontFamily
+            font.pixelSize: Theme.fontSize(root.size)
             Accessible.name: placeholderText
 
-            Keys.onPressed: area.takeKey(event)
+            Keys.onPressed: root.takeKey(event)
 
             Placeholder {
                 width: input.width - input.leftPadding - input.rightPadding

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
-// The edit tools of a text area: history, clipboard and search; for a QMLTextArea the line tools too. Items declared
-// inside stand at the end. Ctrl+F opens the search while the text or the bar has the keyboard.
+/// The edit tools of a text area: history, clipboard and search; for a QMLTextArea the line tools too. Items declared
+/// inside stand at the end. Ctrl+F opens the search while the text or the bar has the keyboard.
 Flow {
-    id: bar
+    id: root
 
     property Item target
     property string size: "base"
@@ -57,19 +56,19 @@ Flow {
 
         ActionButton {
             objectName: modelData.tool
-            visible: bar.isSource || !modelData.forSource
-            enabled: bar.can[modelData.tool]
+            visible: root.isSource || !modelData.forSource
+            enabled: root.can[modelData.tool]
             focusPolicy: Qt.TabFocus
-            size: bar.size
+            size: root.size
             faIcon: modelData.icon
             toolTip: modelData.tip
-            onClicked: bar.run(modelData.tool)
+            onClicked: root.run(modelData.tool)
         }
     }
 
     TextSearch {
         id: search
-        edit: bar.edit
-        size: bar.size
+        edit: root.edit
+        size: root.size
     }
 }

@@ -4,11 +4,11 @@ pragma Singleton
 import QtQuick 2.15
 import "private/contrast.js" as Contrast
 
-// The theme map "bs" and the density "dp" as the colours, lengths and fonts that widgets and pages use. All lengths
-// are in pixels, already scaled. `size` is one of "xsmall", "small", "base", "large", "xlarge"; the last two are
-// for touch.
+/// The theme map "bs" and the density "dp" as the colours, lengths and fonts that widgets and pages use. All lengths
+/// are in pixels, already scaled. `size` is one of "xsmall", "small", "base", "large", "xlarge"; the last two are
+/// for touch.
 QtObject {
-    id: theme
+    id: root
 
     readonly property string fontFamily: "Open Sans"
     readonly property string codeFamily: "monospace"

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "."
 import "private"
 
-// A small framed picture with a caption, to click.
+/// A small framed picture with a caption, to click.
 PictureButton {
-    id: thumbnail
+    id: root
 
     property alias source: image.source
     property alias fillMode: image.fillMode
@@ -19,6 +18,6 @@ PictureButton {
         asynchronous: true
         fillMode: Image.PreserveAspectFit
         // Decoded no larger than shown.
-        sourceSize.width: 2 * thumbnail.pictureSize
+        sourceSize.width: 2 * root.pictureSize
     }
 }

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
-import "."
 
-// A short text beside its parent, kept inside the window.
+/// A short text beside its parent, kept inside the window.
 T.ToolTip {
-    id: tip
+    id: root
 
     x: parent ? (parent.width - width) / 2 : 0
     y: parent ? parent.height + Theme.unit / 2 : 0
@@ -20,7 +19,7 @@ T.ToolTip {
     closePolicy: T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
 
     contentItem: Text {
-        text: tip.text
+        text: root.text
         textFormat: Text.PlainText
         color: Theme.barInk
         font.family: Theme.fontFamily

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 
-// Who made the program, which version it is and which computer it runs on.
+/// Who made the program, which version it is and which computer it runs on.
 FormPage {
-    id: aboutPage
+    id: root
 
     readonly property string webSite: "https://nuvex.example/"
 
@@ -14,6 +14,12 @@ FormPage {
         return qsTr("Nuvex is made by %1.").arg("<a href=\"" + webSite + "\">" + qsTr("the Nuvex developers") + "</a>")
                + "<br>App version: " + CAPI.getSSetting("version")
                + "<br>Host: " + CAPI.hostName();
+    }
+
+    function parts() {
+        return qsTr("Built with %1, under the LGPL version 3. "
+                    + "Fonts are under the Open Font License and the Apache License.")
+            .arg("<a href=\"https://www.qt.io/\">Qt</a>");
     }
 
     objectName: "AboutPage"
@@ -34,10 +40,20 @@ FormPage {
             objectName: "credit"
             width: parent.width
             size: "large"
-            text: aboutPage.credit()
+            text: root.credit()
             textFormat: Text.StyledText
             horizontalAlignment: Text.AlignHCenter
             lineHeight: 1.5
+            onLinkActivated: Qt.openUrlExternally(link)
+        }
+
+        BGUI.Label {
+            objectName: "parts"
+            width: parent.width
+            text: root.parts()
+            textFormat: Text.StyledText
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
             onLinkActivated: Qt.openUrlExternally(link)
         }
 
@@ -49,13 +65,13 @@ FormPage {
                 focus: true
                 faIcon: "fa-external-link"
                 text: qsTr("Web Site")
-                onClicked: Qt.openUrlExternally(aboutPage.webSite)
+                onClicked: Qt.openUrlExternally(root.webSite)
             }
 
             BGUI.Button {
                 faIcon: "fa-question-circle"
                 text: qsTr("Help")
-                onClicked: aboutPage.shell.open("HelpPage")
+                onClicked: root.shell.open("HelpPage")
             }
         }
     }

@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import "private"
 
-// The project's files as source.
+/// The project's files as source.
 ComingPage {
     objectName: "AdvancedEditPage"
     title: qsTr("Edit QML Source (%1)").arg(CAPI.getSSetting("lastProject"))

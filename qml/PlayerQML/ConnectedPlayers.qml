@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import "private"
 
-// The players of the account.
+/// The players of the account.
 ComingPage {
     objectName: "ConnectedPlayers"
     title: qsTr("Dashboard")

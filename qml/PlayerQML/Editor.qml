@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-// The editing frame around a live document. It is copied into a project and loaded from there, so it stands alone.
+/// The editing frame around a live document. It is copied into a project and loaded from there, so it stands alone.
 Item {
-    id: frame
+    id: root
 
     // Root of the live document.
     property Item myfill: null
@@ -44,33 +44,33 @@ Item {
     Rectangle {
         id: marker
 
-        readonly property rect place: visible ? frame.placeOf(frame.selection) : Qt.rect(0, 0, 0, 0)
+        readonly property rect place: visible ? root.placeOf(root.selection) : Qt.rect(0, 0, 0, 0)
 
-        parent: frame.myfill || stage
+        parent: root.myfill || stage
         x: place.x
         y: place.y
         z: 1000
         width: place.width
         height: place.height
-        visible: frame.myfill !== null && frame.selection !== null
+        visible: root.myfill !== null && root.selection !== null
         color: "transparent"
-        border.width: 3 / (frame.myfill ? frame.myfill.scale : 1)
+        border.width: 3 / (root.myfill ? root.myfill.scale : 1)
         border.color: "lavender"
     }
 
     PinchArea {
         anchors.fill: parent
-        enabled: frame.myfill !== null
-        pinch.target: frame.myfill
-        pinch.minimumScale: frame.smallestScale
-        pinch.maximumScale: frame.largestScale
+        enabled: root.myfill !== null
+        pinch.target: root.myfill
+        pinch.minimumScale: root.smallestScale
+        pinch.maximumScale: root.largestScale
 
         MouseArea {
             anchors.fill: parent
             acceptedButtons: Qt.LeftButton | Qt.RightButton
-            drag.target: frame.myfill
-            onClicked: frame.itemsToEdit(mouse)
-            onWheel: frame.zoom(wheel.angleDelta.y / 120)
+            drag.target: root.myfill
+            onClicked: root.itemsToEdit(mouse)
+            onWheel: root.zoom(wheel.angleDelta.y / 120)
         }
     }
 }

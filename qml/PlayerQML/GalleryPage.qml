@@ -1,31 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Nuvex.Gallery 1.0
 import "private"
 
-// Every widget and component at a glance.
+/// Every widget and component at a glance.
 FormPage {
-    id: page
-
-    function chapter(text, faIcon, name) {
-        return { "text": text, "faIcon": faIcon, "source": "qrc:///Nuvex/Components/gallery/" + name + ".qml" };
-    }
-
     objectName: "GalleryPage"
     title: qsTr("Gallery")
 
-    Loader {
+    Gallery {
         anchors.fill: parent
         focus: true
-        source: "qrc:///Nuvex/GUI/Gallery.qml"
-        onLoaded: item.chapters = item.chapters.concat([
-            page.chapter(qsTr("Pictures"), "fa-picture-o", "PictureSheets"),
-            page.chapter(qsTr("Texts"), "fa-font", "TextSheets"),
-            page.chapter(qsTr("Time and news"), "fa-clock-o", "TimeSheets"),
-            page.chapter(qsTr("Menus"), "fa-cutlery", "MenuSheets"),
-            page.chapter(qsTr("Shows"), "fa-film", "ShowSheets"),
-            page.chapter(qsTr("Layouts"), "fa-th-large", "LayoutSheets"),
-            page.chapter(qsTr("Effects"), "fa-magic", "EffectSheets")
-        ])
     }
 }

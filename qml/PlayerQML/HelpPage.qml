@@ -4,9 +4,9 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 
-// How to begin, and what the keys do.
+/// How to begin, and what the keys do.
 FormPage {
-    id: helpPage
+    id: root
 
     readonly property var keys: [
         {"name": "Esc", "effect": qsTr("Goes back; on the main page quits the program")},
@@ -37,7 +37,7 @@ FormPage {
         }
 
         Repeater {
-            model: helpPage.keys
+            model: root.keys
 
             Row {
                 width: parent.width
@@ -60,7 +60,7 @@ FormPage {
             focus: true
             type: "primary"
             text: qsTr("Go back")
-            onClicked: helpPage.back()
+            onClicked: root.back()
         }
     }
 }

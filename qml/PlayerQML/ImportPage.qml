@@ -4,9 +4,9 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 
-// Looks for the archive of a project, from the current project's folder on.
+/// Looks for the archive of a project, from the current project's folder on.
 StackPage {
-    id: importPage
+    id: root
 
     // The user chose that archive; the page has closed.
     signal chosen(url archive)
@@ -19,10 +19,10 @@ StackPage {
         title: qsTr("Import a project")
         nameFilters: ["*.zip"]
         folder: "file://" + CAPI.getBaseFolder()
-        onCanceled: importPage.back()
+        onCanceled: root.back()
         onFileSelected: {
-            importPage.back();
-            importPage.chosen(file);
+            root.back();
+            root.chosen(file);
         }
     }
 }

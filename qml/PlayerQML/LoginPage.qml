@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.Deployment 1.0
 import "private"
 
-// Signing in to the account.
+/// Signing in to the account.
 ComingPage {
     objectName: "LoginPage"
     title: qsTr("Login")

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "SharedVars.js" as SS
 import "private"
+import "private/limits.js" as Limits
+import "SharedVars.js" as SS
 
-// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
-// one sees of it is made only when it is shown: a wall starts without it.
+/// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
+/// one sees of it is made only when it is shown: a wall starts without it.
 StackPage {
-    id: mainPage
+    id: root
 
     property string project
     property bool busy: false
@@ -42,7 +43,7 @@ StackPage {
         if (!active)
             return;
         if (view.status === Loader.Null)
-            view.setSource("private/MainView.qml", {"page": mainPage});
+            view.setSource("private/MainView.qml", {"page": root});
         view.item.showMessage(workspaceProblem());
     }
 
@@ -101,7 +102,7 @@ StackPage {
     Timer {
         id: later
         property var task
-        interval: 10
+        interval: Limits.drawFirst
         onTriggered: task()
     }
 }

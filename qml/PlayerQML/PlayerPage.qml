@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import "SharedVars.js" as SS
 import "private"
+import "SharedVars.js" as SS
 
-// Shows a project's document over the whole page, and follows the account's wishes.
+/// Shows a project's document over the whole page, and follows the account's wishes.
 StackPage {
-    id: playerPage
+    id: root
 
     property string project
     property url documentUrl
@@ -42,29 +42,31 @@ StackPage {
 
     Loader {
         anchors.fill: parent
-        active: playerPage.settled && !thePlayer.isShown
+        active: root.settled && !thePlayer.isShown
 
         sourceComponent: Standby {
-            project: playerPage.project
+            project: root.project
             documentName: SS.qmlFileName
-            documentUrl: playerPage.documentUrl
-            failed: playerPage.failed
-            networkAddress: playerPage.shell ? playerPage.shell.networkAddress : ""
+            documentUrl: root.documentUrl
+            failed: root.failed
+            networkAddress: root.shell ? root.shell.networkAddress : ""
         }
     }
 
     ProjectLoader {
         id: thePlayer
         objectName: "thePlayer"
-        source: playerPage.playerSource()
+        source: root.playerSource()
     }
 
     PlayerNotice {
-        text: playerPage.notice !== "" ? playerPage.notice : (playerPage.failed ? "Error loading... " : "")
+        text: root.notice !== "" ? root.notice : (root.failed ? "Error loading... " : "")
     }
 
+    // Where no cloud is set up there is no connection to lose.
     Rectangle {
         objectName: "connectionDot"
+        visible: SS.cloudIsSetUp()
         x: parent.width - width - 5
         y: 5
         width: 10
@@ -83,18 +85,18 @@ StackPage {
 
     ProjectFollower {
         id: follower
-        project: playerPage.project
+        project: root.project
     }
 
     Connections {
         target: CAPI
 
         function onReloadPlayer() {
-            playerPage.load();
+            root.load();
         }
 
         function onStartUpdating() {
-            playerPage.notice = "Updating";
+            root.notice = "Updating";
         }
 
         function onProjectUpdated(localRevision) {

@@ -5,9 +5,9 @@ import Nuvex.Deployment 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 
-// The projects to choose from: those on this computer, the store's and the account's.
+/// The projects to choose from: those on this computer, the store's and the account's.
 FormPage {
-    id: projectsPage
+    id: root
 
     property int tab: local.count === 0 ? 1 : 0
 
@@ -49,7 +49,7 @@ FormPage {
         visible: false
         faIcon: "fa-upload"
         text: "Import"
-        onClicked: projectsPage.browse()
+        onClicked: root.browse()
     }
 
     BGUI.SwitchTabs {
@@ -58,10 +58,10 @@ FormPage {
         y: 2 * BGUI.Theme.unit
         width: local.width
         size: "large"
-        model: projectsPage.tabs
-        currentIndex: projectsPage.tab
-        focus: projectsPage.tab !== 0
-        onActivated: projectsPage.tab = index
+        model: root.tabs
+        currentIndex: root.tab
+        focus: root.tab !== 0
+        onActivated: root.tab = index
     }
 
     ProjectList {
@@ -71,16 +71,16 @@ FormPage {
         anchors.bottom: message.top
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width - 4 * BGUI.Theme.unit, 90 * BGUI.Theme.unit)
-        visible: projectsPage.tab === 0
+        visible: root.tab === 0
         focus: visible
-        onChosen: projectsPage.choose(name)
-        onRemoveRequested: projectsPage.remove(index, name)
+        onChosen: root.choose(name)
+        onRemoveRequested: root.remove(index, name)
     }
 
     BGUI.EmptyState {
         anchors.centerIn: parent
         width: parent.width - 8 * BGUI.Theme.unit
-        visible: projectsPage.tab === 0 && local.count === 0
+        visible: root.tab === 0 && local.count === 0
         faIcon: "fa-folder-open-o"
         title: qsTr("There is no project on this computer")
         text: qsTr("Press Ctrl+I to import a zip archive, or put a folder with a main.qml into %1.")
@@ -90,7 +90,7 @@ FormPage {
     BGUI.EmptyState {
         anchors.centerIn: parent
         width: parent.width - 8 * BGUI.Theme.unit
-        visible: projectsPage.tab === 1
+        visible: root.tab === 1
         faIcon: "fa-shopping-cart"
         title: Deployment.available ? qsTr("The store is on its way") : qsTr("No cloud is set up")
         text: Deployment.available ? qsTr("Here you will find ready-made projects to start from.")
@@ -100,7 +100,7 @@ FormPage {
     BGUI.EmptyState {
         anchors.centerIn: parent
         width: parent.width - 8 * BGUI.Theme.unit
-        visible: projectsPage.tab === 2
+        visible: root.tab === 2
         faIcon: "fa-cloud"
         title: Deployment.available ? qsTr("Cloud projects are on their way") : qsTr("No cloud is set up")
         text: Deployment.available ? qsTr("Here you will find the projects of your account.")
@@ -115,7 +115,7 @@ FormPage {
 
     Shortcut {
         sequence: "Ctrl+I"
-        enabled: projectsPage.active
-        onActivated: projectsPage.browse()
+        enabled: root.active
+        onActivated: root.browse()
     }
 }

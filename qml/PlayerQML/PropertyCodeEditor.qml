@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import "private"
 
-// One property of the selected item as source.
+/// One property of the selected item as source.
 ComingPage {
     objectName: "PropertyCodeEditor"
     title: qsTr("Property")

@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import "private"
 
-// The properties of the item that the touch editor has selected.
+/// The properties of the item that the touch editor has selected.
 ComingPage {
     objectName: "PropertyEditor"
     title: qsTr("Properties")

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import "private"
 
-// The player's settings. Most are stored by the save button, which as a rule ends in a restart.
+/// The player's settings. Most are stored by the save button, which as a rule ends in a restart.
 FormPage {
-    id: settingsPage
+    id: root
 
     readonly property string playerUid: CAPI.getSSetting("playerUID")
     readonly property string userEmail: CAPI.getSSetting("userEmail")
@@ -60,11 +60,11 @@ FormPage {
 
     SettingsForm {
         id: form
-        userEmail: settingsPage.userEmail
-        playerUid: settingsPage.playerUid
-        onLogoutRequested: settingsPage.logOut()
-        onSharingChosen: settingsPage.setSharing(on)
-        onSaveRequested: settingsPage.save()
+        userEmail: root.userEmail
+        playerUid: root.playerUid
+        onLogoutRequested: root.logOut()
+        onSharingChosen: root.setSharing(on)
+        onSaveRequested: root.save()
     }
 
     FooterMessage {
@@ -77,7 +77,7 @@ FormPage {
         target: CAPI
 
         function onOnExtractFinishedChanged() {
-            settingsPage.showBusyWhileImporting();
+            root.showBusyWhileImporting();
         }
     }
 }

@@ -51,7 +51,7 @@ function cloudIsSetUp() {
 }
 
 function databaseUrl(child, query) {
-    var path = encodeURI(child).replace(/[?#]/g, encodeURIComponent);
+    const path = encodeURI(child).replace(/[?#]/g, encodeURIComponent);
     return deployment.database + "/" + path + ".json?auth=" + deployment.databaseCredential + (query || "");
 }
 
@@ -69,19 +69,19 @@ function parsed(text) {
 
 // Sends one request: {method, url, headers, body, resultWithoutBody}.
 function send(request, callback, timer) {
-    var http = new XMLHttpRequest();
+    const http = new XMLHttpRequest();
     http.onreadystatechange = function() {
         if (http.readyState !== XMLHttpRequest.DONE)
             return;
         if (timer)
             timer.stop();
-        var result = parsed(http.responseText);
+        const result = parsed(http.responseText);
         if (callback)
             callback(http.status === 200 && result !== undefined,
                      result === undefined ? request.resultWithoutBody : result);
     };
     http.open(request.method, request.url);
-    for (var name in request.headers)
+    for (const name in request.headers)
         http.setRequestHeader(name, request.headers[name]);
     if (timer) {
         timer.request = http;
@@ -186,13 +186,13 @@ function setPlayerProject(user, player, project, callback, timerTimeOut) {
 
 /// Counts a project's revision up; the first one is 0. Two editors at the same moment can count once.
 function updateRev(user, project, callback, timerTimeOut) {
-    var path = projectPath(user, project);
+    const path = projectPath(user, project);
     firebaseGet(path, function(success, record) {
         if (!success) {
             callback(false, record);
             return;
         }
-        var revision = record === null ? 0 : (parseInt(record.revision, 10) || 0) + 1;
+        const revision = record === null ? 0 : (parseInt(record.revision, 10) || 0) + 1;
         firebaseSet(path, {"revision": revision}, callback, timerTimeOut);
     }, timerTimeOut);
 }
@@ -202,10 +202,10 @@ function updateRev(user, project, callback, timerTimeOut) {
 // Calls `take` with each value that the place gets, the present one first. Returns the subscriber, which lives
 // until unsubscribe(); null without a cloud.
 function subscribe(child, take) {
-    var subscriber = cloudIsSetUp() ? JCAPI.newFirebaseSubscriber() : null;
+    const subscriber = cloudIsSetUp() ? JCAPI.newFirebaseSubscriber() : null;
     if (!subscriber)
         return null;
-    var stream = EventStream.reader();
+    const stream = EventStream.reader();
     subscriber.dataReceived.connect(function(chunk) { stream.feed(chunk).forEach(take); });
     subscriber.subscribe(databaseUrl(child));
     return subscriber;
@@ -256,7 +256,7 @@ function subscribeToPlayerCommand(user, player, evaluator) {
 
 // A command that restarts the program is cleared first, so that the restarted player does not find it again.
 function obey(command, user, player, evaluator) {
-    var clear = function(done) { firebaseSet(playerPath(user, player), {"command": ""}, done); };
+    const clear = function(done) { firebaseSet(playerPath(user, player), {"command": ""}, done); };
     if (command.indexOf("reStartApp") >= 0) {
         clear(function() { evaluator.evaluate(command); });
     } else {

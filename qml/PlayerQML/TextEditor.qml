@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import "private"
 
-// One file of the project as text.
+/// One file of the project as text.
 ComingPage {
     objectName: "TextEditor"
     title: qsTr("Text Editor")

@@ -5,9 +5,9 @@ import QtQuick.Templates 2.15 as T
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 
-// Saves a project as a zip archive.
+/// Saves a project as a zip archive.
 FormPage {
-    id: zipPage
+    id: root
 
     readonly property var projects: CAPI.getProjectList().sort()
     readonly property string project: projects.length > 0 ? projects[list.currentIndex] : ""
@@ -37,13 +37,13 @@ FormPage {
     BGUI.EmptyState {
         anchors.centerIn: parent
         width: parent.width - 8 * BGUI.Theme.unit
-        visible: zipPage.projects.length === 0
+        visible: root.projects.length === 0
         faIcon: "fa-folder-open-o"
         title: qsTr("There is no project to export")
     }
 
     Sheet {
-        visible: zipPage.projects.length > 0
+        visible: root.projects.length > 0
 
         BGUI.Label {
             text: qsTr("Which project?")
@@ -60,8 +60,8 @@ FormPage {
             activeFocusOnTab: true
             boundsBehavior: Flickable.StopAtBounds
             keyNavigationEnabled: true
-            currentIndex: Math.max(0, zipPage.projects.indexOf(CAPI.getSSetting("lastProject")))
-            model: zipPage.projects
+            currentIndex: Math.max(0, root.projects.indexOf(CAPI.getSSetting("lastProject")))
+            model: root.projects
             T.ScrollBar.vertical: BGUI.ScrollBar {}
 
             delegate: BGUI.ListRow {
@@ -93,7 +93,7 @@ FormPage {
             faIcon: "fa-floppy-o"
             text: qsTr("Export")
             onClicked: {
-                zipPage.busy.start("Please wait...");
+                root.busy.start("Please wait...");
                 later.start();
             }
         }
@@ -103,6 +103,6 @@ FormPage {
     Timer {
         id: later
         interval: 50
-        onTriggered: zipPage.save()
+        onTriggered: root.save()
     }
 }

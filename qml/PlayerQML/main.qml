@@ -4,12 +4,12 @@ import QtQuick 2.15
 import QtQml 2.15
 import QtQuick.Controls 1.4
 import Nuvex.Deployment 1.0
-import "SharedVars.js" as SS
 import "private"
+import "SharedVars.js" as SS
 
-// The program's root: a stack of pages. Decides what is shown first and keeps the heartbeat going.
+/// The program's root: a stack of pages. Decides what is shown first and keeps the heartbeat going.
 StackView {
-    id: theStackView
+    id: root
 
     // What the command line asks to open in place of what the settings say: "play", "edit", "gallery" or "";
     // and the project to do it with, as CAPI.setBaseFolder() takes it.
@@ -94,7 +94,7 @@ StackView {
         SS.deployment = Deployment;
         identifyPlayer();
         const player = CAPI.getSSetting("playerUID");
-        SS.commandsSubscription = SS.subscribeToPlayerCommand(user, player, theStackView);
+        SS.commandsSubscription = SS.subscribeToPlayerCommand(user, player, root);
         heartbeat.start();
         if (startAction !== "") {
             openByCommandLine();

@@ -127,7 +127,7 @@ QString declaration(const QMetaMethod& method)
 
 } // namespace
 
-class CapiTest : public QObject
+class TestCapi : public QObject
 {
     Q_OBJECT
 
@@ -151,7 +151,7 @@ private:
     std::unique_ptr<CAPI> m_capi;
 };
 
-void CapiTest::initTestCase()
+void TestCapi::initTestCase()
 {
     QVERIFY(m_home.isValid());
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.filePath("data")));
@@ -160,20 +160,20 @@ void CapiTest::initTestCase()
     QCoreApplication::setApplicationName("Nuvex");
 }
 
-void CapiTest::init()
+void TestCapi::init()
 {
     m_capi = std::make_unique<CAPI>(nullptr, nullptr);
     m_capi->createProject("Shop");
     m_capi->setBaseFolder("Shop");
 }
 
-void CapiTest::cleanup()
+void TestCapi::cleanup()
 {
     m_capi->removeProject("Shop");
     m_capi.reset();
 }
 
-void CapiTest::metaObjectIsTheInterface()
+void TestCapi::metaObjectIsTheInterface()
 {
     const QMetaObject& meta = CAPI::staticMetaObject;
     QStringList actual;
@@ -192,7 +192,7 @@ void CapiTest::metaObjectIsTheInterface()
     QCOMPARE(properties, QStringList({"extractFinished", "generateZipFinished", "iConnected"}));
 }
 
-void CapiTest::isTheCurrentInstance()
+void TestCapi::isTheCurrentInstance()
 {
     QCOMPARE(CAPI::current(), m_capi.get());
     m_capi.reset();
@@ -200,7 +200,7 @@ void CapiTest::isTheCurrentInstance()
     init();
 }
 
-void CapiTest::workspaceIsMade()
+void TestCapi::workspaceIsMade()
 {
     const QString work = m_capi->getWorkDirectory();
     QVERIFY(work.startsWith(m_home.path()) && work.endsWith("/PlayerQML/Work"));
@@ -208,7 +208,7 @@ void CapiTest::workspaceIsMade()
     QVERIFY(QFileInfo(work + "/../ShareFolder").isDir());
 }
 
-void CapiTest::everyWriteOfIConnectedIsAnnounced()
+void TestCapi::everyWriteOfIConnectedIsAnnounced()
 {
     QSignalSpy spy(m_capi.get(), &CAPI::iConnectedChanged);
     m_capi->setProperty("iConnected", true);
@@ -217,7 +217,7 @@ void CapiTest::everyWriteOfIConnectedIsAnnounced()
     QCOMPARE(spy, QList<QVariantList>({{true}, {true}, {false}}));
 }
 
-void CapiTest::setBaseFolderMovesProjectAndUpdateList()
+void TestCapi::setBaseFolderMovesProjectAndUpdateList()
 {
     QCOMPARE(m_capi->getBaseProjectName(), QString("Shop"));
     QCOMPARE(m_capi->getBaseFolder(), m_capi->getWorkDirectory() + "/Shop");
@@ -227,7 +227,7 @@ void CapiTest::setBaseFolderMovesProjectAndUpdateList()
     QCOMPARE(m_capi->baseFolder(), m_capi->getWorkDirectory() + "/Menu");
 }
 
-void CapiTest::editingSignalsCome()
+void TestCapi::editingSignalsCome()
 {
     QSignalSpy newer(m_capi.get(), &CAPI::newerEditingState);
     QSignalSpy older(m_capi.get(), &CAPI::olderEditingState);
@@ -242,7 +242,7 @@ void CapiTest::editingSignalsCome()
     QCOMPARE(older, QList<QVariantList>({{true}, {false}, {true}, {false}}));
 }
 
-void CapiTest::everyTenthSaveKeepsASafetyCopy()
+void TestCapi::everyTenthSaveKeepsASafetyCopy()
 {
     int saved = 0;
     for (int call = 0; call < 20; ++call) {
@@ -254,7 +254,7 @@ void CapiTest::everyTenthSaveKeepsASafetyCopy()
     QCOMPARE(saved, 2);
 }
 
-void CapiTest::editorFileIsWrittenIntoTheProject()
+void TestCapi::editorFileIsWrittenIntoTheProject()
 {
     m_capi->createEditorFile();
     const QString frame = m_capi->readTextFile(m_capi->editorVersion());
@@ -262,7 +262,7 @@ void CapiTest::editorFileIsWrittenIntoTheProject()
     QCOMPARE(frame, m_capi->readTextFile(":/Nuvex/PlayerQML/Editor.qml"));
 }
 
-void CapiTest::dirmapFollowsDeletions()
+void TestCapi::dirmapFollowsDeletions()
 {
     m_capi->writeToFile("x", "images/a b.png");
     m_capi->writeToFile("x", "main.qml");
@@ -273,10 +273,10 @@ void CapiTest::dirmapFollowsDeletions()
     QVERIFY(!m_capi->fileExist("images/a b.png") && m_capi->fileExist("main.qml"));
 }
 
-void CapiTest::isDeviceKnowsExactNames()
+void TestCapi::isDeviceKnowsExactNames()
 {
     QVERIFY(!m_capi->isDevice());
 }
 
-QTEST_MAIN(CapiTest)
+QTEST_MAIN(TestCapi)
 #include "tst_capi.moc"

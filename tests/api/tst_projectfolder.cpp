@@ -14,7 +14,7 @@
 #include <QUrl>
 #include <QtTest>
 
-class ProjectFolderTest : public QObject
+class TestProjectFolder : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private:
     std::unique_ptr<ProjectFolder> m_project;
 };
 
-void ProjectFolderTest::init()
+void TestProjectFolder::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     QVERIFY(m_home->isValid());
@@ -54,7 +54,7 @@ void ProjectFolderTest::init()
     QDir().mkpath(m_project->absolutePath());
 }
 
-void ProjectFolderTest::pathRule_data()
+void TestProjectFolder::pathRule_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
@@ -68,13 +68,13 @@ void ProjectFolderTest::pathRule_data()
     QTest::newRow("empty") << "" << project;
 }
 
-void ProjectFolderTest::pathRule()
+void TestProjectFolder::pathRule()
 {
     QFETCH(QString, path);
     QTEST(QDir::cleanPath(ProjectFolder("/tmp/p").resolved(path)).replace("FILE:/", "FILE:///"), "expected");
 }
 
-void ProjectFolderTest::copyToDir_data()
+void TestProjectFolder::copyToDir_data()
 {
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("result");
@@ -85,7 +85,7 @@ void ProjectFolderTest::copyToDir_data()
     QTest::newRow("non-Latin") << QString::fromUtf8("Käse 1.png") << QString::fromUtf8("images/Käse 1.png");
 }
 
-void ProjectFolderTest::copyToDir()
+void TestProjectFolder::copyToDir()
 {
     QFETCH(QString, source);
     QFETCH(QString, result);
@@ -101,7 +101,7 @@ void ProjectFolderTest::copyToDir()
     QCOMPARE(m_project->copyToDir("not there.png", "images"), QString());
 }
 
-void ProjectFolderTest::copyReplacesAndMakesFolders()
+void TestProjectFolder::copyReplacesAndMakesFolders()
 {
     write(in("a.txt"), "new");
     write(in("deep/er/b.txt"), "old");
@@ -112,14 +112,14 @@ void ProjectFolderTest::copyReplacesAndMakesFolders()
     QVERIFY(!m_project->copy("missing", "deep/er/b.txt"));
 }
 
-void ProjectFolderTest::copyOntoItselfLeavesTheFile()
+void TestProjectFolder::copyOntoItselfLeavesTheFile()
 {
     write(in("a.txt"), "kept");
     QVERIFY(m_project->copy("a.txt", QUrl::fromLocalFile(in("a.txt")).toString()));
     QCOMPARE(contents(in("a.txt")), QByteArray("kept"));
 }
 
-void ProjectFolderTest::textRoundTrip_data()
+void TestProjectFolder::textRoundTrip_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << QString("");
@@ -128,7 +128,7 @@ void ProjectFolderTest::textRoundTrip_data()
     QTest::newRow("beyond Latin") << QString::fromUtf8("text: \"žluť 漢字 😀\"\n");
 }
 
-void ProjectFolderTest::textRoundTrip()
+void TestProjectFolder::textRoundTrip()
 {
     QFETCH(QString, text);
     QVERIFY(m_project->write(text, "sub/main.qml"));
@@ -136,7 +136,7 @@ void ProjectFolderTest::textRoundTrip()
     QCOMPARE(contents(in("sub/main.qml")), text.toUtf8());
 }
 
-void ProjectFolderTest::writeThatFailsKeepsTheFile()
+void TestProjectFolder::writeThatFailsKeepsTheFile()
 {
     write(in("file"), "kept");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(".*"));
@@ -144,7 +144,7 @@ void ProjectFolderTest::writeThatFailsKeepsTheFile()
     QCOMPARE(contents(in("file")), QByteArray("kept"));
 }
 
-void ProjectFolderTest::appendAddsLines()
+void TestProjectFolder::appendAddsLines()
 {
     QVERIFY(m_project->append("x", "logs/list.txt"));
     QVERIFY(m_project->append(QString::fromUtf8("é"), "logs/list.txt"));
@@ -152,7 +152,7 @@ void ProjectFolderTest::appendAddsLines()
     QVERIFY(!m_project->append("x", "/dev/full"));
 }
 
-void ProjectFolderTest::readOfWhatCannotBeRead()
+void TestProjectFolder::readOfWhatCannotBeRead()
 {
     QCOMPARE(m_project->read("missing"), QString());
     QCOMPARE(m_project->read("."), QString());
@@ -162,7 +162,7 @@ void ProjectFolderTest::readOfWhatCannotBeRead()
     QCOMPARE(m_project->read("huge.txt"), QString());
 }
 
-void ProjectFolderTest::renameLandsInTheProject()
+void TestProjectFolder::renameLandsInTheProject()
 {
     write(in("images/a.png"), "a");
     QVERIFY(m_project->rename("images/a.png", "b.png"));
@@ -171,7 +171,7 @@ void ProjectFolderTest::renameLandsInTheProject()
     QVERIFY(!m_project->remove("b.png"));
 }
 
-void ProjectFolderTest::resolvedUrl()
+void TestProjectFolder::resolvedUrl()
 {
     write(in("images/own.png"), "x");
     QCOMPARE(m_project->resolvedUrl("images/own.png"), QUrl::fromLocalFile(in("images/own.png")).toString());
@@ -181,7 +181,7 @@ void ProjectFolderTest::resolvedUrl()
     QCOMPARE(m_project->resolvedUrl("images/nowhere.png"), QString("images/nowhere.png"));
 }
 
-void ProjectFolderTest::sourcesAreFilesOfThreeKinds()
+void TestProjectFolder::sourcesAreFilesOfThreeKinds()
 {
     for (const char* name : {"main.qml", "notes.txt", "lib.js", "picture.png", "dirmap"})
         write(in(name), "x");
@@ -191,7 +191,7 @@ void ProjectFolderTest::sourcesAreFilesOfThreeKinds()
     QCOMPARE(sources, QStringList({"lib.js", "main.qml", "notes.txt"}));
 }
 
-void ProjectFolderTest::fontsAreRegisteredOnce()
+void TestProjectFolder::fontsAreRegisteredOnce()
 {
     QDir(m_project->absolutePath()).mkdir("fonts");
     QVERIFY(QFile::copy(":/Nuvex/Components/fonts/lobster.ttf", in("fonts/one.ttf")));
@@ -207,7 +207,7 @@ void ProjectFolderTest::fontsAreRegisteredOnce()
     QCOMPARE(m_project->fonts(false), loaded);
 }
 
-void ProjectFolderTest::projectsAreListedMadeRenamedRemoved()
+void TestProjectFolder::projectsAreListedMadeRenamedRemoved()
 {
     Workspace workspace(m_home->filePath("root"));
     QVERIFY(workspace.create("Shop"));
@@ -226,14 +226,14 @@ void ProjectFolderTest::projectsAreListedMadeRenamedRemoved()
     QCOMPARE(workspace.listProjects(), workspace.cachedProjects());
 }
 
-void ProjectFolderTest::namesThatReachBeyondOneProjectAreRefused_data()
+void TestProjectFolder::namesThatReachBeyondOneProjectAreRefused_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name : {"", ".", "..", "../other", "a/b", "/etc"})
         QTest::newRow(name) << name;
 }
 
-void ProjectFolderTest::namesThatReachBeyondOneProjectAreRefused()
+void TestProjectFolder::namesThatReachBeyondOneProjectAreRefused()
 {
     QFETCH(QString, name);
     Workspace workspace(m_home->filePath("root"));
@@ -246,5 +246,5 @@ void ProjectFolderTest::namesThatReachBeyondOneProjectAreRefused()
     QCOMPARE(workspace.listProjects(), QStringList("Shop"));
 }
 
-QTEST_MAIN(ProjectFolderTest)
+QTEST_MAIN(TestProjectFolder)
 #include "tst_projectfolder.moc"

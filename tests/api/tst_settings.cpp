@@ -12,7 +12,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-class SettingsTest : public QObject
+class TestSettings : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private:
     QTemporaryDir m_home;
 };
 
-void SettingsTest::initTestCase()
+void TestSettings::initTestCase()
 {
     QVERIFY(m_home.isValid());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home.path());
@@ -40,14 +40,14 @@ void SettingsTest::initTestCase()
     QCoreApplication::setApplicationName("Nuvex");
 }
 
-void SettingsTest::init()
+void TestSettings::init()
 {
     QSettings store;
     store.clear();
     store.sync();
 }
 
-void SettingsTest::firstStartWritesDefaults()
+void TestSettings::firstStartWritesDefaults()
 {
     {
         Settings settings;
@@ -63,7 +63,7 @@ void SettingsTest::firstStartWritesDefaults()
     QCOMPARE(QSettings().allKeys().size(), 7);
 }
 
-void SettingsTest::storedValuesSurviveButTheVersionIsRenewed()
+void TestSettings::storedValuesSurviveButTheVersionIsRenewed()
 {
     {
         Settings settings;
@@ -77,7 +77,7 @@ void SettingsTest::storedValuesSurviveButTheVersionIsRenewed()
     QCOMPARE(again.text("lastProject"), QString::fromUtf8("Café \"Größe\" 1.5"));
 }
 
-void SettingsTest::conversions_data()
+void TestSettings::conversions_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<bool>("boolean");
@@ -91,7 +91,7 @@ void SettingsTest::conversions_data()
     QTest::newRow("word") << QVariant("cloud") << true << QString("cloud") << 0;
 }
 
-void SettingsTest::conversions()
+void TestSettings::conversions()
 {
     QFETCH(QVariant, stored);
     {
@@ -106,7 +106,7 @@ void SettingsTest::conversions()
     QTEST(again.integer("key"), "integer");
 }
 
-void SettingsTest::brokenStoreIsSetAside_data()
+void TestSettings::brokenStoreIsSetAside_data()
 {
     QTest::addColumn<QByteArray>("damage");
     QTest::newRow("half a file") << QByteArray(
@@ -116,7 +116,7 @@ void SettingsTest::brokenStoreIsSetAside_data()
     QTest::newRow("zeros and marks") << QByteArray("\0\xff\xfe[[[\n=%%=\n", 12);
 }
 
-void SettingsTest::brokenStoreIsSetAside()
+void TestSettings::brokenStoreIsSetAside()
 {
     QFile::remove(storeFile() + ".broken");
     QFile file(storeFile());
@@ -137,7 +137,7 @@ void SettingsTest::brokenStoreIsSetAside()
     QCOMPARE(aside.readAll(), damage);
 }
 
-void SettingsTest::failedWriteKeepsThePreviousFile()
+void TestSettings::failedWriteKeepsThePreviousFile()
 {
     Settings settings;
     settings.set("doOnStart", "dashboard");
@@ -157,5 +157,5 @@ void SettingsTest::failedWriteKeepsThePreviousFile()
              QString("dashboard"));
 }
 
-QTEST_GUILESS_MAIN(SettingsTest)
+QTEST_GUILESS_MAIN(TestSettings)
 #include "tst_settings.moc"

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-class CommandLineTest : public QObject
+class TestCommandLine : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ private slots:
     void startPage();
 };
 
-void CommandLineTest::answers_data()
+void TestCommandLine::answers_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
@@ -31,7 +31,7 @@ void CommandLineTest::answers_data()
     QTest::newRow("check of nothing") << QStringList({"--check", "/nowhere"}) << 1 << "the file is missing";
 }
 
-void CommandLineTest::answers()
+void TestCommandLine::answers()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, text);
@@ -46,7 +46,7 @@ void CommandLineTest::answers()
     QTEST(program.exitCode(), "code");
 }
 
-void CommandLineTest::startPage_data()
+void TestCommandLine::startPage_data()
 {
     QTest::addColumn<int>("start");
     QTest::addColumn<QString>("project");
@@ -69,7 +69,7 @@ void CommandLineTest::startPage_data()
                              << "";
 }
 
-void CommandLineTest::startPage()
+void TestCommandLine::startPage()
 {
     QTemporaryDir home;
     QDir(home.path()).mkpath("Work/Shop");
@@ -91,5 +91,5 @@ void CommandLineTest::startPage()
     QCOMPARE(absolute["startProject"].toString(), QString("../outside/Lobby"));
 }
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+QTEST_GUILESS_MAIN(TestCommandLine)
 #include "tst_commandline.moc"

@@ -11,7 +11,7 @@
 #include <thread>
 #include <vector>
 
-class LogFileTest : public QObject
+class TestLogFile : public QObject
 {
     Q_OBJECT
 
@@ -27,13 +27,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_home;
 };
 
-QByteArray LogFileTest::content(const QString& path) const
+QByteArray TestLogFile::content(const QString& path) const
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void LogFileTest::messagesOfAllThreadsComeWhole()
+void TestLogFile::messagesOfAllThreadsComeWhole()
 {
     {
         LogFile log(path());
@@ -56,7 +56,7 @@ void LogFileTest::messagesOfAllThreadsComeWhole()
         QVERIFY2(lines.at(i).endsWith("with a tail"), lines.at(i).constData());
 }
 
-void LogFileTest::startsANewFileAtTheLimit()
+void TestLogFile::startsANewFileAtTheLimit()
 {
     LogFile log(path());
     const QString line(64 * 1024, 'x');
@@ -67,12 +67,12 @@ void LogFileTest::startsANewFileAtTheLimit()
     QCOMPARE(QDir(m_home->path()).entryList(QDir::Files).size(), 2);
 }
 
-void LogFileTest::isQuietWithoutAFile()
+void TestLogFile::isQuietWithoutAFile()
 {
     LogFile log(m_home->filePath("no/such/folder/nuvex.log"));
     log.write("nobody reads this");
     QVERIFY(QDir(m_home->path()).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(LogFileTest)
+QTEST_GUILESS_MAIN(TestLogFile)
 #include "tst_logfile.moc"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
-#include "app/nativetypes.h"
 #include "app/projectcheck.h"
 #include "app/projectreferences.h"
+#include "app/qmlcontext.h"
 #include "cloud/deployment.h"
 
 #include <QDir>
@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-class ProjectCheckTest : public QObject
+class TestProjectCheck : public QObject
 {
     Q_OBJECT
 
@@ -25,13 +25,12 @@ private:
     QQmlEngine m_engine;
 };
 
-void ProjectCheckTest::initTestCase()
+void TestProjectCheck::initTestCase()
 {
-    registerNativeTypes({});
-    addImportPaths(m_engine);
+    prepareEngine(m_engine, {});
 }
 
-void ProjectCheckTest::referencesOfADocument()
+void TestProjectCheck::referencesOfADocument()
 {
     const QString document = R"(import QtQuick 2.15
 Item {
@@ -48,7 +47,7 @@ Item {
     QVERIFY(projectReferences("Item {").isEmpty());
 }
 
-void ProjectCheckTest::problems_data()
+void TestProjectCheck::problems_data()
 {
     QTest::addColumn<QString>("main");
     QTest::addColumn<QStringList>("expected");
@@ -66,7 +65,7 @@ void ProjectCheckTest::problems_data()
                           << QStringList("main.qml:3: no font of the family \"Nobody Sans\"");
 }
 
-void ProjectCheckTest::problems()
+void TestProjectCheck::problems()
 {
     QFETCH(QString, main);
     QTemporaryDir project;
@@ -83,5 +82,5 @@ void ProjectCheckTest::problems()
     QCOMPARE(found.join('\n'), expected.join('\n'));
 }
 
-QTEST_MAIN(ProjectCheckTest)
+QTEST_MAIN(TestProjectCheck)
 #include "tst_projectcheck.moc"

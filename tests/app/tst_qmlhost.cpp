@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
+#include "app/qmlcontext.h"
 #include "app/qmlhost.h"
 
 #include <QCoreApplication>
@@ -38,7 +39,7 @@ void endPassLater()
 } // namespace
 Q_COREAPP_STARTUP_FUNCTION(endPassLater)
 
-class QmlHostTest : public QObject
+class TestQmlHost : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +49,7 @@ private slots:
     void tenRestartsLeaveNothingBehind();
 };
 
-void QmlHostTest::densityFactor_data()
+void TestQmlHost::densityFactor_data()
 {
     QTest::addColumn<double>("dotsPerInch");
     QTest::addColumn<double>("expected");
@@ -58,13 +59,13 @@ void QmlHostTest::densityFactor_data()
     QTest::newRow("half rounds up") << 187.5 << 188 / 125.0;
 }
 
-void QmlHostTest::densityFactor()
+void TestQmlHost::densityFactor()
 {
     QFETCH(double, dotsPerInch);
     QTEST(::densityFactor(dotsPerInch), "expected");
 }
 
-void QmlHostTest::tenRestartsLeaveNothingBehind()
+void TestQmlHost::tenRestartsLeaveNothingBehind()
 {
     QTemporaryDir profile;
     Options options;
@@ -84,5 +85,5 @@ void QmlHostTest::tenRestartsLeaveNothingBehind()
 }
 
 // No application object of its own: the host builds them.
-QTEST_APPLESS_MAIN(QmlHostTest)
+QTEST_APPLESS_MAIN(TestQmlHost)
 #include "tst_qmlhost.moc"

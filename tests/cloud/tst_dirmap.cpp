@@ -5,10 +5,12 @@
 #include "cloud/limits.h"
 #include "tests/support/faults.h"
 #include "tests/support/files.h"
+#include "tests/support/hostilepaths.h"
 #include "tests/support/logcapture.h"
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -28,6 +30,7 @@ private slots:
     void files();
     void removesListedFiles();
     void neverDeletesOutside();
+    void changes();
     void failedWriteKeepsTheMap();
 
 private:
@@ -165,15 +168,8 @@ void TestDirmap::neverDeletesOutside()
     write(project + "/main.qml", "x");
     QVERIFY(QFile::link(path("outside"), project + "/link"));
     QVERIFY(QFile::link(path("project-x"), project + "/link-x"));
-    const QStringList listed{"../outside/file",
-                             "sub/../../outside/file",
-                             path("outside/file"),
-                             "link/file",
-                             "link-x/file",
-                             "./../outside/file",
-                             project + "/main.qml",
-                             "..",
-                             "."};
+    QStringList listed = hostilePaths().filter(QRegularExpression("^[^\n]{1,1000}$"));
+    listed += {path("outside/file"), "link/file", "link-x/file", project + "/main.qml"};
     Dirmap map;
     for (const QString& name : listed)
         map.append(name, 1);
@@ -192,6 +188,31 @@ void TestDirmap::neverDeletesOutside()
     QVERIFY(removeListedFiles(project, QStringLiteral("own")));
     QVERIFY(!QFileInfo(project + "/own").isSymLink());
     QVERIFY(QFile::exists(path("outside/file")));
+}
+
+void TestDirmap::changes()
+{
+    const auto map = [](const char* text) { return *parseDirmap(QByteArray(text).replace(',', '\n')); };
+    const struct
+    {
+        const char* from;
+        const char* to;
+        const char* changed;
+        const char* gone;
+    } rows[] = {
+        {"", "", "", ""},
+        {"", "a 1,b c 2", "a 1,b c 2", ""},
+        {"a 1,b 2", "b 2,a 1", "", ""},
+        {"a 1,b 2", "b 1,c 0", "b 1,c 0", "a"},
+        {"a 1,a 2", "a 1", "", ""}, // the first line of a path counts
+        {"a 1", "a 1,a 2", "a 2", ""},
+        {"a 1", "A 1", "A 1", "a"},
+    };
+    for (const auto& row : rows) {
+        const DirmapChanges changes = changesBetween(map(row.from), map(row.to));
+        QVERIFY2(changes.changed == map(row.changed), row.to);
+        QCOMPARE(changes.gone.join(','), QString(row.gone));
+    }
 }
 
 void TestDirmap::failedWriteKeepsTheMap()

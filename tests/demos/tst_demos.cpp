@@ -13,7 +13,7 @@
 #include <QtTest>
 
 /// The projects that ship with the program: their files, and how they fare in the editor.
-class tst_Demos : public QObject
+class TestDemos : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ void copyProject(const QDir& project, const QDir& copy, const QByteArray& docume
 
 } // namespace
 
-void tst_Demos::projects_data()
+void TestDemos::projects_data()
 {
     QTest::addColumn<QString>("folder");
     for (const QString& name : demos().entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
@@ -74,7 +74,7 @@ void tst_Demos::projects_data()
     }
 }
 
-void tst_Demos::projects()
+void TestDemos::projects()
 {
     QFETCH(QString, folder);
     const QDir project(folder);
@@ -86,7 +86,7 @@ void tst_Demos::projects()
 
     // The root comes first, with the size of a screen before any child.
     const QString document = QString::fromUtf8(contents(project.filePath("main.qml")));
-    const QRegularExpression root("^Rectangle \\{\\s+id: page\\s+width: (\\d+)\\s+height: (\\d+)$",
+    const QRegularExpression root("^Rectangle \\{\\s+id: root\\s+width: (\\d+)\\s+height: (\\d+)$",
                                   QRegularExpression::MultilineOption);
     const QRegularExpressionMatch match = root.match(document);
     QVERIFY(match.hasMatch());
@@ -95,7 +95,7 @@ void tst_Demos::projects()
 }
 
 /// The text that the editor shows instead of the document names every object, and plays without a warning.
-void tst_Demos::editorText()
+void TestDemos::editorText()
 {
     QFETCH(QString, folder);
     EditingSession session([](const QString&, const QString&) { return true; });
@@ -116,5 +116,5 @@ void tst_Demos::editorText()
     QVERIFY2(log.contains("page PlayerPage") && !log.contains(".qml:"), qPrintable(log));
 }
 
-QTEST_GUILESS_MAIN(tst_Demos)
+QTEST_GUILESS_MAIN(TestDemos)
 #include "tst_demos.moc"

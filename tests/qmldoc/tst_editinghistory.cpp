@@ -56,7 +56,7 @@ struct Ring
 
 } // namespace
 
-class tst_EditingHistory : public QObject
+class TestEditingHistory : public QObject
 {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ private slots:
     void nothingRecorded();
 };
 
-void tst_EditingHistory::anySequenceFollowsTheRing()
+void TestEditingHistory::anySequenceFollowsTheRing()
 {
     std::mt19937 random(20);
     for (int run = 0; run < 300; ++run) {
@@ -97,7 +97,7 @@ void tst_EditingHistory::anySequenceFollowsTheRing()
     }
 }
 
-void tst_EditingHistory::pushAfterUndoLeavesAnEmptySlot()
+void TestEditingHistory::pushAfterUndoLeavesAnEmptySlot()
 {
     EditingHistory history(20);
     for (const char* state : {"A", "B", "C"})
@@ -116,7 +116,7 @@ void tst_EditingHistory::pushAfterUndoLeavesAnEmptySlot()
         QCOMPARE(history.redo(), QString(state));
 }
 
-void tst_EditingHistory::oldestStateGoesWhenFull()
+void TestEditingHistory::oldestStateGoesWhenFull()
 {
     EditingHistory history(20);
     for (int i = 0; i < 21; ++i)
@@ -128,7 +128,7 @@ void tst_EditingHistory::oldestStateGoesWhenFull()
     QCOMPARE(history.undo(), QString("1"));
 }
 
-void tst_EditingHistory::nothingRecorded()
+void TestEditingHistory::nothingRecorded()
 {
     EditingHistory history(0);
     QVERIFY(history.undo().isNull());
@@ -141,5 +141,5 @@ void tst_EditingHistory::nothingRecorded()
     QCOMPARE(history.undo(), QString("newer"));
 }
 
-QTEST_APPLESS_MAIN(tst_EditingHistory)
+QTEST_APPLESS_MAIN(TestEditingHistory)
 #include "tst_editinghistory.moc"

@@ -23,7 +23,7 @@ QString valueOf(const QVariantList& map, int i, const QString& property)
 
 } // namespace
 
-class tst_EditingSession : public QObject
+class TestEditingSession : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private slots:
 };
 
 // The counter is the process's own, so this goes first.
-void tst_EditingSession::everyTenthSaveIsWritten()
+void TestEditingSession::everyTenthSaveIsWritten()
 {
     QStringList written;
     const auto writer = [&](const QString& text, const QString& fileName) {
@@ -60,7 +60,7 @@ void tst_EditingSession::everyTenthSaveIsWritten()
     QCOMPARE(written, QStringList({"main.savestatus=10", "main.savestatus=20", "main.savestatus=30"}));
 }
 
-void tst_EditingSession::reads_data()
+void TestEditingSession::reads_data()
 {
     QTest::addColumn<int>("beg");
     QTest::addColumn<int>("end");
@@ -75,7 +75,7 @@ void tst_EditingSession::reads_data()
     QTest::newRow("widest backwards") << INT_MAX << INT_MIN << "";
 }
 
-void tst_EditingSession::reads()
+void TestEditingSession::reads()
 {
     QFETCH(int, beg);
     QFETCH(int, end);
@@ -84,7 +84,7 @@ void tst_EditingSession::reads()
     QTEST(session.source(beg, end), "expected");
 }
 
-void tst_EditingSession::replaces_data()
+void TestEditingSession::replaces_data()
 {
     QTest::addColumn<int>("beg");
     QTest::addColumn<int>("end");
@@ -101,7 +101,7 @@ void tst_EditingSession::replaces_data()
     QTest::newRow("widest backwards") << 0 << INT_MIN << "--abcdef";
 }
 
-void tst_EditingSession::replaces()
+void TestEditingSession::replaces()
 {
     QFETCH(int, beg);
     QFETCH(int, end);
@@ -111,7 +111,7 @@ void tst_EditingSession::replaces()
     QTEST(session.source(), "expected");
 }
 
-void tst_EditingSession::searches_data()
+void TestEditingSession::searches_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("from");
@@ -132,7 +132,7 @@ void tst_EditingSession::searches_data()
     QTest::newRow("longer than the text") << "a-b-B-a-" << 0 << -1 << -1;
 }
 
-void tst_EditingSession::searches()
+void TestEditingSession::searches()
 {
     QFETCH(QString, text);
     QFETCH(int, from);
@@ -146,7 +146,7 @@ void tst_EditingSession::searches()
     }
 }
 
-void tst_EditingSession::undoAndRedoSetTheSource()
+void TestEditingSession::undoAndRedoSetTheSource()
 {
     EditingSession session(writeNothing);
     session.setSource("unsaved");
@@ -169,7 +169,7 @@ void tst_EditingSession::undoAndRedoSetTheSource()
     QCOMPARE(session.backward(), QString("other"));
 }
 
-void tst_EditingSession::generatesFromTextOrSource()
+void TestEditingSession::generatesFromTextOrSource()
 {
     EditingSession session(writeNothing);
     session.begin(rectangle);
@@ -183,7 +183,7 @@ void tst_EditingSession::generatesFromTextOrSource()
     QCOMPARE(valueOf(session.getMap(), 0, "width"), QString("100"));
 }
 
-void tst_EditingSession::failedGenerationKeepsTheMap()
+void TestEditingSession::failedGenerationKeepsTheMap()
 {
     EditingSession session(writeNothing);
     QCOMPARE(session.generateEditor(), QString());
@@ -203,7 +203,7 @@ void tst_EditingSession::failedGenerationKeepsTheMap()
     QCOMPARE(valueOf(session.getMap(), 0, "width"), QString());
 }
 
-void tst_EditingSession::mapOfATextLeavesTheSessionAlone()
+void TestEditingSession::mapOfATextLeavesTheSessionAlone()
 {
     EditingSession session(writeNothing);
     session.begin(rectangle);
@@ -216,5 +216,5 @@ void tst_EditingSession::mapOfATextLeavesTheSessionAlone()
     QVERIFY(session.isOldest() && session.isNewest());
 }
 
-QTEST_APPLESS_MAIN(tst_EditingSession)
+QTEST_APPLESS_MAIN(TestEditingSession)
 #include "tst_editingsession.moc"

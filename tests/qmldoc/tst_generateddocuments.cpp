@@ -12,7 +12,7 @@
 
 Q_DECLARE_METATYPE(Flavour)
 
-class tst_GeneratedDocuments : public QObject
+class TestGeneratedDocuments : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private:
     QQmlEngine m_engine;
 };
 
-void tst_GeneratedDocuments::mapAndTextAreExact_data()
+void TestGeneratedDocuments::mapAndTextAreExact_data()
 {
     QTest::addColumn<Flavour>("flavour");
     QTest::addColumn<unsigned>("count");
@@ -36,7 +36,7 @@ void tst_GeneratedDocuments::mapAndTextAreExact_data()
     QTest::newRow("real types") << Flavour::Instantiates << 1000U;
 }
 
-void tst_GeneratedDocuments::mapAndTextAreExact()
+void TestGeneratedDocuments::mapAndTextAreExact()
 {
     QFETCH(Flavour, flavour);
     QFETCH(unsigned, count);
@@ -57,7 +57,7 @@ void tst_GeneratedDocuments::mapAndTextAreExact()
     }
 }
 
-void tst_GeneratedDocuments::editorTextShowsWheneverTheSourceDoes()
+void TestGeneratedDocuments::editorTextShowsWheneverTheSourceDoes()
 {
     for (unsigned seed = 0; seed < 500; ++seed) {
         const GeneratedDocument generated = generateDocument(seed, Flavour::Instantiates);
@@ -67,7 +67,7 @@ void tst_GeneratedDocuments::editorTextShowsWheneverTheSourceDoes()
     }
 }
 
-QString tst_GeneratedDocuments::errors(const QString& text)
+QString TestGeneratedDocuments::errors(const QString& text)
 {
     QQmlComponent component(&m_engine);
     component.setData(text.toUtf8(), QUrl());
@@ -76,5 +76,5 @@ QString tst_GeneratedDocuments::errors(const QString& text)
     return object ? QString() : component.errorString();
 }
 
-QTEST_GUILESS_MAIN(tst_GeneratedDocuments)
+QTEST_GUILESS_MAIN(TestGeneratedDocuments)
 #include "tst_generateddocuments.moc"

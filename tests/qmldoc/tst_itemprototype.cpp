@@ -5,7 +5,7 @@
 
 #include <QTest>
 
-class tst_ItemPrototype : public QObject
+class TestItemPrototype : public QObject
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ private slots:
     void prototype();
 };
 
-void tst_ItemPrototype::prototype_data()
+void TestItemPrototype::prototype_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
@@ -46,12 +46,12 @@ void tst_ItemPrototype::prototype_data()
                                       << "";
 }
 
-void tst_ItemPrototype::prototype()
+void TestItemPrototype::prototype()
 {
     QFETCH(QString, text);
     QFETCH(QString, expected);
     QCOMPARE(itemPrototype(text), expected);
 }
 
-QTEST_APPLESS_MAIN(tst_ItemPrototype)
+QTEST_APPLESS_MAIN(TestItemPrototype)
 #include "tst_itemprototype.moc"

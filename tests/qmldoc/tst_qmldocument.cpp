@@ -44,7 +44,7 @@ QVariantMap propertyRecord(const QVariantList& map, int i, const QString& name)
 
 } // namespace
 
-class tst_QmlDocument : public QObject
+class TestQmlDocument : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private slots:
     void deepAndLongConstructs();
 };
 
-void tst_QmlDocument::goldenFiles_data()
+void TestQmlDocument::goldenFiles_data()
 {
     QTest::addColumn<QString>("name");
     for (const QString& input : goldenFolder.entryList({"*.in.qml"}))
@@ -70,7 +70,7 @@ void tst_QmlDocument::goldenFiles_data()
     QVERIFY(goldenFolder.entryList({"*.in.qml"}).size() >= 20);
 }
 
-void tst_QmlDocument::goldenFiles()
+void TestQmlDocument::goldenFiles()
 {
     QFETCH(QString, name);
     const QString source = withByteOrderMark(golden(name + ".in.qml"));
@@ -87,7 +87,7 @@ void tst_QmlDocument::goldenFiles()
                  QJsonDocument(expected.at(i).toObject()).toJson());
 }
 
-void tst_QmlDocument::numbersFromTheGivenElement()
+void TestQmlDocument::numbersFromTheGivenElement()
 {
     const QString source = "Item { Rectangle { } Text { } }";
     QmlDocument document;
@@ -102,7 +102,7 @@ void tst_QmlDocument::numbersFromTheGivenElement()
     }
 }
 
-void tst_QmlDocument::mapEmptiesTheGeneratedText()
+void TestQmlDocument::mapEmptiesTheGeneratedText()
 {
     const QString source = "Item { }";
     QmlDocument document;
@@ -113,7 +113,7 @@ void tst_QmlDocument::mapEmptiesTheGeneratedText()
     QVERIFY(document.generatedText().isEmpty());
 }
 
-void tst_QmlDocument::failedParseKeepsTheObjects_data()
+void TestQmlDocument::failedParseKeepsTheObjects_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("logged");
@@ -135,7 +135,7 @@ void tst_QmlDocument::failedParseKeepsTheObjects_data()
     QTest::newRow("too long") << "Item{}" + QString(16 * 1024 * 1024, ' ') << "too long";
 }
 
-void tst_QmlDocument::failedParseKeepsTheObjects()
+void TestQmlDocument::failedParseKeepsTheObjects()
 {
     QFETCH(QString, text);
     QFETCH(QString, logged);
@@ -158,7 +158,7 @@ void tst_QmlDocument::failedParseKeepsTheObjects()
     QCOMPARE(document.itemMap(), before);
 }
 
-void tst_QmlDocument::valuesAreCutFromTheTextAsItIs()
+void TestQmlDocument::valuesAreCutFromTheTextAsItIs()
 {
     QString source = "Item { width: 100 }";
     QmlDocument document;
@@ -169,7 +169,7 @@ void tst_QmlDocument::valuesAreCutFromTheTextAsItIs()
     QCOMPARE(propertyRecord(document.itemMap(), 0, "de")["value"].toString(), QString());
 }
 
-void tst_QmlDocument::fiveThousandLines()
+void TestQmlDocument::fiveThousandLines()
 {
     QString source = "import QtQuick 2.15\r\nItem {\r\n";
     QVector<int> begins;
@@ -192,7 +192,7 @@ void tst_QmlDocument::fiveThousandLines()
     QCOMPARE(record(map, begins.size())["plast"].toInt(), source.size());
 }
 
-void tst_QmlDocument::objectsNestTo1364()
+void TestQmlDocument::objectsNestTo1364()
 {
     QmlDocument document;
     const QString most = nestedObjects(1364);
@@ -207,7 +207,7 @@ void tst_QmlDocument::objectsNestTo1364()
     QVERIFY(!document.parse(tooMany, 0));
 }
 
-void tst_QmlDocument::deepAndLongConstructs_data()
+void TestQmlDocument::deepAndLongConstructs_data()
 {
     constexpr int many = 100000;
     const auto times = [](const char* text) { return QString(text).repeated(many); };
@@ -240,7 +240,7 @@ void tst_QmlDocument::deepAndLongConstructs_data()
     QTest::newRow("unclosed brackets") << "Item { x: " + times("(") << -1 << "";
 }
 
-void tst_QmlDocument::deepAndLongConstructs()
+void TestQmlDocument::deepAndLongConstructs()
 {
     QFETCH(QString, text);
     QFETCH(int, objects);
@@ -258,5 +258,5 @@ void tst_QmlDocument::deepAndLongConstructs()
     QVERIFY(propertyRecord(map, objects - 1, "x")["value"].toString() == value);
 }
 
-QTEST_APPLESS_MAIN(tst_QmlDocument)
+QTEST_APPLESS_MAIN(TestQmlDocument)
 #include "tst_qmldocument.moc"

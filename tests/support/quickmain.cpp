@@ -22,8 +22,7 @@ public:
 public slots:
     void applicationAvailable()
     {
-        QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
-        QCoreApplication::setApplicationName(QStringLiteral("Nuvex"));
+        setApplicationNames();
         m_fixture = std::make_unique<ComponentFixture>();
         if (m_makeServer)
             m_server.reset(m_makeServer());

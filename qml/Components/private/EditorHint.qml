@@ -3,7 +3,8 @@
 import QtQuick 2.15
 import "presence.js" as Presence
 
-/// Makes an empty container visible in the editor, on any ground: a thin frame and a name on a plate. Shown nowhere else.
+/// Makes an empty container visible in the editor, on any ground: a thin frame and a name on a plate. Shown nowhere
+/// else.
 Item {
     id: root
 

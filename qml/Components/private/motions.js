@@ -8,8 +8,8 @@
 /// angle (degrees in the plane), turn (degrees around the upright axis), scale, and whether the item hangs from its
 /// upper edge. An unknown motion is none.
 function pose(motion, phase, strength, width, height) {
-    var result = { x: 0, y: 0, angle: 0, turn: 0, scale: 1, hangs: false };
-    var move = moves[motion];
+    const result = { x: 0, y: 0, angle: 0, turn: 0, scale: 1, hangs: false };
+    const move = moves[motion];
     if (move)
         move(result, phase, isFinite(strength) ? strength : 0, width, height);
     return result;
@@ -19,7 +19,7 @@ function wave(phase) {
     return Math.sin(2 * Math.PI * phase);
 }
 
-var moves = {
+const moves = {
     float: function(pose, phase, strength, width, height) {
         pose.y = -wave(phase) * strength * height * 0.06;
     },
@@ -41,7 +41,7 @@ var moves = {
     },
     // A short shake, then a rest.
     shake: function(pose, phase, strength, width) {
-        var fading = Math.max(0, 1 - phase * 4);
+        const fading = Math.max(0, 1 - phase * 4);
         pose.x = wave(phase * 16) * fading * strength * width * 0.03;
     }
 };

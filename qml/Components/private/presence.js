@@ -9,13 +9,13 @@
 // - waiting: get everything ready, show the first picture, but hold still;
 // - shown: run.
 
-var absent = 0;
-var waiting = 1;
-var shown = 2;
+const absent = 0;
+const waiting = 1;
+const shown = 2;
 
 /// The nearest slide around `item`; null when there is none. In a binding it follows every change of parent.
 function slideAround(item) {
-    for (var ancestor = item.parent; ancestor; ancestor = ancestor.parent) {
+    for (let ancestor = item.parent; ancestor; ancestor = ancestor.parent) {
         if (ancestor.isSlide === true)
             return ancestor;
     }
@@ -24,7 +24,7 @@ function slideAround(item) {
 
 /// Presence of `item`, which is its slide's.
 function presenceOf(item) {
-    var slide = slideAround(item);
+    const slide = slideAround(item);
     return slide ? slide.presence : shown;
 }
 
@@ -32,7 +32,7 @@ function presenceOf(item) {
 function isSettled(item) {
     if (item.settled === false || (item.settled === undefined && isLoadingImage(item)))
         return false;
-    for (var i = 0; i < item.children.length; ++i) {
+    for (let i = 0; i < item.children.length; ++i) {
         if (!isSettled(item.children[i]))
             return false;
     }

@@ -9,29 +9,29 @@
 /// siblings the one drawn on top last.
 function under(x, y, parent, root) {
     return _drawingOrder(parent.children).filter(child => child.visible).reduce((found, child) => {
-        const hit = _isNumbered(child) && child.contains(root.mapToItem(child, x, y))
-        return found.concat(hit ? [child] : [], under(x, y, child, root))
-    }, [])
+        const hit = _isNumbered(child) && child.contains(root.mapToItem(child, x, y));
+        return found.concat(hit ? [child] : [], under(x, y, child, root));
+    }, []);
 }
 
 /// The item with the number `element`: `parent` or an item below it; null when there is none.
 function numbered(parent, element) {
     if (parent.element === element)
-        return parent
+        return parent;
     for (let i = 0; i < parent.children.length; ++i) {
-        const found = numbered(parent.children[i], element)
+        const found = numbered(parent.children[i], element);
         if (found)
-            return found
+            return found;
     }
-    return null
+    return null;
 }
 
 function _isNumbered(item) {
-    return item.element !== undefined && item.element !== -1
+    return item.element !== undefined && item.element !== -1;
 }
 
 function _drawingOrder(children) {
     return Array.prototype.map.call(children, (item, index) => ({ item, index }))
         .sort((one, other) => one.item.z - other.item.z || one.index - other.index)
-        .map(entry => entry.item)
+        .map(entry => entry.item);
 }

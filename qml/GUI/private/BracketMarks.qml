@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import ".."
 
-// Frames the bracket beside the cursor of an edit and the one that belongs to it.
+/// Frames the bracket beside the cursor of an edit and the one that belongs to it.
 Repeater {
-    id: marks
+    id: root
 
     property Item edit
     property QtObject highlighter
@@ -23,8 +22,8 @@ Repeater {
     model: edit && edit.activeFocus ? pairAt(edit.cursorPosition, edit.text) : []
 
     Rectangle {
-        readonly property rect place: marks.edit.positionToRectangle(modelData)
-        readonly property rect end: marks.edit.positionToRectangle(modelData + 1)
+        readonly property rect place: root.edit.positionToRectangle(modelData)
+        readonly property rect end: root.edit.positionToRectangle(modelData + 1)
 
         x: place.x - dp
         y: place.y

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Saturation to the right, brightness upwards, of one hue. Arrow keys step by a hundredth, with Shift by a tenth.
+/// Saturation to the right, brightness upwards, of one hue. Arrow keys step by a hundredth, with Shift by a tenth.
 Item {
-    id: plane
+    id: root
 
     property real hue: 0
     property real saturation: 0
@@ -38,7 +38,7 @@ Item {
         gradient: Gradient {
             orientation: Gradient.Horizontal
             GradientStop { position: 0; color: "white" }
-            GradientStop { position: 1; color: Qt.hsva(plane.hue, 1, 1, 1) }
+            GradientStop { position: 1; color: Qt.hsva(root.hue, 1, 1, 1) }
         }
     }
 
@@ -52,7 +52,7 @@ Item {
         border.color: Theme.border
 
         FocusRing {
-            visible: plane.activeFocus
+            visible: root.activeFocus
         }
     }
 
@@ -63,14 +63,14 @@ Item {
         onPositionChanged: pickAt(mouse)
 
         function pickAt(mouse) {
-            plane.forceActiveFocus(Qt.MouseFocusReason);
-            plane.pick(mouse.x / width, 1 - mouse.y / height);
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.pick(mouse.x / width, 1 - mouse.y / height);
         }
     }
 
     Rectangle {
-        x: plane.saturation * plane.width - width / 2
-        y: (1 - plane.brightness) * plane.height - height / 2
+        x: root.saturation * root.width - width / 2
+        y: (1 - root.brightness) * root.height - height / 2
         width: 1.5 * Theme.unit
         height: width
         radius: width / 2

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import ".."
 
-// A slider from 0 to 1 over a run of colours.
+/// A slider from 0 to 1 over a run of colours.
 T.Slider {
-    id: control
+    id: root
 
     property string size: "base"
     property alias gradient: track.gradient
@@ -35,22 +35,22 @@ T.Slider {
     }
 
     handle: Rectangle {
-        x: control.leftPadding + control.visualPosition * control.availableWidth - width / 2
-        y: (control.height - height) / 2
+        x: root.leftPadding + root.visualPosition * root.availableWidth - width / 2
+        y: (root.height - height) / 2
         implicitWidth: 1.25 * Theme.unit
         implicitHeight: 2.25 * Theme.unit
         radius: 3 * dp
         color: Theme.surface
         border.width: 2 * dp
-        border.color: control.pressed ? Theme.link : Theme.accent
+        border.color: root.pressed ? Theme.link : Theme.accent
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             cornerRadius: parent.radius
         }
     }
 
     TouchReach {
-        control: control
+        control: root
     }
 }

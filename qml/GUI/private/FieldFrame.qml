@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The frame of a control that takes a value: field, text area, spin box, combo box. It glows while it has the focus.
+/// The frame of a control that takes a value: field, text area, spin box, combo box. It glows while it has the focus.
 Rectangle {
-    id: frame
+    id: root
 
     property Item control
     property bool isFocused: control.activeFocus
@@ -24,8 +24,8 @@ Rectangle {
         anchors.margins: -2 * dp
         z: -1
         radius: parent.radius + 2 * dp
-        visible: frame.isFocused
-        color: frame.isError ? bs["brand-danger"] : bs["input-border-focus"]
+        visible: root.isFocused
+        color: root.isError ? bs["brand-danger"] : bs["input-border-focus"]
         opacity: 0.4
     }
 }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The chosen file's name, and the buttons to take it or to leave.
+/// The chosen file's name, and the buttons to take it or to leave.
 Rectangle {
-    id: footer
+    id: root
 
     property string size: "base"
     property url file
@@ -29,10 +29,10 @@ Rectangle {
         anchors.right: buttons.left
         anchors.margins: 2 * Theme.unit
         anchors.verticalCenter: parent.verticalCenter
-        size: footer.size
-        text: footer.fileName || qsTr("No file chosen")
+        size: root.size
+        text: root.fileName || qsTr("No file chosen")
         textFormat: Text.PlainText
-        muted: footer.fileName === ""
+        muted: root.fileName === ""
         wrapMode: Text.NoWrap
         elide: Text.ElideMiddle
     }
@@ -45,17 +45,17 @@ Rectangle {
         spacing: Theme.unit
 
         Button {
-            size: footer.size
+            size: root.size
             text: qsTr("Cancel")
-            onClicked: footer.canceled()
+            onClicked: root.canceled()
         }
 
         Button {
-            size: footer.size
+            size: root.size
             type: "primary"
-            enabled: footer.fileName !== ""
+            enabled: root.fileName !== ""
             text: qsTr("Open")
-            onClicked: footer.accepted()
+            onClicked: root.accepted()
         }
     }
 }

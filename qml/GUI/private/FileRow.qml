@@ -4,9 +4,9 @@ import QtQuick 2.15
 import ".."
 import "format.js" as Format
 
-// A folder or file in a list of a folder: name, and where the width allows, size and date.
+/// A folder or file in a list of a folder: name, and where the width allows, size and date.
 ListRow {
-    id: row
+    id: root
 
     text: fileName
     elide: Text.ElideMiddle
@@ -18,7 +18,7 @@ ListRow {
 
     Label {
         width: 10 * Theme.unit
-        visible: !fileIsDir && row.width > 45 * Theme.unit
+        visible: !fileIsDir && root.width > 45 * Theme.unit
         text: Format.bytes(fileSize)
         muted: true
         horizontalAlignment: Text.AlignRight
@@ -26,7 +26,7 @@ ListRow {
 
     Label {
         width: 18 * Theme.unit
-        visible: row.width > 70 * Theme.unit
+        visible: root.width > 70 * Theme.unit
         text: Qt.formatDateTime(fileModified, Qt.DefaultLocaleShortDate)
         muted: true
         horizontalAlignment: Text.AlignRight

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Shows where the keyboard is: a ring around its parent, with a light edge so that it stands out on dark ground.
+/// Shows where the keyboard is: a ring around its parent, with a light edge so that it stands out on dark ground.
 Rectangle {
-    id: ring
+    id: root
 
     // Distance from the parent's edge; negative for a ring inside, where the surroundings clip.
     property real gap: 2 * dp
@@ -22,7 +22,7 @@ Rectangle {
         anchors.fill: parent
         anchors.margins: -dp
         radius: parent.radius + dp
-        visible: ring.gap > 0
+        visible: root.gap > 0
         color: "transparent"
         border.width: Math.max(1, dp)
         border.color: Theme.surface

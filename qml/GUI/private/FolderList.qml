@@ -5,9 +5,9 @@ import QtQuick.Templates 2.15 as T
 import Qt.labs.folderlistmodel 2.15
 import ".."
 
-// The folders and files of one folder. Letters typed jump to the name that begins with them.
+/// The folders and files of one folder. Letters typed jump to the name that begins with them.
 ListView {
-    id: list
+    id: root
 
     property alias folder: entries.folder
     property alias nameFilters: entries.nameFilters
@@ -80,7 +80,7 @@ ListView {
     Timer {
         id: forget
         interval: 1000
-        onTriggered: list.typed = ""
+        onTriggered: root.typed = ""
     }
 
     model: FolderListModel {
@@ -89,18 +89,18 @@ ListView {
         showDotAndDotDot: false
         sortCaseSensitive: false
         caseSensitive: false
-        onFolderChanged: list.currentIndex = 0
+        onFolderChanged: root.currentIndex = 0
     }
 
     delegate: FileRow {
-        size: list.size
+        size: root.size
         highlighted: ListView.isCurrentItem
         onClicked: {
-            list.forceActiveFocus();
-            list.currentIndex = index;
-            if (list.isTouch && fileIsDir)
-                list.open(index);
+            root.forceActiveFocus();
+            root.currentIndex = index;
+            if (root.isTouch && fileIsDir)
+                root.open(index);
         }
-        onDoubleClicked: list.open(index)
+        onDoubleClicked: root.open(index)
     }
 }

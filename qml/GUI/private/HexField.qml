@@ -3,10 +3,10 @@
 import QtQuick 2.15
 import ".."
 
-// A colour's name in hexadecimal, as "#rgb", "#rrggbb" or "#aarrggbb". What cannot be a colour gives way to the one
-// there is.
+/// A colour's name in hexadecimal, as "#rgb", "#rrggbb" or "#aarrggbb". What cannot be a colour gives way to the one
+/// there is.
 Input {
-    id: field
+    id: root
 
     property color color
 
@@ -15,7 +15,7 @@ Input {
     function take() {
         const chosen = text;
         const isNew = acceptableInput && chosen !== String(color);
-        text = Qt.binding(() => String(field.color));
+        text = Qt.binding(() => String(root.color));
         if (isNew)
             picked(chosen);
     }

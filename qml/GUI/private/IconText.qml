@@ -3,10 +3,10 @@
 import QtQuick 2.15
 import ".."
 
-// An icon beside a text, or above it, centred together. The text is cut with an ellipsis where room is short.
-// While busy a spinner takes the icon's place.
+/// An icon beside a text, or above it, centred together. The text is cut with an ellipsis where room is short.
+/// While busy a spinner takes the icon's place.
 Item {
-    id: pair
+    id: root
 
     property string text
     property string faIcon
@@ -28,7 +28,7 @@ Item {
     Grid {
         id: layout
         anchors.centerIn: parent
-        columns: pair.stacked || !pair.hasIcon || !pair.hasText ? 1 : 2
+        columns: root.stacked || !root.hasIcon || !root.hasText ? 1 : 2
         columnSpacing: 0.45 * caption.font.pixelSize
         rowSpacing: 0.25 * caption.font.pixelSize
         horizontalItemAlignment: Grid.AlignHCenter
@@ -38,37 +38,37 @@ Item {
             id: mark
             width: Math.max(icon.implicitWidth, icon.font.pixelSize)
             height: icon.font.pixelSize * 1.2
-            visible: pair.hasIcon
+            visible: root.hasIcon
 
             FontAwesomeIcon {
                 id: icon
                 anchors.centerIn: parent
-                visible: !pair.busy
-                faIcon: pair.faIcon
-                size: pair.iconSize
-                color: pair.color
+                visible: !root.busy
+                faIcon: root.faIcon
+                size: root.iconSize
+                color: root.color
             }
 
             Spinner {
                 anchors.centerIn: parent
                 width: icon.font.pixelSize
                 height: width
-                visible: pair.busy
-                color: pair.color
+                visible: root.busy
+                color: root.color
             }
         }
 
         Text {
             id: caption
-            width: Math.min(pair.textWidth, pair.width - pair.beside)
-            visible: pair.hasText
-            text: pair.text
+            width: Math.min(root.textWidth, root.width - root.beside)
+            visible: root.hasText
+            text: root.text
             textFormat: Text.PlainText
             elide: Text.ElideRight
-            color: pair.color
+            color: root.color
             font.family: Theme.fontFamily
-            font.pixelSize: Theme.fontSize(pair.size)
-            font.weight: pair.strong ? Font.DemiBold : Font.Normal
+            font.pixelSize: Theme.fontSize(root.size)
+            font.weight: root.strong ? Font.DemiBold : Font.Normal
         }
     }
 }

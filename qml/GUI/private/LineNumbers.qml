@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The numbers of the lines that are in view, beside an edit whose lines are not wrapped.
+/// The numbers of the lines that are in view, beside an edit whose lines are not wrapped.
 Rectangle {
-    id: gutter
+    id: root
 
     property Item edit
     property real scroll: 0
@@ -18,28 +18,28 @@ Rectangle {
     color: Theme.ground
 
     Repeater {
-        model: Math.max(0, Math.min(gutter.edit.lineCount - gutter.firstLine,
-                                    Math.ceil(gutter.height / gutter.lineHeight) + 1))
+        model: Math.max(0, Math.min(root.edit.lineCount - root.firstLine,
+                                    Math.ceil(root.height / root.lineHeight) + 1))
 
         Rectangle {
-            readonly property int line: gutter.firstLine + index + 1
-            readonly property bool isError: line === gutter.errorLine
+            readonly property int line: root.firstLine + index + 1
+            readonly property bool isError: line === root.errorLine
 
-            y: gutter.edit.topPadding - gutter.scroll + (line - 1) * gutter.lineHeight
-            width: gutter.width
-            height: gutter.lineHeight
-            color: isError ? Theme.danger : (line === gutter.currentLine ? Theme.sunken : "transparent")
+            y: root.edit.topPadding - root.scroll + (line - 1) * root.lineHeight
+            width: root.width
+            height: root.lineHeight
+            color: isError ? Theme.danger : (line === root.currentLine ? Theme.sunken : "transparent")
 
             Label {
                 anchors.fill: parent
                 anchors.rightMargin: Theme.unit
                 text: parent.line
                 color: parent.isError ? Theme.surface
-                                      : (parent.line === gutter.currentLine ? Theme.strongInk : Theme.mutedInk)
+                                      : (parent.line === root.currentLine ? Theme.strongInk : Theme.mutedInk)
                 horizontalAlignment: Text.AlignRight
                 verticalAlignment: Text.AlignVCenter
-                font.family: gutter.edit.font.family
-                font.pixelSize: gutter.edit.font.pixelSize
+                font.family: root.edit.font.family
+                font.pixelSize: root.edit.font.pixelSize
             }
         }
     }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The box of a check box or the circle of a radio.
+/// The box of a check box or the circle of a radio.
 Rectangle {
-    id: mark
+    id: root
 
     property Item control
     property string glyph
@@ -26,10 +26,10 @@ Rectangle {
 
     FontAwesomeIcon {
         anchors.centerIn: parent
-        faIcon: mark.glyph
+        faIcon: root.glyph
         color: Theme.surface
-        font.pixelSize: mark.width * mark.glyphScale
-        scale: mark.isSet ? 1 : 0
+        font.pixelSize: root.width * root.glyphScale
+        scale: root.isSet ? 1 : 0
 
         Behavior on scale {
             NumberAnimation { duration: Theme.quick; easing.type: Easing.OutBack }
@@ -37,7 +37,7 @@ Rectangle {
     }
 
     FocusRing {
-        visible: mark.control.visualFocus
-        cornerRadius: mark.radius
+        visible: root.control.visualFocus
+        cornerRadius: root.radius
     }
 }

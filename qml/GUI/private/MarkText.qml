@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// The text beside a check box, radio or switch.
+/// The text beside a check box, radio or switch.
 Text {
-    id: caption
+    id: root
 
     property Item control
 

@@ -4,9 +4,9 @@ import QtQuick 2.15
 import ".."
 import "format.js" as Format
 
-// The way to a folder, one button a step. Scrolled to its end, where the folder itself is.
+/// The way to a folder, one button a step. Scrolled to its end, where the folder itself is.
 ListView {
-    id: bar
+    id: root
 
     property url folder
     property string size: "base"
@@ -24,18 +24,18 @@ ListView {
     delegate: Row {
         Button {
             type: "link"
-            size: bar.size
+            size: root.size
             text: modelData.name === "/" ? "" : modelData.name
             faIcon: modelData.name === "/" ? "fa-hdd" : ""
             Accessible.name: modelData.name
-            onClicked: bar.chosen(modelData.url)
+            onClicked: root.chosen(modelData.url)
         }
 
         FontAwesomeIcon {
             anchors.verticalCenter: parent.verticalCenter
-            visible: index < bar.count - 1
+            visible: index < root.count - 1
             faIcon: "fa-angle-right"
-            size: bar.size
+            size: root.size
             color: Theme.mutedInk
         }
     }

@@ -5,10 +5,10 @@ import QtQuick.Templates 2.15 as T
 import ".."
 import "press.js" as Press
 
-// What the thumbnails share: a picture with its caption below, to click and to mark as chosen; a spinner while the
-// picture loads, an icon where there is none or it cannot be shown.
+/// What the thumbnails share: a picture with its caption below, to click and to mark as chosen; a spinner while the
+/// picture loads, an icon where there is none or it cannot be shown.
 T.AbstractButton {
-    id: control
+    id: root
 
     property string size: "base"
     // The item that shows the picture, and its load status as Image's.
@@ -28,39 +28,39 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: text
 
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     Rectangle {
         id: mount
-        width: control.width
-        height: control.height - (caption.visible ? caption.height + Theme.unit / 2 : 0)
-        radius: control.cornerRadius
-        color: control.down ? Theme.sunken : bs["thumbnail-bg"]
-        border.width: control.selected ? 2 * dp : Math.max(1, dp)
-        border.color: control.selected || control.hovered ? Theme.accent : bs["thumbnail-border"]
+        width: root.width
+        height: root.height - (caption.visible ? caption.height + Theme.unit / 2 : 0)
+        radius: root.cornerRadius
+        color: root.down ? Theme.sunken : bs["thumbnail-bg"]
+        border.width: root.selected ? 2 * dp : Math.max(1, dp)
+        border.color: root.selected || root.hovered ? Theme.accent : bs["thumbnail-border"]
 
         Item {
             anchors.fill: parent
-            anchors.margins: control.frame
-            data: control.picture ? [control.picture] : []
+            anchors.margins: root.frame
+            data: root.picture ? [root.picture] : []
         }
 
         FontAwesomeIcon {
             anchors.centerIn: parent
-            visible: control.status === Image.Null || control.isError
-            faIcon: control.isError ? "fa-chain-broken" : "fa-picture-o"
+            visible: root.status === Image.Null || root.isError
+            faIcon: root.isError ? "fa-chain-broken" : "fa-picture-o"
             color: Theme.mutedInk
             font.pixelSize: Math.min(parent.width, parent.height) / 3
         }
 
         Spinner {
             anchors.centerIn: parent
-            visible: control.status === Image.Loading
+            visible: root.status === Image.Loading
         }
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             cornerRadius: parent.radius
         }
     }
@@ -70,10 +70,10 @@ T.AbstractButton {
         anchors.bottom: parent.bottom
         width: parent.width
         visible: text !== ""
-        text: control.text
+        text: root.text
         textFormat: Text.PlainText
-        size: control.size
-        strong: control.selected
+        size: root.size
+        strong: root.selected
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.NoWrap
         elide: Text.ElideMiddle

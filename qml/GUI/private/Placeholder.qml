@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-// What a text field says while it is empty.
+/// What a text field says while it is empty.
 Text {
-    id: hint
+    id: root
 
     property Item control
 

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import ".."
 
-// A soft shadow below its parent: a few faint sheets, no shader.
+/// A soft shadow below its parent: a few faint sheets, no shader.
 Repeater {
-    id: shadow
+    id: root
 
     model: 4
 

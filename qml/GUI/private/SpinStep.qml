@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// Half of a spin box's pair of step buttons.
+/// Half of a spin box's pair of step buttons.
 Item {
-    id: step
+    id: root
 
     property Item control
     property QtObject part
@@ -24,14 +24,14 @@ Item {
         anchors.margins: 2 * dp
         radius: 2 * dp
         color: Theme.strongInk
-        opacity: step.part.pressed ? 0.16 : (step.part.hovered && step.isPossible ? 0.08 : 0)
+        opacity: root.part.pressed ? 0.16 : (root.part.hovered && root.isPossible ? 0.08 : 0)
     }
 
     FontAwesomeIcon {
         anchors.centerIn: parent
-        faIcon: step.faIcon
+        faIcon: root.faIcon
         size: "small"
         color: Theme.ink
-        opacity: step.isPossible ? 1 : 0.3
+        opacity: root.isPossible ? 1 : 0.3
     }
 }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// A turning ring of dots. The animator keeps turning on the render thread while a page loads.
+/// A turning ring of dots. The animator keeps turning on the render thread while a page loads.
 Item {
-    id: spinner
+    id: root
 
     property color color: Theme.accent
     property bool running: visible
@@ -20,10 +20,10 @@ Item {
         anchors.fill: parent
 
         Repeater {
-            model: spinner.dots
+            model: root.dots
 
             Rectangle {
-                readonly property real angle: 2 * Math.PI * index / spinner.dots
+                readonly property real angle: 2 * Math.PI * index / root.dots
                 readonly property real orbit: (wheel.width - width) / 2
 
                 x: orbit + orbit * Math.cos(angle)
@@ -31,15 +31,15 @@ Item {
                 width: wheel.width / 4.5
                 height: width
                 radius: width / 2
-                color: spinner.color
-                opacity: 0.15 + 0.85 * index / (spinner.dots - 1)
+                color: root.color
+                opacity: 0.15 + 0.85 * index / (root.dots - 1)
             }
         }
     }
 
     RotationAnimator {
         target: wheel
-        running: spinner.running
+        running: root.running
         from: 0
         to: 360
         duration: 1000

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import ".."
 
-// A sample of a colour on a ground of two tones, which shows how transparent it is.
+/// A sample of a colour on a ground of two tones, which shows how transparent it is.
 Rectangle {
-    id: swatch
+    id: root
 
     property color sample: "black"
 
@@ -17,14 +17,14 @@ Rectangle {
         width: parent.width / 2
         height: parent.height
         radius: parent.radius
-        visible: swatch.sample.a < 1
+        visible: root.sample.a < 1
         color: Theme.mutedInk
     }
 
     Rectangle {
         anchors.fill: parent
         radius: parent.radius
-        color: swatch.sample
+        color: root.sample
         border.width: Math.max(1, dp)
         border.color: Theme.border
     }

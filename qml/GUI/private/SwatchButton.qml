@@ -5,9 +5,9 @@ import QtQuick.Templates 2.15 as T
 import ".."
 import "press.js" as Press
 
-// A colour of a palette, to click.
+/// A colour of a palette, to click.
 T.AbstractButton {
-    id: control
+    id: root
 
     property string size: "base"
     property color sample
@@ -19,23 +19,23 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: String(sample)
 
-    Keys.onReturnPressed: Press.press(control, event)
-    Keys.onEnterPressed: Press.press(control, event)
+    Keys.onReturnPressed: Press.press(root, event)
+    Keys.onEnterPressed: Press.press(root, event)
 
     background: Swatch {
-        sample: control.sample
-        scale: control.hovered && !control.down ? 1.12 : 1
+        sample: root.sample
+        scale: root.hovered && !root.down ? 1.12 : 1
 
         FontAwesomeIcon {
             anchors.centerIn: parent
-            visible: control.selected
+            visible: root.selected
             faIcon: "fa-check"
             size: "small"
-            color: control.sample.hslLightness > 0.55 ? Theme.strongInk : Theme.surface
+            color: root.sample.hslLightness > 0.55 ? Theme.strongInk : Theme.surface
         }
 
         FocusRing {
-            visible: control.visualFocus
+            visible: root.visualFocus
             cornerRadius: parent.radius
         }
     }

@@ -3,10 +3,10 @@
 import QtQuick 2.15
 import ".."
 
-// A field that looks for a text in an edit, whatever the case, and goes round at the ends. Enter finds the next place,
-// Shift+Enter the one before, Escape closes it.
+/// A field that looks for a text in an edit, whatever the case, and goes round at the ends. Enter finds the next place,
+/// Shift+Enter the one before, Escape closes it.
 Input {
-    id: search
+    id: root
 
     property Item edit
     property bool isMissing: false
@@ -57,7 +57,7 @@ Input {
 
     Shortcut {
         sequence: StandardKey.Find
-        enabled: search.edit !== null && (search.edit.activeFocus || search.parent.activeFocus)
-        onActivated: search.open()
+        enabled: root.edit !== null && (root.edit.activeFocus || root.parent.activeFocus)
+        onActivated: root.open()
     }
 }

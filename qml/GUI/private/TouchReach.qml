@@ -4,10 +4,10 @@ import QtQuick 2.15
 import QtQml 2.15
 import ".."
 
-// At the touch sizes a press beside a small control still counts as a press on it: the control's containment mask
-// reaches over its edges. Bound from here, as the templates' import does not offer that property.
+/// At the touch sizes a press beside a small control still counts as a press on it: the control's containment mask
+/// reaches over its edges. Bound from here, as the templates' import does not offer that property.
 Binding {
-    id: reach
+    id: root
 
     property Item control
 
@@ -20,8 +20,8 @@ Binding {
     restoreMode: Binding.RestoreBindingOrValue
     value: QtObject {
         function contains(point: point) : bool {
-            return point.x >= -reach.dx && point.x <= reach.control.width + reach.dx
-                    && point.y >= -reach.dy && point.y <= reach.control.height + reach.dy;
+            return point.x >= -root.dx && point.x <= root.control.width + root.dx
+                    && point.y >= -root.dy && point.y <= root.control.height + root.dy;
         }
     }
 }

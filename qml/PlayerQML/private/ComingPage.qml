@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A page whose work is not in this version yet: says what is to come, and leads back.
+/// A page whose work is not in this version yet: says what is to come, and leads back.
 FormPage {
-    id: comingPage
+    id: root
 
     property string backText: qsTr("Go back")
     property alias faIcon: state.faIcon
@@ -21,8 +21,8 @@ FormPage {
             focus: true
             type: "primary"
             size: "large"
-            text: comingPage.backText
-            onClicked: comingPage.back()
+            text: root.backText
+            onClicked: root.back()
         }
     }
 }

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
+import "limits.js" as Limits
 
-// A line at a page's foot for what went wrong. It clears itself after a while.
+/// A line at a page's foot for what went wrong. It clears itself after a while.
 Item {
-    id: footer
+    id: root
 
     property string text
 
@@ -22,7 +23,7 @@ Item {
         anchors.right: parent.right
         anchors.margins: 3 * BGUI.Theme.unit
         anchors.verticalCenter: parent.verticalCenter
-        text: footer.text
+        text: root.text
         textFormat: Text.PlainText
         maximumLineCount: 2
         elide: Text.ElideRight
@@ -32,7 +33,7 @@ Item {
 
     Timer {
         id: clearing
-        interval: 5000
-        onTriggered: footer.text = ""
+        interval: Limits.footerMessage
+        onTriggered: root.text = ""
     }
 }

@@ -3,10 +3,10 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A page with a header that names it and leads back, a body, and a busy indicator over both. While the indicator
-// runs the body takes no input; Escape still goes back.
+/// A page with a header that names it and leads back, a body, and a busy indicator over both. While the indicator
+/// runs the body takes no input; Escape still goes back.
 StackPage {
-    id: page
+    id: root
 
     property string title
     property string subtitle
@@ -22,9 +22,9 @@ StackPage {
     BGUI.PageHeader {
         id: header
         z: 1
-        title: page.title
-        subtitle: page.subtitle
-        onBack: page.back()
+        title: root.title
+        subtitle: root.subtitle
+        onBack: root.back()
     }
 
     FocusScope {

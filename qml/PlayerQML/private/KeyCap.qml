@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// The name of a key, drawn as one.
+/// The name of a key, drawn as one.
 Rectangle {
     property alias text: label.text
 

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// Names the project being worked on.
+/// Names the project being worked on.
 Rectangle {
-    id: banner
+    id: root
 
     property string project
 
@@ -24,8 +24,8 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         size: "h4"
         font.weight: Font.Normal
-        text: banner.project === "" ? "<b>No Open Project</b>"
-                                    : "Working on: <b>" + banner.escaped(banner.project) + "</b>"
+        text: root.project === "" ? "<b>No Open Project</b>"
+                                  : "Working on: <b>" + root.escaped(root.project) + "</b>"
         textFormat: Text.StyledText
         wrapMode: Text.NoWrap
         elide: Text.ElideRight

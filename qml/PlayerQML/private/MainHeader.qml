@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// The main page's bar: the program's name, and the button that opens the menu.
+/// The main page's bar: the program's name, and the button that opens the menu.
 Rectangle {
-    id: header
+    id: root
 
     property bool menuOpen: false
 
@@ -40,9 +40,9 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         size: "xlarge"
         faIcon: "fa-cog"
-        toolTip: header.menuOpen ? "" : qsTr("Menu")
+        toolTip: root.menuOpen ? "" : qsTr("Menu")
         onDark: true
-        checked: header.menuOpen
-        onClicked: header.menuRequested()
+        checked: root.menuOpen
+        onClicked: root.menuRequested()
     }
 }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// The main page's menu. Hidden until asked for; a press beside it closes it.
+/// The main page's menu. Hidden until asked for; a press beside it closes it.
 FocusScope {
-    id: menu
+    id: root
 
     signal chosen(string page)
     signal closed()
@@ -48,7 +48,7 @@ FocusScope {
 
     MouseArea {
         anchors.fill: parent
-        onPressed: menu.close()
+        onPressed: root.close()
     }
 
     Rectangle {
@@ -73,7 +73,7 @@ FocusScope {
                 visible: false
                 faIcon: "fa-archive"
                 text: "Export as Zip"
-                onClicked: menu.choose("ZipGeneratorPage")
+                onClicked: root.choose("ZipGeneratorPage")
             }
 
             BGUI.ListRow {
@@ -81,21 +81,21 @@ FocusScope {
                 id: settings
                 faIcon: "fa-cogs"
                 text: "Settings"
-                onClicked: menu.choose("SettingsPage")
+                onClicked: root.choose("SettingsPage")
             }
 
             BGUI.ListRow {
                 width: parent.width
                 faIcon: "fa-code"
                 text: "Advanced Editor"
-                onClicked: menu.choose("AdvancedEditPage")
+                onClicked: root.choose("AdvancedEditPage")
             }
 
             BGUI.ListRow {
                 width: parent.width
                 faIcon: "fa-info-circle"
                 text: "About"
-                onClicked: menu.choose("AboutPage")
+                onClicked: root.choose("AboutPage")
             }
         }
     }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// The main page's large buttons, three in a row. The arrow keys go from one to the next.
+/// The main page's large buttons, three in a row. The arrow keys go from one to the next.
 FocusScope {
-    id: tiles
+    id: root
 
     property bool canEdit: true
     property bool canPlay: false
@@ -32,38 +32,38 @@ FocusScope {
         id: grid
         anchors.centerIn: parent
         columns: 3
-        spacing: tiles.gap
+        spacing: root.gap
 
         MainTile {
             focus: true
-            width: tiles.tileSize
+            width: root.tileSize
             text: "Open"
             faIcon: "fa-folder-open"
-            onClicked: tiles.openChosen()
+            onClicked: root.openChosen()
         }
 
         MainTile {
-            visible: tiles.canEdit
-            width: tiles.tileSize
+            visible: root.canEdit
+            width: root.tileSize
             text: "Edit"
             faIcon: "fa-pencil"
-            onClicked: tiles.editChosen()
+            onClicked: root.editChosen()
         }
 
         MainTile {
-            visible: tiles.canPlay
-            width: tiles.tileSize
+            visible: root.canPlay
+            width: root.tileSize
             text: "Play"
             faIcon: "fa-play"
-            onClicked: tiles.playChosen()
+            onClicked: root.playChosen()
         }
 
         MainTile {
-            visible: tiles.canEdit
-            width: tiles.tileSize
+            visible: root.canEdit
+            width: root.tileSize
             text: "Dashboard"
             faIcon: "fa-inbox"
-            onClicked: tiles.dashboardChosen()
+            onClicked: root.dashboardChosen()
         }
     }
 }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// What one sees of the main page.
+/// What one sees of the main page.
 FocusScope {
-    id: view
+    id: root
 
     property var page
 
@@ -34,7 +34,7 @@ FocusScope {
         id: banner
         anchors.top: header.bottom
         width: parent.width
-        project: view.page.project
+        project: root.page.project
     }
 
     MainTiles {
@@ -43,13 +43,13 @@ FocusScope {
         anchors.bottom: message.top
         width: parent.width
         focus: true
-        enabled: !view.page.busy
+        enabled: !root.page.busy
         canEdit: !CAPI.isDevice() || CAPI.haveTouch()
         canPlay: CAPI.isDevice()
-        onOpenChosen: view.page.open("ProjectsPage")
-        onEditChosen: view.page.edit()
-        onPlayChosen: view.page.play()
-        onDashboardChosen: view.page.openDashboard()
+        onOpenChosen: root.page.open("ProjectsPage")
+        onEditChosen: root.page.edit()
+        onPlayChosen: root.page.play()
+        onDashboardChosen: root.page.openDashboard()
     }
 
     FooterMessage {
@@ -62,24 +62,24 @@ FocusScope {
         id: menu
         anchors.fill: parent
         anchors.topMargin: header.height
-        onChosen: view.page.open(page)
+        onChosen: root.page.open(page)
         onClosed: tiles.forceActiveFocus()
     }
 
     BGUI.CustomBuzyInd {
-        running: view.page.busy
+        running: root.page.busy
         text: "Loading..."
     }
 
     Shortcut {
         sequence: "F1"
-        enabled: view.page.active
-        onActivated: view.page.open("HelpPage")
+        enabled: root.page.active
+        onActivated: root.page.open("HelpPage")
     }
 
     Shortcut {
         sequence: "Ctrl+E"
-        enabled: view.page.active
-        onActivated: view.page.open("ZipGeneratorPage")
+        enabled: root.page.active
+        onActivated: root.page.open("ZipGeneratorPage")
     }
 }

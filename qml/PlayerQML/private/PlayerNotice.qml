@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A short message at the top left of the wall, readable on whatever is shown below it.
+/// A short message at the top left of the wall, readable on whatever is shown below it.
 Rectangle {
-    id: notice
+    id: root
 
     property alias text: label.text
 

@@ -3,10 +3,10 @@
 import QtQml 2.15
 import "../SharedVars.js" as SS
 
-// Follows, with sharing on, the cloud revisions of the projects that a playing document needs, and the account's
-// choice of project for this player. A project started by the command line is followed by nobody.
+/// Follows, with sharing on, the cloud revisions of the projects that a playing document needs, and the account's
+/// choice of project for this player. A project started by the command line is followed by nobody.
 QtObject {
-    id: follower
+    id: root
 
     property string project
 

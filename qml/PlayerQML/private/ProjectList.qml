@@ -4,9 +4,9 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Nuvex.GUI 1.0 as BGUI
 
-// The projects of the workspace, by name. The arrow keys move, Enter chooses, Del deletes.
+/// The projects of the workspace, by name. The arrow keys move, Enter chooses, Del deletes.
 FocusScope {
-    id: projectList
+    id: root
 
     readonly property int count: rows.count
 
@@ -56,14 +56,14 @@ FocusScope {
             highlighted: isOpen
             faIcon: isOpen ? "fa-folder-open" : "fa-folder"
             text: name
-            onClicked: projectList.chosen(name)
-            Keys.onDeletePressed: projectList.removeRequested(index, name)
+            onClicked: root.chosen(name)
+            Keys.onDeletePressed: root.removeRequested(index, name)
 
             BGUI.ActionButton {
                 focusPolicy: row.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 faIcon: "fa-times"
                 toolTip: qsTr("Delete %1").arg(row.text)
-                onClicked: projectList.removeRequested(index, row.text)
+                onClicked: root.removeRequested(index, row.text)
             }
         }
     }

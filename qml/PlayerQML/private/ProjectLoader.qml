@@ -3,10 +3,10 @@
 import QtQuick 2.15
 import "fit.js" as Fit
 
-// Loads a project's document and keeps it as large as its parent allows: in its own shape, in the middle, and
-// turned by a quarter when it lies the other way.
+/// Loads a project's document and keeps it as large as its parent allows: in its own shape, in the middle, and
+/// turned by a quarter when it lies the other way.
 Loader {
-    id: loader
+    id: root
 
     // Not everything that loads can be seen.
     readonly property bool isShown: item instanceof Item
@@ -52,6 +52,6 @@ Loader {
 
     Translate {
         id: lift
-        y: loader.isShown ? loader.item.width : 0
+        y: root.isShown ? root.item.width : 0
     }
 }

@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// The rows of the settings page, filled with what is stored when the page opens.
+/// The rows of the settings page, filled with what is stored when the page opens.
 Sheet {
-    id: form
+    id: root
 
     property string userEmail
     property string playerUid
@@ -26,9 +26,9 @@ Sheet {
             anchors.left: parent.left
             anchors.right: logout.left
             anchors.verticalCenter: logout.verticalCenter
-            text: form.userEmail || qsTr("Nobody is logged in")
+            text: root.userEmail || qsTr("Nobody is logged in")
             textFormat: Text.PlainText
-            muted: form.userEmail === ""
+            muted: root.userEmail === ""
             elide: Text.ElideRight
             wrapMode: Text.NoWrap
         }
@@ -37,7 +37,7 @@ Sheet {
             id: logout
             anchors.right: parent.right
             text: "Logout"
-            onClicked: form.logoutRequested()
+            onClicked: root.logoutRequested()
         }
     }
 
@@ -63,7 +63,7 @@ Sheet {
             width: parent.width
             model: ["None", "Cloud"]
             currentIndex: CAPI.getBSetting("shareFolder") ? 1 : 0
-            onActivated: form.sharingChosen(index === 1)
+            onActivated: root.sharingChosen(index === 1)
         }
     }
 
@@ -99,7 +99,7 @@ Sheet {
         BGUI.Input {
             id: hostField
             objectName: "hostName"
-            text: form.playerUid.split("_")[0]
+            text: root.playerUid.split("_")[0]
         }
 
         BGUI.Label {
@@ -109,7 +109,7 @@ Sheet {
             anchors.verticalCenter: hostField.verticalCenter
             size: "small"
             muted: true
-            text: form.playerUid
+            text: root.playerUid
             textFormat: Text.PlainText
             wrapMode: Text.WrapAnywhere
             maximumLineCount: 2
@@ -133,7 +133,7 @@ Sheet {
             type: "primary"
             size: "large"
             text: "save"
-            onClicked: form.saveRequested()
+            onClicked: root.saveRequested()
         }
     }
 }

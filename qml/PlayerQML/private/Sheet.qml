@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A card in the middle of a page, in its upper part where there is room; on a small screen it scrolls.
+/// A card in the middle of a page, in its upper part where there is room; on a small screen it scrolls.
 BGUI.ScrollPane {
-    id: sheet
+    id: root
 
     property real maximumWidth: 90 * BGUI.Theme.unit
     property alias spacing: card.spacing
@@ -16,9 +16,9 @@ BGUI.ScrollPane {
 
     BGUI.Card {
         id: card
-        x: (sheet.width - width) / 2
-        y: Math.max(sheet.gap, (sheet.height - height) * 0.4)
-        width: Math.min(sheet.width - 2 * sheet.gap, sheet.maximumWidth)
+        x: (root.width - width) / 2
+        y: Math.max(root.gap, (root.height - height) * 0.4)
+        width: Math.min(root.width - 2 * root.gap, root.maximumWidth)
         padding: 4 * BGUI.Theme.unit
         spacing: 2 * BGUI.Theme.unit
     }

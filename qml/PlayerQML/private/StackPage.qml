@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import QtQuick.Controls 1.4
 
-// A page of the shell's stack: takes the keyboard when it is shown, and goes back on Escape and the back key.
+/// A page of the shell's stack: takes the keyboard when it is shown, and goes back on Escape and the back key.
 FocusScope {
-    id: page
+    id: root
 
     readonly property var shell: Stack.view
     readonly property bool active: Stack.status === Stack.Active

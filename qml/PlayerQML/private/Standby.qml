@@ -3,9 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// What the wall shows while no project does: which player this is, what it should show and what is in the way.
+/// What the wall shows while no project does: which player this is, what it should show and what is in the way.
 Rectangle {
-    id: standby
+    id: root
 
     property string project
     property string documentName
@@ -40,13 +40,13 @@ Rectangle {
         anchors.fill: parent
         source: "qrc:/Nuvex/images/standby.png"
         fillMode: Image.PreserveAspectCrop
-        horizontalAlignment: standby.width < standby.height ? Image.AlignHCenter : Image.AlignLeft
+        horizontalAlignment: root.width < root.height ? Image.AlignHCenter : Image.AlignLeft
     }
 
     Column {
         id: facts
 
-        readonly property real step: Math.min(standby.width, standby.height) / 54
+        readonly property real step: Math.min(root.width, root.height) / 54
 
         anchors.left: parent.left
         anchors.leftMargin: 4 * step
@@ -55,19 +55,19 @@ Rectangle {
         spacing: step
 
         StandbyText {
-            text: standby.playerName
+            text: root.playerName
             font.pixelSize: 4 * facts.step
             font.weight: Font.DemiBold
         }
 
         StandbyText {
-            visible: standby.project !== ""
-            text: qsTr("Project: %1").arg(standby.project)
+            visible: root.project !== ""
+            text: qsTr("Project: %1").arg(root.project)
             font.pixelSize: 2 * facts.step
         }
 
         StandbyText {
-            text: qsTr("Host: %1").arg([CAPI.hostName(), standby.networkAddress].filter(part => part).join("  ·  "))
+            text: qsTr("Host: %1").arg([CAPI.hostName(), root.networkAddress].filter(part => part).join("  ·  "))
             opacity: 0.75
             font.pixelSize: 1.5 * facts.step
         }
@@ -76,7 +76,7 @@ Rectangle {
             objectName: "standbyReason"
             topPadding: facts.step
             visible: text !== ""
-            text: standby.reason()
+            text: root.reason()
             color: "#ffd37a"
             font.pixelSize: 1.5 * facts.step
         }

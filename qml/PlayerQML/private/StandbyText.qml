@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-// A line of the standby picture.
+/// A line of the standby picture.
 Text {
     width: parent.width
     textFormat: Text.PlainText

@@ -3,18 +3,18 @@
 .pragma library
 
 /// Longest line that is kept, in characters; the event of a longer one is dropped.
-var maxLineLength = 10 * 1024 * 1024;
+const maxLineLength = 10 * 1024 * 1024;
 
 /// Reader of a realtime database's event stream (WHATWG server-sent events).
 ///
 /// Returns an object whose feed(chunk) takes the stream's text in pieces of any size and returns the values of
 /// the "put" events that the piece completes, in order. Other events and unreadable values are left out.
 function reader() {
-    var pieces = [];          // of the line that has not ended yet
-    var pendingLength = 0;
-    var lineIndex = 0;        // within the event
-    var isPut = false;
-    var afterReturn = false;  // the last chunk ended with CR, perhaps half of a CRLF
+    let pieces = [];          // of the line that has not ended yet
+    let pendingLength = 0;
+    let lineIndex = 0;        // within the event
+    let isPut = false;
+    let afterReturn = false;  // the last chunk ended with CR, perhaps half of a CRLF
 
     function keep(piece) {
         pieces.push(piece);
@@ -48,17 +48,17 @@ function reader() {
     }
 
     function takeValue(line, values) {
-        var value = valueOf(line);
+        const value = valueOf(line);
         if (value !== undefined)
             values.push(value);
     }
 
     // A value that is whole counts before its line end has come.
     function takeWholeValue(values) {
-        var last = pieces.length > 0 ? pieces[pieces.length - 1] : "";
+        const last = pieces.length > 0 ? pieces[pieces.length - 1] : "";
         if (lineIndex !== 1 || !isPut || last.charAt(last.length - 1) !== "}")
             return;
-        var line = pieces.join("");
+        const line = pieces.join("");
         if (valueOf(line) === undefined)
             return;
         takeLine(line, values);
@@ -70,7 +70,7 @@ function reader() {
     function isNewStream(chunk) {
         if (chunk.indexOf("event: ") !== 0)
             return false;
-        var goesOn = lineIndex === 1 && isPut && pieces.length > 0;
+        const goesOn = lineIndex === 1 && isPut && pieces.length > 0;
         return !goesOn || valueOf(pieces.join("") + chunk.split(/[\r\n]/, 1)[0]) === undefined;
     }
 
@@ -80,12 +80,12 @@ function reader() {
         afterReturn = chunk.charAt(chunk.length - 1) === "\r";
         if (isNewStream(chunk))
             startAnew();
-        var values = [];
-        var lines = chunk.split(/\r\n|\r|\n/);
-        var rest = lines.pop();
-        for (var i = 0; i < lines.length; ++i) {
+        const values = [];
+        const lines = chunk.split(/\r\n|\r|\n/);
+        const rest = lines.pop();
+        for (let i = 0; i < lines.length; ++i) {
             keep(lines[i]);
-            var line = pieces.join("");
+            const line = pieces.join("");
             forgetLine();
             takeLine(line, values);
         }

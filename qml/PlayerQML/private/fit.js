@@ -9,10 +9,10 @@
 function fit(w, h, sw, sh) {
     if (!(w > 0 && h > 0 && sw > 0 && sh > 0))
         return null;
-    var turned = (w >= h) !== (sw >= sh);
-    var shownWidth = turned ? h : w;
-    var shownHeight = turned ? w : h;
-    var scale = Math.min(sw / shownWidth, sh / shownHeight);
+    const turned = (w >= h) !== (sw >= sh);
+    const shownWidth = turned ? h : w;
+    const shownHeight = turned ? w : h;
+    const scale = Math.min(sw / shownWidth, sh / shownHeight);
     return {
         turned: turned,
         scale: scale,

@@ -4,13 +4,11 @@
 // Feeds any bytes, as lines of text, to the tokenizer of the QML highlighter and checks what holds for every
 // line.
 
-#include "quick/qmltokenizer.h"
+#include "quick/highlighter/qmltokenizer.h"
 
 #include <QStringList>
 
 #include <cstdlib>
-
-using namespace nuvex;
 
 namespace {
 

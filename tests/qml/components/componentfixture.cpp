@@ -3,17 +3,14 @@
 
 #include "componentfixture.h"
 
-#include "quick/chromakey.h"
-#include "quick/icontable.h"
-#include "quick/themetable.h"
+#include "cloud/deployment.h"
+#include "quick/video/chromakey.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFontDatabase>
 #include <QImage>
 #include <QProcess>
 #include <QQmlContext>
-#include <QQmlPropertyMap>
 
 #include <algorithm>
 #include <ctime>
@@ -44,15 +41,6 @@ QByteArray resource(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void loadFonts()
-{
-    const QDir folder(library + QStringLiteral("fonts"));
-    const QFileInfoList fonts = folder.entryInfoList(QDir::Files);
-    for (const QFileInfo& font : fonts)
-        QFontDatabase::addApplicationFont(font.filePath());
-    QFontDatabase::addApplicationFont(QStringLiteral(":/Nuvex/font/fontawesome-webfont.ttf"));
-}
-
 } // namespace
 
 ComponentFixture::ComponentFixture()
@@ -62,7 +50,7 @@ ComponentFixture::ComponentFixture()
     m_capi = std::make_unique<CAPI>(nullptr, nullptr);
     m_capi->createProject(QStringLiteral("Test"));
     m_capi->setBaseFolder(QStringLiteral("Test"));
-    loadFonts();
+    loadProgramFonts();
 }
 
 ComponentFixture::~ComponentFixture()
@@ -83,18 +71,9 @@ void ComponentFixture::recordWarnings(bool all)
 
 void ComponentFixture::publish(QQmlEngine& engine)
 {
-    QQmlContext* context = engine.rootContext();
-    context->setContextProperty(QStringLiteral("CAPI"), m_capi.get());
-    context->setContextProperty(QStringLiteral("dp"), 1.0);
-    context->setContextProperty(QStringLiteral("faIcons"), iconTable());
-    context->setContextProperty(QStringLiteral("bs"), themeTable());
-    context->setContextProperty(QStringLiteral("roundedImageFragShader"),
-                                QString::fromUtf8(resource(QStringLiteral(":/Nuvex/GUI/RoundedImage.frag"))));
-    context->setContextProperty(QStringLiteral("imageScopeFragShader"),
-                                QString::fromUtf8(resource(QStringLiteral(":/Nuvex/GUI/ImageScope.frag"))));
-    context->setContextProperty(QStringLiteral("picturesPath"), m_home.path());
-    context->setContextProperty(QStringLiteral("fixture"), this);
-    engine.addImportPath(QStringLiteral("qrc:///./"));
+    prepareEngine(engine, {});
+    m_context = std::make_unique<QmlContext>(engine, *m_capi, QSize(1280, 720), 96);
+    engine.rootContext()->setContextProperty(QStringLiteral("fixture"), this);
 }
 
 QStringList ComponentFixture::components() const
@@ -162,10 +141,10 @@ QVariantMap ComponentFixture::keyed(const QVariantMap& pixel, const QColor& ligh
                                     const QVariantMap& key) const
 {
     const auto number = [](const QVariantMap& map, const char* name) { return map[name].toFloat(); };
-    const nuvex::Pixel result =
-        nuvex::keyPixel({number(pixel, "r"), number(pixel, "g"), number(pixel, "b"), 1},
-                        {number(key, "th"), number(key, "a2"), number(key, "amt"), number(key, "plus"),
-                         float(light.redF()), float(light.greenF()), float(light.blueF())});
+    const Pixel result =
+        keyPixel({number(pixel, "r"), number(pixel, "g"), number(pixel, "b"), 1},
+                 {number(key, "th"), number(key, "a2"), number(key, "amt"), number(key, "plus"),
+                  float(light.redF()), float(light.greenF()), float(light.blueF())});
     const auto bounded = [](float channel) { return std::clamp(channel, 0.0F, 1.0F); };
     return {{"r", bounded(result.r)},
             {"g", bounded(result.g)},

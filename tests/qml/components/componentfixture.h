@@ -4,6 +4,7 @@
 #pragma once
 
 #include "api/capi.h"
+#include "app/qmlcontext.h"
 
 #include <QColor>
 #include <QQmlEngine>
@@ -61,6 +62,7 @@ public:
 private:
     QTemporaryDir m_home;
     std::unique_ptr<CAPI> m_capi;
+    std::unique_ptr<QmlContext> m_context;
     QStringList m_warnings;
     bool m_recordsAll = false;
 };

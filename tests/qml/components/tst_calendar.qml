@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private/calendar.js" as Calendar
+import "qrc:/Nuvex/Components/private/clock/calendar.js" as Calendar
 
 ComponentCase {
     id: test

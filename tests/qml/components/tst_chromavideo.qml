@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import QtMultimedia 5.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private"
+import "qrc:/Nuvex/Components/private/picture"
 
 ComponentCase {
     id: test

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private/clock.js" as Clock
+import "qrc:/Nuvex/Components/private/clock/clock.js" as Clock
 
 ComponentCase {
     id: test

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private/entries.js" as Entries
+import "qrc:/Nuvex/Components/private/menu/entries.js" as Entries
 
 ComponentCase {
     id: test

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private/editor/files.js" as Files
+import "qrc:/Nuvex/Editor/panel/files.js" as Files
 
 ComponentCase {
     id: test

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private/schedule.js" as Rules
+import "qrc:/Nuvex/Components/private/show/schedule.js" as Rules
 
 ComponentCase {
     id: test

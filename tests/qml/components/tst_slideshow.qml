@@ -4,7 +4,7 @@ import QtQuick 2.15
 import QtMultimedia 5.15
 import QtTest 1.15
 import "qrc:/Nuvex/Components/private/presence.js" as Presence
-import "qrc:/Nuvex/Components/private/transitions.js" as Transitions
+import "qrc:/Nuvex/Components/private/show/transitions.js" as Transitions
 
 ComponentCase {
     id: test

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/Nuvex/Components/private/stage.js" as Stage
-import "qrc:/Nuvex/Components/private/transitions.js" as Transitions
+import "qrc:/Nuvex/Components/private/show/stage.js" as Stage
+import "qrc:/Nuvex/Components/private/show/transitions.js" as Transitions
 
 TestCase {
     name: "Transitions"

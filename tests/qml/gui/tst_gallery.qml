@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Window 2.15
 import QtTest 1.15
 import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Gallery 1.0
 
 Item {
     id: root
@@ -90,9 +91,10 @@ Item {
         Component {
             id: component
 
-            BGUI.Gallery {
+            Gallery {
                 width: root.width
                 height: root.height
+                chapters: [{ text: "Widgets", source: "GalleryWidgets.qml" }]
                 focus: true
             }
         }

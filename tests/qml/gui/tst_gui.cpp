@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
-#include "quick/syntaxhighlighter.h"
+#include "quick/highlighter/syntaxhighlighter.h"
 #include "tests/support/quickmain.h"
 
 #include <QQmlEngine>

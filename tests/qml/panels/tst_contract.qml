@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import QtTest 1.15
 import Nuvex.Editor 1.0
-import "qrc:/Nuvex/Components/private/editor/values.js" as Values
+import "qrc:/Nuvex/Editor/panel/values.js" as Values
 
 // What panels promise beyond a plain change: where late changes go, what happens to groups, files and lists, and what is
 // refused.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtTest 1.15
-import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Gallery 1.0
 import "../components"
 
 // The gallery's sheets of components: each component is on one of them, fits its wall and says nothing in the log.
@@ -17,13 +17,11 @@ ComponentCase {
     }
 
     function test_everyComponent() {
-        const names = ["Picture", "Text", "Time", "Menu", "Show", "Layout", "Effect"];
-        const gallery = createTemporaryObject(component, test, { chapters: names.map(name =>
-            ({ text: name, source: "qrc:///Nuvex/Components/gallery/" + name + "Sheets.qml" })) });
+        const gallery = createTemporaryObject(component, test);
         let seen = [];
-        names.forEach((name, i) => {
+        for (let i = 1; i < gallery.chapters.length; ++i) {
             gallery.currentIndex = i;
-            verify(gallery.chapter, name);
+            verify(gallery.chapter, gallery.chapters[i].text);
             const specimens = below(gallery.chapter).filter(item => item.about !== undefined && item.ratio !== undefined);
             specimens.forEach(specimen => {
                 tryVerify(() => specimen.shown !== null, 5000, specimen.title);
@@ -32,7 +30,7 @@ ComponentCase {
             });
             waitForRendering(gallery);
             seen = seen.concat(specimens.map(specimen => specimen.title + ".qml"));
-        });
+        }
         compare(seen.sort(), fixture.components().sort());
         compare(fixture.takeWarnings(), []);
     }
@@ -40,7 +38,7 @@ ComponentCase {
     Component {
         id: component
 
-        BGUI.Gallery {
+        Gallery {
             width: test.width
             height: test.height
         }

@@ -280,8 +280,7 @@ void TestReference::cleanupTestCase()
 int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
-    QCoreApplication::setApplicationName(QStringLiteral("Nuvex"));
+    setApplicationNames();
     QGuiApplication application(argc, argv);
     TestReference test;
     return QTest::qExec(&test, argc, argv);

@@ -11,7 +11,7 @@
 
 /// The fonts and pictures that the build brings in under the names by which the front end and projects ask
 /// for them.
-class tst_Resources : public QObject
+class TestResources : public QObject
 {
     Q_OBJECT
 
@@ -53,14 +53,14 @@ QDir sources()
 
 } // namespace
 
-void tst_Resources::fonts_data()
+void TestResources::fonts_data()
 {
     QTest::addColumn<QString>("name");
     for (const QString& name : textFonts)
         QTest::newRow(qPrintable(name)) << name;
 }
 
-void tst_Resources::fonts()
+void TestResources::fonts()
 {
     QFETCH(QString, name);
     const QRawFont font = load(name);
@@ -70,7 +70,7 @@ void tst_Resources::fonts()
         QVERIFY2(font.supportsCharacter(letter), qPrintable(QString(letter)));
 }
 
-void tst_Resources::facesAreDistinct()
+void TestResources::facesAreDistinct()
 {
     QSet<QString> faces;
     for (const QString& name : textFonts)
@@ -78,7 +78,7 @@ void tst_Resources::facesAreDistinct()
     QCOMPARE(faces.size(), textFonts.size());
 }
 
-void tst_Resources::iconFont()
+void TestResources::iconFont()
 {
     const QRawFont font(QString(":/Nuvex/font/fontawesome-webfont.ttf"), 24);
     QCOMPARE(font.familyName(), QString("FontAwesome"));
@@ -86,7 +86,7 @@ void tst_Resources::iconFont()
     QVERIFY(font.supportsCharacter(QChar(0xf128)));
 }
 
-void tst_Resources::pictures_data()
+void TestResources::pictures_data()
 {
     QTest::addColumn<QString>("picture");
     for (const QString folder : {"images", "Components/icons"}) {
@@ -96,7 +96,7 @@ void tst_Resources::pictures_data()
     }
 }
 
-void tst_Resources::pictures()
+void TestResources::pictures()
 {
     QFETCH(QString, picture);
     const QImage image(":/Nuvex/" + picture);
@@ -108,11 +108,11 @@ void tst_Resources::pictures()
     QVERIFY2(isDrawn, "nothing but transparent pixels");
 }
 
-void tst_Resources::standbyPictureFillsTheScreen()
+void TestResources::standbyPictureFillsTheScreen()
 {
     QCOMPARE(QImageReader(":/Nuvex/images/standby.png").size(), QSize(1920, 1080));
     QCOMPARE(QImageReader(":/Nuvex/images/app-icon.png").size(), QSize(256, 256));
 }
 
-QTEST_MAIN(tst_Resources)
+QTEST_MAIN(TestResources)
 #include "tst_resources.moc"

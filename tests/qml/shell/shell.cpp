@@ -3,15 +3,10 @@
 
 #include "tests/qml/shell/shell.h"
 
-#include "app/nativetypes.h"
 #include "cloud/deployment.h"
-#include "quick/icontable.h"
-#include "quick/themetable.h"
 
 #include <QDir>
-#include <QQmlContext>
 #include <QQmlEngine>
-#include <QQmlPropertyMap>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QtTest>
@@ -24,33 +19,13 @@ QDir workDirectory()
                 "/PlayerQML/Work");
 }
 
-QString resourceText(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-void publish(QQmlContext* context, CAPI* api, const QSize& size)
-{
-    context->setContextProperty("CAPI", api);
-    context->setContextProperty("picturesPath", QUrl::fromLocalFile(QDir::tempPath()));
-    context->setContextProperty("dp", 1.0);
-    context->setContextProperty("faIcons", iconTable());
-    context->setContextProperty("bs", themeTable());
-    context->setContextProperty("roundedImageFragShader", resourceText(":/Nuvex/GUI/RoundedImage.frag"));
-    context->setContextProperty("imageScopeFragShader", resourceText(":/Nuvex/GUI/ImageScope.frag"));
-    context->setContextProperty("asw", size.width());
-    context->setContextProperty("ash", size.height());
-}
-
 } // namespace
 
 TestProfile::TestProfile()
 {
     for (const char* place : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
         qputenv(place, QFile::encodeName(m_folder.filePath(place)));
-    QCoreApplication::setOrganizationName("Nuvex");
-    QCoreApplication::setApplicationName("Nuvex");
+    setApplicationNames();
 }
 
 void TestProfile::reset(const QVariantMap& settings)
@@ -79,17 +54,16 @@ void TestProfile::addProject(const QString& name, const QString& document)
 }
 
 Shell::Shell(const QVariantMap& initial, const QSize& size)
-    : m_api(std::make_unique<CAPI>(&m_view, nullptr, CAPI::WindowMode::AlwaysWindowed))
+    : m_api(std::make_unique<CAPI>(&m_view, nullptr, Deployment(), CAPI::WindowMode::AlwaysWindowed))
+    , m_context(*m_view.engine(), *m_api, size, 96)
 {
-    registerNativeTypes(Deployment());
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     QQmlEngine* engine = m_view.engine();
     QObject::connect(engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& errors) {
         for (const QQmlError& error : errors)
             m_warnings.append(error.toString());
     });
-    addImportPaths(*engine);
-    publish(m_view.rootContext(), m_api.get(), size);
+    prepareEngine(*engine, Deployment());
     m_view.setInitialProperties(initial);
     m_view.resize(size);
     m_view.setSource(QUrl("qrc:///Nuvex/PlayerQML/main.qml"));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "api/capi.h"
+#include "app/qmlcontext.h"
 
 #include <QQuickItem>
 #include <QQuickView>
@@ -53,4 +54,5 @@ private:
     QStringList m_warnings;
     QQuickView m_view;
     std::unique_ptr<CAPI> m_api;
+    QmlContext m_context;
 };

@@ -17,7 +17,8 @@ Item {
     /// A row; it has `entry`, and gets its width and height.
     property Component delegate
 
-    readonly property int rows: Math.max(1, Math.min(20, Math.floor((height + spacing) / Math.max(1, rowHeight + spacing))))
+    readonly property int rows:
+        Math.max(1, Math.min(20, Math.floor((height + spacing) / Math.max(1, rowHeight + spacing))))
     readonly property int pages: Math.max(1, Math.ceil(entries.length / rows))
     property int page: 0
     readonly property int first: Math.max(0, Math.min(page * rows, entries.length - rows))

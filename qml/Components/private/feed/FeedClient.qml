@@ -4,10 +4,10 @@ import QtQuick 2.15
 import QtQml 2.15
 import "answers.js" as Answers
 import "limits.js" as Limits
-import "../media.js" as Media
+import "../picture/media.js" as Media
 
-/// Keeps the answer of a service up to date while its item is seen. The last good answer stays through every failure, and
-/// through restarts of the program; after a failure the client tries again, at doubling pauses, for ever.
+/// Keeps the answer of a service up to date while its item is seen. The last good answer stays through every failure,
+/// and through restarts of the program; after a failure the client tries again, at doubling pauses, for ever.
 Item {
     id: root
 

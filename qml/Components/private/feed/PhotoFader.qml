@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import ".."
+import "../picture"
 
 /// Shows pictures one after the other, each fading in over the one before once it is complete. A picture that cannot be
 /// loaded is passed over; while none can, the one that is there stays.

@@ -6,8 +6,8 @@ import "forecast.js" as Forecast
 import "sample.js" as Sample
 import "../presence.js" as Presence
 
-/// The weather of a place for its parent, a Weather or WeatherForecast. Both ask for the same, so that one answer serves
-/// both.
+/// The weather of a place for its parent, a Weather or WeatherForecast. Both ask for the same, so that one answer
+/// serves both.
 FeedClient {
     id: root
 

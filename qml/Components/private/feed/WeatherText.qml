@@ -14,7 +14,8 @@ Column {
     property real measure: 100
     property real room: 200
     property bool isCentred: false
-    readonly property real lineWidth: Math.min(room, Math.max(first.implicitWidth, second.implicitWidth, third.implicitWidth))
+    readonly property real lineWidth:
+        Math.min(room, Math.max(first.implicitWidth, second.implicitWidth, third.implicitWidth))
 
     Text {
         id: first

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import ".."
+import "../picture"
 
 /// A small picture of an entry with rounded corners. Until it is there, and where there is none, its place holds the
 /// first letter of `label` on a colour of its own.

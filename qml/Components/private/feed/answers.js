@@ -6,7 +6,7 @@
 .import "limits.js" as Limits
 
 // Raised when the shape of an answer changes: older files count as none.
-var version = 1;
+const version = 1;
 
 /// The kept answer of `address`: a map with "time" (milliseconds since 1970) and "answer"; null when there is none.
 function recall(address) {

@@ -5,8 +5,8 @@
 // The days that a forecast shows.
 .import "forecast.js" as Forecast
 
-/// `count` days from the one of `now` (milliseconds since 1970) on: those that `answer`, as forecast.js reads it, knows;
-/// behind them, and without an answer, days with a date alone.
+/// `count` days from the one of `now` (milliseconds since 1970) on: those that `answer`, as forecast.js reads it,
+/// knows; behind them, and without an answer, days with a date alone.
 function shown(answer, count, now) {
     const known = answer ? Forecast.daysFrom(answer, now).slice(0, count) : [];
     const offset = answer ? answer.offset * 1000 : -new Date(now).getTimezoneOffset() * 60000;

@@ -33,7 +33,8 @@ function webAddress(text) {
 
 /// Address of the first picture in HTML `markup`; "" when there is none.
 function firstPicture(markup) {
-    const found = /<img\b[^<>]*\bsrc\s*=\s*["']([^"'<>]*)["']/i.exec(String(markup || "").slice(0, Limits.markupLength));
+    const found = /<img\b[^<>]*\bsrc\s*=\s*["']([^"'<>]*)["']/i
+        .exec(String(markup || "").slice(0, Limits.markupLength));
     return found ? webAddress(Xml.decoded(found[1])) : "";
 }
 

@@ -12,13 +12,14 @@
 .import "rss.js" as Rss
 
 /// What `text` tells: a map with "entries", a list of maps with "name", "account" (as "@jane"), "text", "avatar" (an
-/// address on the web or "") and "time" (milliseconds since 1970, 0 when unknown). Messages marked as sensitive are left
-/// out. null when it is no such answer.
+/// address on the web or "") and "time" (milliseconds since 1970, 0 when unknown). Messages marked as sensitive are
+/// left out. null when it is no such answer.
 function read(text) {
     const posts = _posts(Json.parsed(text));
     if (!posts)
         return null;
-    const entries = posts.filter(post => post && post.sensitive !== true && post.possibly_sensitive !== true).map(_entry);
+    const entries = posts.filter(post => post && post.sensitive !== true && post.possibly_sensitive !== true)
+                         .map(_entry);
     return { entries: entries.filter(entry => entry.text !== "").slice(0, Limits.entries) };
 }
 

@@ -7,8 +7,8 @@
 .import "plaintext.js" as PlainText
 .import "xml.js" as Xml
 
-/// What `text` tells: a map with "title" and "entries", a list of maps with "title", "summary", "picture" (an address on
-/// the web or "") and "time" (milliseconds since 1970, 0 when unknown). null when it is no feed.
+/// What `text` tells: a map with "title" and "entries", a list of maps with "title", "summary", "picture" (an address
+/// on the web or "") and "time" (milliseconds since 1970, 0 when unknown). null when it is no feed.
 function read(text) {
     const root = Xml.parse(text);
     const channel = root && _channel(root);
@@ -23,7 +23,8 @@ function read(text) {
 
 /// Milliseconds since 1970 of a date as RFC 822 or RFC 3339 writes it; 0 when it is neither.
 function timeOf(text) {
-    const parts = /(\d{1,2})\s+([A-Za-z]{3})[a-z]*\s+(\d{2,4})\s+(\d{1,2}):(\d{2})(?::(\d{2}))?\s*([+-]\d{4})?/.exec(text);
+    const parts = /(\d{1,2})\s+([A-Za-z]{3})[a-z]*\s+(\d{2,4})\s+(\d{1,2}):(\d{2})(?::(\d{2}))?\s*([+-]\d{4})?/
+        .exec(text);
     if (!parts)
         return /^\d{4}-\d{2}-\d{2}/.test(text) ? Date.parse(text) || 0 : 0;
     const month = _months.indexOf(parts[2].toLowerCase());

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "api/playerview.h"
+
+#include <QQuickItem>
+#include <QQuickView>
+
+namespace {
+
+QObject* playerIn(const QQuickView* view)
+{
+    const QObject* root = view ? view->rootObject() : nullptr;
+    return root ? root->findChild<QObject*>(QStringLiteral("thePlayer")) : nullptr;
+}
+
+} // namespace
+
+bool PlayerView::showsDocument() const
+{
+    const QObject* player = playerIn(m_view);
+    return player && player->property("item").value<QObject*>();
+}

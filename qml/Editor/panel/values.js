@@ -1,0 +1,57 @@
+.pragma library
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+//
+// Values as QML source writes them.
+
+/// `text` between double quotes.
+function quoted(text) {
+    return JSON.stringify(String(text)).replace(/[\u2028\u2029]/g, mark => "\\u" + mark.charCodeAt(0).toString(16));
+}
+
+/// A number with at most `decimals` digits after the point.
+function number(value, decimals) {
+    return String(Number(Number(value).toFixed(decimals)));
+}
+
+/// The text that `source` writes between quotes; undefined when it is anything but one quoted text.
+function textIn(source) {
+    if (!/^(?:"(?:[^"\\\n]|\\[^\n])*"|'(?:[^'\\\n]|\\[^\n])*')$/.test(source.trim()))
+        return undefined;
+    return eval(source.trim());
+}
+
+/// Whether `source` is a list or value without anything that has to be worked out: no names, calls or operators.
+function isPlain(source) {
+    const rest = source.replace(/"(?:[^"\\]|\\[^])*"|'(?:[^'\\]|\\[^])*'/g, "0")
+                       .replace(/\/\*[^]*?\*\/|\/\/[^\n]*/g, "").replace(/[A-Za-z_]\w*\s*:/g, "")
+                       .replace(/\b(?:true|false|null)\b/g, "0");
+    return /^[\s\[\]{},:0-9.eE+-]*$/.test(rest);
+}
+
+/// `entries`, a list of objects with texts, numbers and truth values, as a list over several lines, the first of which
+/// is indented by `indentation`. Members that are undefined or "" are left out.
+function list(entries, indentation) {
+    const lines = entries.map(entry => indentation + "    " + _object(entry));
+    return lines.length === 0 ? "[]" : "[\n" + lines.join(",\n") + "\n" + indentation + "]";
+}
+
+function _object(entry) {
+    if (typeof entry !== "object" || entry === null)
+        return _value(entry);
+    const members = Object.keys(entry).filter(name => entry[name] !== undefined && entry[name] !== "");
+    return "{ " + members.map(name => name + ": " + _value(entry[name])).join(", ") + " }";
+}
+
+function _value(value) {
+    if (Array.isArray(value))
+        return "[" + value.map(_value).join(", ") + "]";
+    return typeof value === "string" ? quoted(value)
+         : typeof value === "object" && value !== null ? _object(value) : String(value);
+}
+
+// What a panel calls the value `name`, a name in camel case: "Slide left" for slideLeft.
+function words(name) {
+    const text = name.replace(/[A-Z]/g, letter => " " + letter.toLowerCase());
+    return text[0].toUpperCase() + text.slice(1);
+}

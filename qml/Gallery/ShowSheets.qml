@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.Components 1.0
+
+/// What takes turns: slides, schedules, carousels.
+SheetColumns {
+    id: root
+
+    narrowest: 40
+    most: 4
+
+    Specimen {
+        title: "Slideshow"
+        about: qsTr("Slides that take turns")
+
+        Slideshow {
+            width: 960
+            height: 540
+            transType: "slideLeft"
+
+            SampleSlide { text: qsTr("First slide"); tagColor: "#2878bd" }
+            SampleSlide { text: qsTr("Second slide"); tagColor: "#a8521c" }
+            SampleSlide { text: qsTr("Third slide"); tagColor: "#2f6f55" }
+        }
+    }
+
+    Specimen {
+        title: "Slide"
+        about: qsTr("One slide of a show")
+        Slideshow { width: 960; height: 540; SampleSlide { text: qsTr("A slide"); tagColor: "#6b4e9b" } }
+    }
+
+    Specimen {
+        title: "Schedule"
+        about: qsTr("Slides by the time of day")
+
+        Schedule {
+            width: 960
+            height: 540
+            schedules: [{ name: "Day", slide: 0, begin: "06:00", end: "18:00" },
+                        { name: "Night", slide: 1, begin: "18:00", end: "06:00" }]
+
+            SampleSlide { text: qsTr("From six to eighteen"); tagColor: "#2878bd" }
+            SampleSlide { text: qsTr("From eighteen to six"); tagColor: "#17212b" }
+        }
+    }
+
+    Specimen {
+        title: "Carousel"
+        about: qsTr("Pictures on a ring")
+        Carousel { width: 960; height: 480 }
+    }
+
+    Specimen {
+        title: "GridOrganizer"
+        about: qsTr("Pictures in a grid")
+        GridOrganizer { width: 840; height: 480; columns: 3; spacing: 12 }
+    }
+}
