@@ -137,16 +137,20 @@ ComponentCase {
         waitForRendering(show);
         for (var from = 0; from < 2; ++from) {
             show.next();
-            var leaving = 0, coming = 0;
+            var leaving = 0, coming = 0, changing = 0;
             do {
                 var frame = grabImage(show);
                 var greens = [frame.green(70, 70), frame.green(250, 70)];
                 verify(Math.min(greens[0], greens[1]) < 10, "two texts: " + greens);
+                if (Math.min(frame.red(5, 5), frame.blue(5, 5)) > 20) {
+                    ++changing;
+                    verify(Math.max(greens[0], greens[1]) < 10, "a text while the picture changes: " + greens);
+                }
                 leaving += greens[from] >= 10 && greens[from] < 195 ? 1 : 0;
                 coming += greens[1 - from] >= 10 && greens[1 - from] < 195 ? 1 : 0;
                 wait(10);
             } while (show.turning);
-            verify(leaving > 0 && coming > 0, leaving + " pale frames of the old text, " + coming + " of the new one");
+            verify(leaving > 0 && changing > 0 && coming > 0, [leaving, changing, coming] + " frames");
         }
         show.slides.forEach(slide => compare(slide.text.opacity, 0.8));
         show.currentSlide.level = 0.5;

@@ -4,8 +4,8 @@ import QtQuick 2.15
 import QtQml 2.15
 import "front.js" as Front
 
-/// Draws what stands before the pictures of a slide paler, each item by its own opacity, which the document may have set
-/// or bound: at full shade it is as it was.
+/// Draws what stands before the pictures of a slide paler, each item by its own opacity, which the document may have
+/// set or bound: at full shade it is as it was.
 Instantiator {
     id: root
 

@@ -4,8 +4,8 @@
 //
 // What of a slide stands before its pictures.
 
-/// The items in `item`, a slide or part of it, that are no pictures: all but those that show a source or fill the slide.
-/// What lies in an item that fills it is looked at by itself.
+/// The items in `item`, a slide or part of it, that are no pictures: all but those that show a source or fill the
+/// slide. What lies in an item that fills it is looked at by itself.
 function itemsOf(slide, item) {
     const found = [];
     for (let i = 0; i < item.children.length; ++i) {

@@ -99,8 +99,8 @@ const steps = {
         incoming.x = width * (1 - progress);
         outgoing.x = -0.3 * width * progress;
     },
-    // Texts leave, the picture changes, texts come: never two texts over each other. Progress is slow at both ends: each
-    // of the three takes about a third of the time.
+    // Texts leave, the picture changes, texts come: never two texts over each other. Progress is slow at both ends:
+    // each of the three takes about a third of the time.
     stagger: function(incoming, outgoing, progress) {
         outgoing.front = 1 - part(progress, 0, 0.1);
         fade(incoming, outgoing, part(progress, 0.1, 0.9));
