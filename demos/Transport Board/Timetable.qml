@@ -7,14 +7,15 @@ Item {
     id: root
 
     property string title
-    /// What leaves, as objects: line, color and ink of its sign, to, platform, every (minutes between two), at (minutes
-    /// past the full hour of one of them), and first and last (minutes since midnight) of what does not leave all day.
+    /// What leaves, as objects: line, color of its sign and ink (its text's colour, else white), to, platform, every
+    /// (minutes between two), at (minutes past the full hour of one of them), and first and last (minutes since
+    /// midnight) of what does not leave all day.
     property var departures: []
     property date now: new Date()
     readonly property int minute: now.getHours() * 60 + now.getMinutes()
 
     width: 1128
-    height: 744
+    height: 752
 
     component Head: Text {
         color: "#b4c2dd"
@@ -74,7 +75,8 @@ Item {
             readonly property int every: modelData.every
             readonly property int first: modelData.first || 0
             readonly property int last: modelData.last || 1440
-            // Minutes until the next one. Long before the day's first and after its last one, the first one's time stands there.
+            // Minutes until the next one. Long before the day's first one and after its last, the time of the first is
+            // shown instead.
             readonly property int next: root.minute < first ? first - root.minute
                                                             : (every + modelData.at - root.minute % every) % every
             readonly property bool leaves: root.minute >= first - every && root.minute + next <= last
@@ -97,7 +99,7 @@ Item {
                 Text {
                     anchors.centerIn: parent
                     text: modelData.line
-                    color: modelData.ink
+                    color: modelData.ink || "#ffffff"
                     font.family: "Manrope"
                     font.bold: true
                     font.pixelSize: 40

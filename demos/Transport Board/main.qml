@@ -72,12 +72,12 @@ Rectangle {
                 y: 0
                 title: "Metro"
                 departures: [
-                    { line: "1", color: "#d93a43", ink: "#ffffff", to: "Northfields", platform: "1", every: 4, at: 1 },
-                    { line: "1", color: "#d93a43", ink: "#ffffff", to: "Lighthouse", platform: "2", every: 4, at: 3 },
-                    { line: "2", color: "#2f6fde", ink: "#ffffff", to: "Castle", platform: "3", every: 6, at: 2 },
-                    { line: "2", color: "#2f6fde", ink: "#ffffff", to: "Airport", platform: "4", every: 6, at: 5 },
-                    { line: "4", color: "#23835a", ink: "#ffffff", to: "Hill View", platform: "5", every: 8, at: 3 },
-                    { line: "4", color: "#23835a", ink: "#ffffff", to: "Shipyard", platform: "6", every: 8, at: 7 },
+                    { line: "1", color: "#d93a43", to: "Northfields", platform: "1", every: 4, at: 1 },
+                    { line: "1", color: "#d93a43", to: "Lighthouse", platform: "2", every: 4, at: 3 },
+                    { line: "2", color: "#2f6fde", to: "Castle", platform: "3", every: 6, at: 2 },
+                    { line: "2", color: "#2f6fde", to: "Airport", platform: "4", every: 6, at: 5 },
+                    { line: "4", color: "#23835a", to: "Hill View", platform: "5", every: 8, at: 3 },
+                    { line: "4", color: "#23835a", to: "Shipyard", platform: "6", every: 8, at: 7 },
                     { line: "7", color: "#f0a92c", ink: "#10192e", to: "Opera", platform: "7", every: 10, at: 4 },
                     { line: "7", color: "#f0a92c", ink: "#10192e", to: "Beach", platform: "8", every: 10, at: 9 }
                 ]
@@ -94,15 +94,15 @@ Rectangle {
                 y: 0
                 title: "Bus and ferry"
                 departures: [
-                    { line: "12", color: "#7d56c2", ink: "#ffffff", to: "Old Brewery", platform: "A", every: 10, at: 2 },
-                    { line: "18", color: "#7d56c2", ink: "#ffffff", to: "Hospital", platform: "A", every: 12, at: 7 },
-                    { line: "21", color: "#7d56c2", ink: "#ffffff", to: "Botanical Garden", platform: "B", every: 15, at: 6 },
-                    { line: "34", color: "#7d56c2", ink: "#ffffff", to: "Stadium", platform: "C", every: 10, at: 8 },
-                    { line: "40", color: "#7d56c2", ink: "#ffffff", to: "Old Airfield", platform: "D", every: 15, at: 11 },
-                    { line: "52", color: "#7d56c2", ink: "#ffffff", to: "Vineyards", platform: "D", every: 20, at: 13 },
-                    { line: "F1", color: "#0f7f8c", ink: "#ffffff", to: "Lighthouse", platform: "Pier", every: 20, at: 10,
+                    { line: "12", color: "#7d56c2", to: "Old Brewery", platform: "A", every: 10, at: 2 },
+                    { line: "18", color: "#7d56c2", to: "Hospital", platform: "A", every: 12, at: 7 },
+                    { line: "21", color: "#7d56c2", to: "Botanical Garden", platform: "B", every: 15, at: 6 },
+                    { line: "34", color: "#7d56c2", to: "Stadium", platform: "C", every: 10, at: 8 },
+                    { line: "40", color: "#7d56c2", to: "Old Airfield", platform: "D", every: 15, at: 11 },
+                    { line: "52", color: "#7d56c2", to: "Vineyards", platform: "D", every: 20, at: 13 },
+                    { line: "F1", color: "#0f7f8c", to: "Lighthouse", platform: "Pier", every: 20, at: 10,
                       first: 400, last: 1310 },
-                    { line: "F2", color: "#0f7f8c", ink: "#ffffff", to: "Seal Island", platform: "Pier", every: 60, at: 30,
+                    { line: "F2", color: "#0f7f8c", to: "Seal Island", platform: "Pier", every: 60, at: 30,
                       first: 450, last: 1170 }
                 ]
             }
@@ -118,14 +118,14 @@ Rectangle {
                 y: 0
                 title: "Night lines"
                 departures: [
-                    { line: "N1", color: "#d93a43", ink: "#ffffff", to: "Northfields", platform: "A", every: 30, at: 5 },
-                    { line: "N2", color: "#2f6fde", ink: "#ffffff", to: "Airport", platform: "A", every: 20, at: 12 },
-                    { line: "N3", color: "#2f6fde", ink: "#ffffff", to: "Castle", platform: "B", every: 30, at: 20 },
-                    { line: "N4", color: "#23835a", ink: "#ffffff", to: "Hill View", platform: "B", every: 30, at: 10 },
-                    { line: "N5", color: "#23835a", ink: "#ffffff", to: "Shipyard", platform: "C", every: 60, at: 25 },
+                    { line: "N1", color: "#d93a43", to: "Northfields", platform: "A", every: 30, at: 5 },
+                    { line: "N2", color: "#2f6fde", to: "Airport", platform: "A", every: 20, at: 12 },
+                    { line: "N3", color: "#2f6fde", to: "Castle", platform: "B", every: 30, at: 20 },
+                    { line: "N4", color: "#23835a", to: "Hill View", platform: "B", every: 30, at: 10 },
+                    { line: "N5", color: "#23835a", to: "Shipyard", platform: "C", every: 60, at: 25 },
                     { line: "N7", color: "#f0a92c", ink: "#10192e", to: "Beach", platform: "C", every: 30, at: 15 },
-                    { line: "N9", color: "#7d56c2", ink: "#ffffff", to: "Hospital", platform: "D", every: 60, at: 40 },
-                    { line: "N12", color: "#7d56c2", ink: "#ffffff", to: "Stadium", platform: "D", every: 60, at: 50 }
+                    { line: "N9", color: "#7d56c2", to: "Hospital", platform: "D", every: 60, at: 40 },
+                    { line: "N12", color: "#7d56c2", to: "Stadium", platform: "D", every: 60, at: 50 }
                 ]
             }
         }
