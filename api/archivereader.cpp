@@ -14,6 +14,8 @@
 
 #include <quazip/quazipfile.h>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int utf8Flag = 0x800;
@@ -152,6 +154,8 @@ Outcome ArchiveReader::copy(QuaZipFile& source, QFile& target, quint64 size, Job
         if (target.write(m_buffer.constData(), count) != count)
             return Outcome::failure(qt_error_string(errno));
         control.advance(count);
+        if ((m_unsynced += count) >= limits::unsyncedBytes && ::syncfs(target.handle()) == 0)
+            m_unsynced = 0;
     }
     source.close(); // verifies the checksum
     return copied == size && source.getZipError() == UNZ_OK ? Outcome::success()

@@ -51,4 +51,5 @@ private:
     QVector<QuaZipFileInfo64> m_entries;
     QSet<QString> m_folders;
     QByteArray m_buffer;
+    qint64 m_unsynced = 0; // bytes
 };

@@ -16,7 +16,7 @@ BackgroundJob::BackgroundJob()
 
 BackgroundJob::~BackgroundJob()
 {
-    cancel();
+    m_control->abandon();
     m_future.waitForFinished();
 }
 

@@ -24,7 +24,7 @@ public:
     using Work = std::function<Outcome(JobControl&)>;
 
     BackgroundJob();
-    /// Stops the work and waits until it has.
+    /// Abandons the work and waits until it has stopped.
     ~BackgroundJob() override;
 
     /// Begins; not while running.

@@ -13,7 +13,8 @@ class ImportQueue : public QObject
     Q_OBJECT
 
 public:
-    /// Imports into the folder `work` of all projects.
+    /// Imports into the folder `work` of all projects. An import under way stops when this object goes, which
+    /// may leave something for Leftovers at the next start.
     explicit ImportQueue(const QString& work);
 
     /// Imports this archive when those begun before have ended.

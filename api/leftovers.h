@@ -19,7 +19,7 @@ class Leftovers
 public:
     /// Puts back what a killed import has moved aside, at once; removes the rest on a pool thread.
     explicit Leftovers(const Workspace& workspace);
-    /// Stops, as soon as the folder being removed is gone; what remains is for the next start.
+    /// Stops; what remains is for the next start.
     ~Leftovers();
     Q_DISABLE_COPY(Leftovers)
 
@@ -27,8 +27,10 @@ public:
     void wait() { m_removal.waitForFinished(); }
 
 private:
-    void remove(const QString& root);
+    void remove();
 
+    QString m_root;
+    QString m_work;
     std::vector<StagingFolder> m_imports; // the pool thread's while it removes
     std::vector<StagingFolder> m_exports;
     JobControl m_control;

@@ -18,6 +18,9 @@ constexpr int archiveEntries = 100'000;
 /// Bytes that one byte of deflate's format can unpack to: 258 for two bits (RFC 1951).
 constexpr quint64 deflateRatio = 1032;
 
+/// Bytes that an import writes before it waits for the disk, which cannot be interrupted.
+constexpr qint64 unsyncedBytes = 32LL * 1024 * 1024;
+
 /// How often the progress of work in the background is shown.
 constexpr std::chrono::milliseconds progressInterval{100};
 

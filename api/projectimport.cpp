@@ -42,6 +42,13 @@ public:
     {
     }
 
+    ~ProjectImport()
+    {
+        if (!m_staging.path().isEmpty())
+            staging::tidyUp(m_staging, m_work, m_control);
+    }
+    Q_DISABLE_COPY(ProjectImport)
+
     QStringList projects() const { return m_projects; }
 
     Outcome run()

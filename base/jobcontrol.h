@@ -14,6 +14,13 @@ class JobControl
 public:
     void cancel() { m_cancelled = true; }
     bool isCancelled() const { return m_cancelled; }
+    /// Cancels, and leaves even what is to be tidied up then to the next start: the program ends.
+    void abandon()
+    {
+        m_abandoned = true;
+        cancel();
+    }
+    bool isAbandoned() const { return m_abandoned; }
 
     /// The size of the whole work, in bytes or whatever it counts.
     void setTotal(qint64 total) { m_total = total; }
@@ -23,6 +30,7 @@ public:
 
 private:
     std::atomic_bool m_cancelled{false};
+    std::atomic_bool m_abandoned{false};
     std::atomic<qint64> m_total{0};
     std::atomic<qint64> m_done{0};
 };

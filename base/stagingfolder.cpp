@@ -4,9 +4,10 @@
 #include "base/stagingfolder.h"
 
 #include "base/filelock.h"
+#include "base/jobcontrol.h"
 #include "base/logging.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -22,6 +23,19 @@ namespace {
 int openFolder(const QString& path)
 {
     return ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+bool removeFolder(const QString& path, const JobControl& control)
+{
+    QDirIterator children(path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (children.hasNext() && !control.isAbandoned()) {
+        const QString child = children.next();
+        if (children.fileInfo().isDir() && !children.fileInfo().isSymLink())
+            removeFolder(child, control);
+        else
+            QFile::remove(child);
+    }
+    return QDir().rmdir(path);
 }
 
 } // namespace
@@ -40,9 +54,14 @@ StagingFolder::StagingFolder(StagingFolder&& other) noexcept
 
 StagingFolder::~StagingFolder()
 {
+    remove(JobControl());
+}
+
+void StagingFolder::remove(const JobControl& control)
+{
     if (m_fd < 0)
         return;
-    if (!QDir(m_path).removeRecursively())
+    if (!removeFolder(m_path, control) && !control.isAbandoned())
         qCWarning(lcBase) << "Cannot remove all of" << m_path;
     leave();
 }

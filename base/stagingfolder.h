@@ -9,6 +9,8 @@
 
 #include <vector>
 
+class JobControl;
+
 /// A hidden folder in which something is built before it takes its place beside it. It goes with this object,
 /// with everything in it; what a killed process leaves, abandoned() finds. Any thread, one at a time.
 class StagingFolder
@@ -26,7 +28,10 @@ public:
     static std::vector<StagingFolder> abandoned(const QString& parent, const QString& prefix);
 
     QString path() const { return m_path; }
-    /// Leaves the folder where it is, for abandoned() to find.
+    /// Removes the folder with everything in it; what is still there when `control` is abandoned stays, for
+    /// abandoned() to find.
+    void remove(const JobControl& control);
+    /// Lets the folder stay, for abandoned() to find.
     void leave();
     /// Brings what was written in it, and all else on its file system, to the disk; blocks until then.
     Outcome sync() const;

@@ -4,6 +4,7 @@
 #include "api/importqueue.h"
 #include "api/leftovers.h"
 #include "api/workspace.h"
+#include "tests/support/faults.h"
 #include "tests/support/files.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/ziparchive.h"
@@ -21,6 +22,7 @@ private slots:
     void importsInTurn();
     void stops_data();
     void stops();
+    void displacedProjectComesBack();
 
 private:
     QString zip(const QString& name, const QVector<QByteArray>& files)
@@ -95,8 +97,9 @@ void TestImportQueue::stops()
     QTRY_VERIFY(queue->progress() > 0);
     Leftovers(Workspace(m_dir->path())).wait();
     QCOMPARE(QDir(m_work).entryList({".import-*"}, QDir::Dirs | QDir::Hidden).size(), 1);
-    if (byDestruction) {
+    if (byDestruction) { // at once: tidying up is left to the next start
         queue.reset();
+        Leftovers(Workspace(m_dir->path())).wait();
     } else {
         queue->cancel();
         QTRY_COMPARE(finished, QList<QVariantList>({{large, "", QStringList()}}));
@@ -106,6 +109,21 @@ void TestImportQueue::stops()
              QStringList("Shop"));
     QCOMPARE(QDir(m_work + "/Shop").entryList(QDir::Files), QStringList("main.qml"));
     QCOMPARE(contents(m_work + "/Shop/main.qml"), QByteArray("old"));
+}
+
+// What a killed import had moved aside may be the only copy.
+void TestImportQueue::displacedProjectComesBack()
+{
+    const QString aside = m_work + "/.import-0123456789abcdef/displaced/Cafe/main.qml";
+    write(aside, "only copy");
+    for (const Fault fault : {Fault::Rename, Fault::None}) {
+        const LogCapture log;
+        const FaultInjection injection(fault);
+        Leftovers(Workspace(m_dir->path())).wait();
+        QCOMPARE(QFile::exists(aside), fault == Fault::Rename);
+    }
+    QCOMPARE(contents(m_work + "/Cafe/main.qml"), QByteArray("only copy"));
+    QVERIFY(!QFile::exists(m_work + "/.import-0123456789abcdef"));
 }
 
 QTEST_GUILESS_MAIN(TestImportQueue)

@@ -237,8 +237,9 @@ class PagesTest(ProgramTest):
             program.wait_page("MainPage")
             program.key("Escape")
             self.assertEqual(program.process.wait(20), 0)
-            self.assertEqual([path.name for path in self.profile.work.iterdir()], ["Shop"])
             self.assertEqual(len(list((self.profile.work / "Shop").iterdir())), 2)
+            with self.start():
+                wait_for(lambda: [path.name for path in self.profile.work.iterdir()] == ["Shop"], "the tidying up")
 
     def test_last_project_goes(self):
         program = self.start()

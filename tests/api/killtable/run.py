@@ -10,7 +10,9 @@ import sys
 import zipfile
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "support"))
+ROOT = Path(__file__).resolve().parents[3]
+BUILT = ROOT / "build/dev/tests"
+sys.path.insert(0, str(ROOT / "tests/support"))
 from killtable import KillTable, Scenario, tree  # noqa: E402
 
 OLD = {"Shop/main.qml": b"old", "Shop/images/a.png": b"old a", "Shop/images/kept.png": b"kept" * 50_000,
@@ -142,14 +144,15 @@ SCENARIOS = [ImportOverAProject, ImportWithoutExchange, ImportOfSeveral, ExportO
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--library", required=True, help="what tests/support/killpoint.cpp builds")
-    parser.add_argument("--victim", required=True, help="what workspaceuser.cpp builds")
+    parser.add_argument("--library", default=BUILT / "support/libnuvex_killpoint.so",
+                        help="what tests/support/killpoint.cpp builds")
+    parser.add_argument("--victim", default=BUILT / "api/workspaceuser", help="what workspaceuser.cpp builds")
     parser.add_argument("--sample", type=int, default=0, help="rows of each table; all without it")
     parser.add_argument("--seed", type=int, default=1)
     options = parser.parse_args()
-    InWorkspace.victim = options.victim
+    InWorkspace.victim = str(options.victim)
     for scenario in SCENARIOS:
-        with KillTable(options.library, scenario, options.seed) as table:
+        with KillTable(str(options.library), scenario, options.seed) as table:
             print("\n", table.rows(options.sample))
 
 
