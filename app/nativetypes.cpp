@@ -5,6 +5,7 @@
 
 #include "api/exports.h"
 #include "api/imports.h"
+#include "api/projectstill.h"
 #include "api/textfile.h"
 #include "cloud/deployment.h"
 #include "quick/highlighter/syntaxhighlighter.h"
@@ -20,6 +21,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
     qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
     qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
+    qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
