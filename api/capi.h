@@ -64,6 +64,8 @@ public:
     QString resolvedPath(const QString& path) const { return m_folder.resolved(path); }
     /// The imports into this instance's work directory.
     ImportQueue& imports() { return m_imports; }
+    /// Where the projects lie.
+    const Workspace& workspace() const { return m_workspace; }
 
 signals:
     /// Imports have begun (false) or have all ended (true).

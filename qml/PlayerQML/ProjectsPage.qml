@@ -108,7 +108,7 @@ FormPage {
         anchors.top: news.bottom
         anchors.bottom: message.top
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 90 * BGUI.Theme.unit)
+        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 110 * BGUI.Theme.unit)
         visible: root.tab === 0
         focus: visible
         onChosen: root.choose(name)
