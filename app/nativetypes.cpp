@@ -3,6 +3,10 @@
 
 #include "app/nativetypes.h"
 
+#include "api/exports.h"
+#include "api/imports.h"
+#include "api/projectstill.h"
+#include "api/textfile.h"
 #include "cloud/deployment.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/picture/boundedimage.h"
@@ -21,6 +25,10 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterRevision<QQuickImageBase, 15>("Nuvex.Native", 1, 1);
     qmlRegisterRevision<QQuickImage, 15>("Nuvex.Native", 1, 1);
     qmlRegisterType<BoundedImage>("Nuvex.Native", 1, 1, "BoundedImage");
+    qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
+    qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
+    qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
+    qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",
