@@ -4,6 +4,7 @@
 #include "app/nativetypes.h"
 
 #include "cloud/deployment.h"
+#include "qmldoc/documentfaults.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/video/transparentvideo.h"
 
@@ -15,6 +16,7 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",

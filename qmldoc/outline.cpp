@@ -98,9 +98,10 @@ private:
             listBinding(i, static_cast<const UiArrayBinding*>(node));
             break;
         case Node::Kind_UiInlineComponent:
-            at(i).kind = Member::InlineComponent;
-            at(i).end = end(node->lastSourceLocation());
-            member(static_cast<const UiInlineComponent*>(node)->component, i);
+            inlineComponent(i, static_cast<const UiInlineComponent*>(node));
+            break;
+        case Node::Kind_UiSourceElement:
+            function(i, static_cast<const UiSourceElement*>(node));
             break;
         default:
             at(i).end = end(node->lastSourceLocation());
@@ -140,6 +141,7 @@ private:
     {
         at(i).kind = Member::Declaration;
         at(i).isSignal = node->type == UiPublicMember::Signal;
+        at(i).isAlias = node->memberType && node->memberType->name == QLatin1String("alias");
         at(i).nameBegin = begin(node->identifierToken);
         at(i).nameEnd = end(node->identifierToken);
         at(i).end = end(node->lastSourceLocation());
@@ -151,6 +153,15 @@ private:
         const int value = int(m_outline.m_members.size());
         member(node->binding, i);
         at(i).valueBegin = at(value).valueBegin;
+    }
+
+    void inlineComponent(int i, const UiInlineComponent* node)
+    {
+        at(i).kind = Member::InlineComponent;
+        at(i).nameBegin = firstTokenAfter(end(node->componentToken), m_outline.m_text);
+        at(i).nameEnd = at(i).nameBegin + node->name.size();
+        at(i).end = end(node->lastSourceLocation());
+        member(node->component, i);
     }
 
     void scriptBinding(int i, const UiScriptBinding* node)
@@ -176,6 +187,16 @@ private:
         at(i).bodyBegin = end(node->lbracketToken);
         for (const UiArrayMemberList* list = node->members; list; list = list->next)
             member(list->member, i);
+    }
+
+    void function(int i, const UiSourceElement* node)
+    {
+        at(i).kind = Member::Function;
+        at(i).end = end(node->lastSourceLocation());
+        if (const FunctionExpression* definition = node->sourceElement->asFunctionDefinition()) {
+            at(i).nameBegin = begin(definition->identifierToken);
+            at(i).nameEnd = end(definition->identifierToken);
+        }
     }
 
     void bound(int i, const SourceLocation& colon, const SourceLocation& last)

@@ -24,20 +24,22 @@ public:
             ObjectBinding,   ///< `name: Type { }` or `Type on name { }`
             ListBinding,     ///< `name: [Type { }]`
             InlineComponent, ///< `component Name: Type { }`
-            Other,           ///< a function, an enumeration
+            Function,
+            Other, ///< an enumeration, a property that is required
         };
         Kind kind = Other;
         bool isNumbered = false;   ///< an object that the editor numbers
         bool takesMembers = false; ///< an object with a type of its own: no group, no ListElement
         bool isSignal = false;
-        int parent = -1;    ///< index of the member that holds this one; -1 for the root
-        int next = 0;       ///< index behind the last member that this one holds
-        int begin = 0;      ///< of the first keyword or name
-        int nameBegin = 0;  ///< of an object's type, a declared name, a bound name
-        int nameEnd = 0;    ///< of an object's type up to its first dot, a declared name, a bound name
-        int valueBegin = 0; ///< of what follows the colon; `end` when nothing does
-        int bodyBegin = -1; ///< behind the opening brace or bracket; -1 when there is none
-        int end = 0;        ///< of the closing brace, or of the value and, behind a script, its semicolon
+        bool isAlias = false; ///< a declaration
+        int parent = -1;      ///< index of the member that holds this one; -1 for the root
+        int next = 0;         ///< index behind the last member that this one holds
+        int begin = 0;        ///< of the first keyword or name
+        int nameBegin = 0;    ///< of an object's type, a declared name, a bound name
+        int nameEnd = 0;      ///< of an object's type up to its first dot, a declared name, a bound name
+        int valueBegin = 0;   ///< of what follows the colon; `end` when nothing does
+        int bodyBegin = -1;   ///< behind the opening brace or bracket; -1 when there is none
+        int end = 0;          ///< of the closing brace, or of the value and, behind a script, its semicolon
     };
 
     /// Parses `text`. What is no document, or nests deeper than limits::maxDepth objects, has an error() and
@@ -61,7 +63,8 @@ public:
     /// there is none. Its properties are its own declarations and script bindings and those in its object
     /// bindings, but none of the objects that it holds.
     int nextProperty(int object, int i) const;
-    /// The type of an object up to its first dot, or a declared name; escapes in it are worked out.
+    /// The type of an object up to its first dot, or a declared name, escapes worked out; or a bound name as
+    /// it stands, with its blanks and comments.
     QString name(const Member& member) const;
 
 private:

@@ -12,15 +12,6 @@ namespace {
 
 const QString noSource;
 
-std::vector<int> closingBraces(const Outline& outline)
-{
-    std::vector<int> positions;
-    positions.reserve(outline.items().size());
-    for (const int item : outline.items())
-        positions.push_back(outline.member(item).end - 1);
-    return positions;
-}
-
 QString inLatin1(const QString& name)
 {
     const bool isAscii = std::all_of(name.cbegin(), name.cend(), [](QChar c) { return c.unicode() < 0x80; });
@@ -59,7 +50,7 @@ bool QmlDocument::parse(const QString& source, int firstElement)
         return false;
     }
     m_outline = std::move(outline);
-    m_generatedText = editorText(source, closingBraces(m_outline), firstElement);
+    m_generatedText = editorText(source, m_outline, firstElement);
     return true;
 }
 
