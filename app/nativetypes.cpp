@@ -5,6 +5,7 @@
 
 #include "cloud/deployment.h"
 #include "qmldoc/documentfaults.h"
+#include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/video/transparentvideo.h"
 
@@ -18,6 +19,9 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     // The engine owns a singleton that its provider returns.
+    qmlRegisterSingletonType<SourceEdits>(
+        "Nuvex.Native", 1, 1, "SourceEdits",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SourceEdits; });
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",
         [deployment](QQmlEngine*, QJSEngine*) -> QObject* { return new DeploymentInfo(deployment); });
