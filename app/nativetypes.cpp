@@ -8,6 +8,8 @@
 #include "api/projectstill.h"
 #include "api/textfile.h"
 #include "cloud/deployment.h"
+#include "qmldoc/documentfaults.h"
+#include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/picture/boundedimage.h"
 #include "quick/video/transparentvideo.h"
@@ -29,7 +31,11 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
     qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
+    qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     // The engine owns a singleton that its provider returns.
+    qmlRegisterSingletonType<SourceEdits>(
+        "Nuvex.Native", 1, 1, "SourceEdits",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SourceEdits; });
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",
         [deployment](QQmlEngine*, QJSEngine*) -> QObject* { return new DeploymentInfo(deployment); });
