@@ -3,7 +3,13 @@
 
 #include "app/nativetypes.h"
 
+#include "api/exports.h"
+#include "api/imports.h"
+#include "api/projectstill.h"
+#include "api/textfile.h"
 #include "cloud/deployment.h"
+#include "qmldoc/documentfaults.h"
+#include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/picture/boundedimage.h"
 #include "quick/video/transparentvideo.h"
@@ -21,7 +27,15 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterRevision<QQuickImageBase, 15>("Nuvex.Native", 1, 1);
     qmlRegisterRevision<QQuickImage, 15>("Nuvex.Native", 1, 1);
     qmlRegisterType<BoundedImage>("Nuvex.Native", 1, 1, "BoundedImage");
+    qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
+    qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
+    qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
+    qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
+    qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     // The engine owns a singleton that its provider returns.
+    qmlRegisterSingletonType<SourceEdits>(
+        "Nuvex.Native", 1, 1, "SourceEdits",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SourceEdits; });
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",
         [deployment](QQmlEngine*, QJSEngine*) -> QObject* { return new DeploymentInfo(deployment); });
