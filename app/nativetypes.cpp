@@ -3,7 +3,9 @@
 
 #include "app/nativetypes.h"
 
+#include "app/exchangetype.h"
 #include "cloud/deployment.h"
+#include "lan/projectexchange.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/video/transparentvideo.h"
 
@@ -15,6 +17,8 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    qmlRegisterType<ExchangeType>("Nuvex.Native", 1, 1, "Exchange");
+    qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",
