@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "private"
+import "private/limits.js" as Limits
 import "SharedVars.js" as SS
 
 /// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
@@ -101,7 +102,7 @@ StackPage {
     Timer {
         id: later
         property var task
-        interval: 10
+        interval: Limits.drawFirst
         onTriggered: task()
     }
 }
