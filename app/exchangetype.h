@@ -12,10 +12,29 @@
 class LocalNetwork;
 class ProjectExchange;
 
-/// The QML type Exchange: the players of the local network, and the exchange of a project with one of them.
-/// The program has one exchange at a time, which every object of this type shows. GUI thread.
+/// The QML type Exchange of "Nuvex.Native" 1.1: the players of the local network, and the exchange of a
+/// project with one of them. GUI thread.
 ///
-/// Players are there once CAPI.startLocalServer() was called.
+///     import Nuvex.Native 1.1
+///     Exchange { id: exchange }
+///     Connections { target: exchange.status; function onFinished() { say(exchange.status.outcome); } }
+///     ... model: exchange.players; onClicked: exchange.fetch(modelData, "Shop")
+///
+/// Nothing here waits: send() and fetch() return at once, and `status` tells the rest. The program has one
+/// exchange at a time, which every object of this type shows and which goes on when its page is left.
+/// CAPI.setConnectedPlayerName() uses the same one. Players appear once CAPI.startLocalServer() was called.
+///
+/// `status` has, all read-only and all notified by its signal changed(), ten times a second while it runs:
+///     bool running      an exchange is under way; what follows is of that one, or of the last one
+///     bool sending      it sends, else it fetches
+///     string player     with whom
+///     string project    a folder of the work directory
+///     int files         that differ and are to be moved; 0 until that is known
+///     int filesDone     of those
+///     double bytes      of file content that came or went so far; the total is not known
+///     string outcome    how it ended, a sentence for users; empty while running and before the first one
+///     bool succeeded    everything that was to be moved was
+/// and the signal finished(), when one that had begun has ended, also by cancel() or a lost connection.
 class ExchangeType : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -29,8 +48,7 @@ public:
 
     /// Names of the connected players, each once, in the order in which they came.
     QStringList players() const;
-    /// The exchange that is running or was the last one: running, sending, player, project, filesDone, files,
-    /// bytes, outcome, succeeded, and its signal finished(). Null where there is no program around.
+    /// The exchange that is running or was the last one, as above. Null where there is no program around.
     ProjectExchange* status() const;
 
     /// Begins to send the project, a folder of the work directory, to a connected player. False when it does

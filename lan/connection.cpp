@@ -165,7 +165,10 @@ bool Connection::isSomethingDue() const
 void Connection::processReadyRead()
 {
     watch();
-    while (bytesAvailable() > 0 && m_waiting.size() < limits::waitingFrames) {
+    while (bytesAvailable() > 0) {
+        m_isReadingPaused = m_waiting.size() >= limits::waitingFrames;
+        if (m_isReadingPaused)
+            return;
         if (!m_receivingFile)
             readIntoBuffer();
         if (m_receivingFile)
@@ -337,8 +340,8 @@ void Connection::startNext()
 {
     while (m_writeState == WriteState::Idle && !m_waiting.isEmpty() && state() == ConnectedState)
         start(m_waiting.dequeue());
-    if (bytesAvailable() > 0 && m_waiting.size() == limits::waitingFrames - 1)
-        m_retryTimer.start(0); // reading had stopped
+    if (m_isReadingPaused && m_waiting.size() < limits::waitingFrames)
+        m_retryTimer.start(0);
 }
 
 void Connection::start(const Outgoing& outgoing)

@@ -99,6 +99,7 @@ private:
     std::unique_ptr<QTemporaryFile> m_incomingFile; // null while content is thrown away
     qint64 m_bytesToReceive = 0;
     bool m_receivingFile = false;
+    bool m_isReadingPaused = false; // until fewer frames wait to be sent
     int m_openRequests = 0; // that have no complete answer yet
     QSet<QString> m_missed; // what the peer has sent and could not be kept
     QTimer m_retryTimer;

@@ -10,9 +10,9 @@ namespace {
 QHash<QString, qint32> revisionsOf(const Dirmap& map)
 {
     QHash<QString, qint32> revisions;
+    // Of a path that is there twice the first line counts.
     for (int i = map.paths.size() - 1; i >= 0; --i)
-        revisions.insert(map.paths[i],
-                         map.revisions[i]); // of a path that is there twice the first line counts
+        revisions.insert(map.paths[i], map.revisions[i]);
     return revisions;
 }
 

@@ -70,7 +70,7 @@ Outcome WorkFolder::put(QTemporaryFile& file, const QString& path) const
 {
     if (!file.flush())
         return Outcome::failure(file.errorString());
-    const Outcome moved = m_folder.moveInto(file.fileName(), path);
+    Outcome moved = m_folder.moveInto(file.fileName(), path);
     file.setAutoRemove(!moved);
     return moved;
 }

@@ -68,6 +68,8 @@ class Transfers(unittest.TestCase):
             self.assertEqual(other.heard[0], ("SNAME", "A"))
             for path, content in NEW.items():
                 other.push("Shop/" + path, content)
+            other.send(peer.request("Shop/chunk") * 300)  # more than it keeps waiting
+            self.assertEqual({other.answer() for _ in range(300)}, {NEW["chunk"]})
             other.push("in the root", b"1")
             self.assertEqual(other.ask("Shop/one"), NEW["one"])
             self.assertEqual(other.ask("Shop/missing"), b"")
