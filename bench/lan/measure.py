@@ -5,8 +5,9 @@
 
 measure.py LANPLAYER [--folder DIR] [--rounds N] [--large MB] [--small FILES]
 
-All take turns; the first round is dropped. Then a round trip of 2 ms, memory a connection, and an exchange of what has
-not changed. Prints markdown tables of medians with minimum and maximum. The folder should be on tmpfs.
+All take turns; the first round is dropped. CPU time is that of both ends. Then a round trip of 2 ms, memory a connection,
+and an exchange of what has not changed. Prints markdown tables of medians with minimum and maximum. The folder should be
+on tmpfs.
 """
 import argparse
 import os
@@ -109,6 +110,20 @@ def milliseconds(action):
     return (time.perf_counter() - began) * 1000
 
 
+def cpu_milliseconds(processes):
+    """Of processes and of their children that have ended."""
+    fields = [pathlib.Path(f"/proc/{process}/stat").read_text().split()[13:17] for process in processes]
+    return sum(int(field) for process in fields for field in process) * 1000 / os.sysconf("SC_CLK_TCK")
+
+
+def costs(action, processes):
+    """Milliseconds that pass, and those of a core."""
+    before = cpu_milliseconds(processes)
+    passed = milliseconds(action)
+    time.sleep(0.1)  # until the last child has ended
+    return passed, cpu_milliseconds(processes) - before
+
+
 def exchange(player, what, other, project):
     succeeded, outcome = player.exchange(what, other, project)
     assert succeeded, outcome
@@ -120,7 +135,7 @@ def assert_same(source, target):
 
 
 def compare(folder, project, rounds):
-    """Milliseconds by what was done; A has the project."""
+    """Costs by what was done, and milliseconds of an exchange that moves nothing; A has the project."""
     source, target = folder / "A" / project, folder / "B" / project
     rsync = Rsync(folder)
     with Player("A", folder / "A") as a, Player("B", folder / "B") as b:
@@ -132,25 +147,27 @@ def compare(folder, project, rounds):
             "rsync, pulled": lambda: rsync.copy(rsync.url(f"A/{project}"), f"{target}/"),
             "Nuvex, fetched": lambda: exchange(b, "fetch", "A", project),
         }
-        times = {name: [] for name in actions}
+        processes = [os.getpid(), *(part.process.pid for part in (a, b, rsync))]
+        results = {name: [] for name in actions}
         for _ in range(rounds):
             for name, action in actions.items():
                 shutil.rmtree(target, ignore_errors=True)
-                times[name].append(milliseconds(action))
+                results[name].append(costs(action, processes))
                 assert_same(source, target)
         unchanged = [milliseconds(lambda: exchange(a, "send", "B", project)) for _ in range(rounds)]
     rsync.process.terminate()
     rsync.process.wait()
-    return {name: values[1:] for name, values in times.items()}, unchanged[1:]
+    return {name: list(zip(*values[1:])) for name, values in results.items()}, unchanged[1:]
 
 
-def print_comparison(title, times, unchanged):
-    print(f"\n{title}, ms\n\n| | time | to rsync |\n|---|---|---|")
-    for name, values in times.items():
-        rsync = times["rsync, pushed" if name == "Nuvex, sent" else "rsync, pulled"]
-        ratio = statistics.median(values) / statistics.median(rsync)
-        print(f"| {name} | {spread(values)} | {f'{ratio:.2f}' if name.startswith('Nuvex') else ''} |")
-    print(f"| Nuvex, sent again unchanged | {spread(unchanged)} | |")
+def print_comparison(title, results, unchanged):
+    print(f"\n{title}, ms\n\n| | time | to rsync | CPU | to rsync |\n|---|---|---|---|---|")
+    for name, columns in results.items():
+        rsync = results["rsync, pushed" if name == "Nuvex, sent" else "rsync, pulled"]
+        ratios = [f"{statistics.median(own) / statistics.median(other):.2f}" for own, other in zip(columns, rsync)]
+        shown = ratios if name.startswith("Nuvex") else ["", ""]
+        print(f"| {name} |", " | ".join(f"{spread(own)} | {ratio}" for own, ratio in zip(columns, shown)), "|")
+    print(f"| Nuvex, sent again unchanged | {spread(unchanged)} | | | |")
 
 
 def print_trips(folder, rounds):
