@@ -89,7 +89,7 @@ void Connection::whenConnected()
 {
     m_isConnected = true;
     m_deadline.start(limits::helloTime);
-    // A file is two writes: held back, the second one waits for the first one's acknowledgement.
+    // Held back, the small write at the end of a file waits for an acknowledgement of what went before.
     setSocketOption(LowDelayOption, 1);
     // Without, a peer that was switched off stays connected for ever.
     setSocketOption(KeepAliveOption, 1);
@@ -347,11 +347,14 @@ void Connection::startNext()
 void Connection::start(const Outgoing& outgoing)
 {
     m_sending = outgoing;
-    if (m_sending.frame.kind == Frame::Kind::File && !openOutgoing())
+    const bool isFile = m_sending.frame.kind == Frame::Kind::File;
+    if (isFile && !openOutgoing())
         return;
     watch();
-    m_writeState = WriteState::Frame;
+    m_writeState = isFile ? WriteState::Content : WriteState::Frame;
     write(encodeFrame(m_sending.frame));
+    if (m_bytesToSend > 0)
+        writeChunk(); // together with the frame: most files are small
 }
 
 // False when the file is not to be sent at all. A file that was asked for and cannot be had is sent empty.
@@ -377,26 +380,30 @@ void Connection::processBytesWritten(qint64)
         return;
     if (m_writeState == WriteState::Frame)
         writeFromBuffer();
-    if (m_writeState == WriteState::Content)
+    else if (m_writeState == WriteState::Content)
         writeOutcomingFile();
 }
 
-// The frame is out.
+// A frame without content is out.
 void Connection::writeFromBuffer()
 {
-    m_writeState = m_sending.frame.kind == Frame::Kind::File ? WriteState::Content : WriteState::Idle;
-    if (m_writeState == WriteState::Idle)
-        startNext();
+    m_writeState = WriteState::Idle;
+    startNext();
 }
 
 // All content so far is out.
 void Connection::writeOutcomingFile()
 {
-    if (m_bytesToSend == 0) {
-        finishOutgoing(Outcome::success());
-        startNext();
+    if (m_bytesToSend > 0) {
+        writeChunk();
         return;
     }
+    finishOutgoing(Outcome::success());
+    startNext();
+}
+
+void Connection::writeChunk()
+{
     const QByteArray chunk = m_outgoingFile.read(qMin(limits::chunkBytes, m_bytesToSend));
     if (chunk.isEmpty()) {
         drop(QStringLiteral("a file that is being sent has become shorter"));

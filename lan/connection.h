@@ -88,6 +88,7 @@ private:
     void startNext();
     void start(const Outgoing& outgoing);
     bool openOutgoing();
+    void writeChunk();
     void finishOutgoing(const Outcome& outcome);
 
     const QString m_name;
@@ -100,8 +101,8 @@ private:
     qint64 m_bytesToReceive = 0;
     bool m_receivingFile = false;
     bool m_isReadingPaused = false; // until fewer frames wait to be sent
-    int m_openRequests = 0; // that have no complete answer yet
-    QSet<QString> m_missed; // what the peer has sent and could not be kept
+    int m_openRequests = 0;         // that have no complete answer yet
+    QSet<QString> m_missed;         // what the peer has sent and could not be kept
     QTimer m_retryTimer;
 
     QQueue<Outgoing> m_waiting;
