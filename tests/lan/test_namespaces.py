@@ -102,6 +102,7 @@ class AtOneBridge(unittest.TestCase):
                 note("C, at rest, has noticed as well")
                 self.assertLess(time.monotonic() - began, 30)
                 self.assertFalse((b.work / "Big/f").exists())
+                a.lines, b.lines = [], []
                 ip("link", "set", "cable2", "up")
                 a.wait("started B", 60)
                 b.wait("started A", 60)
