@@ -35,6 +35,7 @@ class ProjectExchange;
 ///     string outcome    how it ended, a sentence for users; empty while running and before the first one
 ///     bool succeeded    everything that was to be moved was
 /// and the signal finished(), when one that had begun has ended, also by cancel() or a lost connection.
+/// Names of players, and so the outcome, come from the network: to be shown as plain text.
 class ExchangeType : public QObject, public QQmlParserStatus
 {
     Q_OBJECT

@@ -148,16 +148,16 @@ void Connection::checkProgress()
     m_hasMoved = false;
     m_unsentBytes = unsent;
     m_stalledTicks = moved ? 0 : m_stalledTicks + 1;
-    if (!isSomethingDue())
+    const bool isMoving = isSomethingOnTheWay();
+    if (!isMoving && m_openRequests == 0)
         m_watch.stop();
-    else if (m_stalledTicks * limits::stallTick >= limits::stallTime)
+    else if (m_stalledTicks * limits::stallTick >= (isMoving ? limits::stallTime : limits::answerTime))
         drop(QStringLiteral("nothing has moved for a while"));
 }
 
-bool Connection::isSomethingDue() const
+bool Connection::isSomethingOnTheWay() const
 {
-    return m_receivingFile || m_reader.isInFrame() || m_openRequests > 0 ||
-           m_writeState != WriteState::Idle || m_unsentBytes > 0;
+    return m_receivingFile || m_reader.isInFrame() || m_writeState != WriteState::Idle || m_unsentBytes > 0;
 }
 
 // ------------------------------------------------------------------------------------------------ reading

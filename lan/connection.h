@@ -68,7 +68,7 @@ private:
     void whenLate();
     void watch();
     void checkProgress();
-    bool isSomethingDue() const;
+    bool isSomethingOnTheWay() const;
     void drop(const QString& reason);
     void complain(const char* verb, const QString& path, const QString& fault);
 

@@ -8,6 +8,8 @@
 #include <QDataStream>
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int tagBytes = 5;
@@ -35,9 +37,17 @@ Frame::Kind kindOf(const QByteArray& tag)
     return Frame::Kind::Unknown;
 }
 
+// Whether it can stand in a list and in a line of the log.
+bool isPlayerName(const QString& text)
+{
+    return !text.isEmpty() && text.size() <= limits::playerName &&
+           std::none_of(text.cbegin(), text.cend(),
+                        [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
 bool isSound(const Frame& frame)
 {
-    if (frame.kind == Frame::Kind::Name && (frame.text.isEmpty() || frame.text.size() > limits::playerName))
+    if (frame.kind == Frame::Kind::Name && !isPlayerName(frame.text))
         return false;
     return frame.text.isValidUtf16() && frame.size >= 0 && frame.size <= limits::fileBytes;
 }

@@ -32,6 +32,8 @@ constexpr std::chrono::milliseconds helloTime{10'000};
 /// tick.
 constexpr std::chrono::milliseconds stallTime{20'000};
 constexpr std::chrono::milliseconds stallTick{2'000};
+/// The same while only an answer is due: the peer may be bringing much to a slow disk.
+constexpr std::chrono::milliseconds answerTime{120'000};
 /// When nothing is due, the system asks a silent peer after so many seconds, again after so many, so often.
 constexpr int keepAliveIdle = 5;
 constexpr int keepAliveInterval = 2;

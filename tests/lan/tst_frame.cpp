@@ -126,6 +126,7 @@ void TestFrame::bounds_data()
     row("largest size", file(limits::fileBytes), "2 a 1099511627776");
     row("size too large", file(limits::fileBytes + 1), "broken");
     row("no name", encodeFrame({Kind::Name, QString()}), "broken");
+    row("name with a line feed", encodeFrame({Kind::Name, "a\nb"}), "broken");
     row("name too long", encodeFrame({Kind::Name, QString(256, 'n')}), "broken");
     row("more in the payload", withLength("GFILE", 8, hex("00000002 0061 0062")), "1 a 0");
     row("cut", file(7).chopped(1), "incomplete");
