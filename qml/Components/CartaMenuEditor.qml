@@ -28,7 +28,8 @@ Item {
             fields: [
                 { name: "name", label: qsTr("Name"), kind: "text" },
                 { name: "price", label: qsTr("Price"), kind: "text" },
-                { name: "details", label: qsTr("Details"), kind: "text" }
+                { name: "details", label: qsTr("Details"), kind: "text" },
+                { name: "icon", label: qsTr("Mark"), kind: "text", hint: "fa-leaf" }
             ]
         }
         CheckRow {
@@ -37,11 +38,15 @@ Item {
         }
         TimeRow {
             name: "pageTime"
-            label: qsTr("A page stays")
+            label: qsTr("Page duration")
         }
         ColorRow {
             name: "backColor"
-            label: qsTr("Ground")
+            label: qsTr("Background")
+        }
+        ColorRow {
+            name: "iconColor"
+            label: qsTr("Marks")
         }
         Section {
             title: qsTr("Title")

@@ -23,7 +23,7 @@ Item {
 
         ChoiceRow {
             name: "format"
-            label: qsTr("Shows")
+            label: qsTr("Display")
             choices: ["hh:mm", "hh:mm:ss", "h:mm AP", "dddd", "d MMMM", "d MMMM yyyy", "dddd, d MMMM", "dd.MM.yyyy"]
                 .map(format => ({ text: root.sample.toLocaleString(Qt.locale(), format), is: format }))
         }
@@ -39,6 +39,15 @@ Item {
             name: "fontFamily"
             label: qsTr("Font")
             choices: form.families.map(family => ({ text: family, is: family }))
+        }
+        ChoiceRow {
+            name: "horizontalAlignment"
+            label: qsTr("Alignment")
+            choices: [
+                { text: qsTr("Left"), is: Text.AlignLeft, code: "Text.AlignLeft" },
+                { text: qsTr("Centre"), is: Text.AlignHCenter, code: "Text.AlignHCenter" },
+                { text: qsTr("Right"), is: Text.AlignRight, code: "Text.AlignRight" }
+            ]
         }
         NumberRow {
             name: "pixelSize"

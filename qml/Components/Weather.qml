@@ -36,6 +36,7 @@ Rectangle {
     /// Whether the weather is also told in words, and drawn.
     property bool showDescription: true
     property bool showIcon: true
+    property string fontFamily: "Open Sans"
     property color textColor: "white"
     property bool fahrenheit: false
     /// Address of the service, with {lat} and {lon} in it; or a file of the project with such an answer.
@@ -44,6 +45,8 @@ Rectangle {
     property string localeName: ""
 
     readonly property var current: client.weather ? client.weather.current : null
+    /// Name of the drawing; "" while nothing is known, and for a weather that has none.
+    readonly property string icon: current && showIcon ? Forecast.icon(current.code, current.isDay) : ""
     readonly property bool isTall: height > width * 0.75
     readonly property real measure: Math.max(1, isTall ? Math.min(width * 0.8, height * 0.62)
                                                       : Math.min(height, width * 0.48))
@@ -79,18 +82,17 @@ Rectangle {
             id: picture
             width: root.measure * 0.72
             height: width
-            visible: root.showIcon
-            opacity: root.current ? 1 : 0.4
+            visible: root.icon !== ""
             mipmap: true
-            source: "icons/" + (root.current ? Forecast.icon(root.current.code, root.current.isDay)
-                                             : "weatherFair") + ".png"
+            source: root.icon === "" ? "" : "icons/" + root.icon + ".png"
         }
 
         WeatherText {
-            room: root.width * 0.92 - (root.showIcon && !root.isTall ? picture.width + grid.spacing : 0)
+            room: root.width * 0.92 - (root.icon !== "" && !root.isTall ? picture.width + grid.spacing : 0)
             isCentred: root.isTall
             measure: root.measure
             color: root.textColor
+            family: root.fontFamily
             headline: root.current ? Forecast.temperature(root.current.temperature, root.fahrenheit)
                                    : ticker.time.toLocaleDateString(Qt.locale(root.localeName), "ddd")
             detail: !root.current ? ticker.time.toLocaleDateString(Qt.locale(root.localeName), "d MMMM")

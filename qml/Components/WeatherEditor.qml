@@ -42,15 +42,20 @@ Item {
         }
         CheckRow {
             name: "showIcon"
-            label: qsTr("Drawing")
+            label: qsTr("Icon")
         }
         CheckRow {
             name: "showDescription"
-            label: qsTr("In words")
+            label: qsTr("Description")
         }
         CheckRow {
             name: "fahrenheit"
             label: qsTr("Fahrenheit")
+        }
+        ChoiceRow {
+            name: "fontFamily"
+            label: qsTr("Font")
+            choices: form.families.map(family => ({ text: family, is: family }))
         }
         ColorRow {
             name: "textColor"
