@@ -3,6 +3,7 @@
 
 #include "api/capi.h"
 
+#include "api/localnetwork.h"
 #include "api/logging.h"
 #include "cloud/dirmap.h"
 
@@ -105,7 +106,7 @@ QObject* CAPI::newFirebaseSubscriber()
 
 void CAPI::startLocalServer()
 {
-    notAvailableYet(__func__);
+    m_localNetwork->start();
 }
 
 bool CAPI::getFile(QString url, QString destDir, QString destName)
@@ -129,7 +130,7 @@ QString CAPI::getDownloadUrl(QString)
     return {};
 }
 
-void CAPI::setConnectedPlayerName(QString)
+void CAPI::setConnectedPlayerName(QString player)
 {
-    notAvailableYet(__func__);
+    m_localNetwork->exchangeAtRandom(player);
 }

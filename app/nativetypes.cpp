@@ -3,11 +3,13 @@
 
 #include "app/nativetypes.h"
 
+#include "api/exchange.h"
 #include "api/exports.h"
 #include "api/imports.h"
 #include "api/projectstill.h"
 #include "api/textfile.h"
 #include "cloud/deployment.h"
+#include "lan/projectexchange.h"
 #include "qmldoc/documentfaults.h"
 #include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
@@ -32,6 +34,8 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
+    qmlRegisterType<Exchange>("Nuvex.Native", 1, 1, "Exchange");
+    qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<SourceEdits>(
         "Nuvex.Native", 1, 1, "SourceEdits",
