@@ -6,7 +6,7 @@
 #include "api/limits.h"
 #include "api/logging.h"
 #include "base/atomicfile.h"
-#include "cloud/webfile.h"
+#include "cloud/http/webfile.h"
 
 #include <QFileInfo>
 #include <QFontDatabase>

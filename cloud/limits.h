@@ -24,7 +24,7 @@ constexpr qint64 deploymentBytes = 1024LL * 1024;
 constexpr std::chrono::milliseconds transferStall{8000};
 /// Body of the answer to a POST, which is kept in memory.
 constexpr qint64 answerBytes = 16LL * 1024 * 1024;
-/// How long a transfer's thread may take to end before that is worth a line in the log.
-constexpr std::chrono::milliseconds threadEnd{200};
+/// What is kept of a body that is being downloaded until it is written.
+constexpr qint64 readBufferBytes = 1024LL * 1024;
 
 } // namespace limits
