@@ -27,4 +27,20 @@ constexpr qint64 answerBytes = 16LL * 1024 * 1024;
 /// What is kept of a body that is being downloaded until it is written.
 constexpr qint64 readBufferBytes = 1024LL * 1024;
 
+/// Files that are carried at once, which is how many connections to a host a network manager has.
+constexpr int transfersAtOnce = 6;
+/// Files that fail one behind the other before the rest is not tried any more.
+constexpr int failuresInRow = 12;
+
+/// How long an assertion for the token service counts.
+constexpr std::chrono::seconds assertionLife{3600};
+/// A token of which less than this is left is renewed.
+constexpr std::chrono::seconds tokenReserve{600};
+/// How far this computer's clock may be from the token service's.
+constexpr std::chrono::seconds clockTolerance{60};
+/// How long a signed URL is good.
+constexpr std::chrono::seconds signedUrlLife{3600};
+/// Pages of a list, of a thousand names each.
+constexpr int listingPages = 1000;
+
 } // namespace limits

@@ -36,6 +36,8 @@ public:
     /// status 200 or 206 and every byte could be written. On false, part of a body may have been written.
     bool get(QIODevice* destination);
 
+    /// The last transfer; null when there was none.
+    const Transfer* transfer() const { return m_transfer.get(); }
     /// Reply of the last transfer, whose body the caller of post() reads; owned by this object. Null when
     /// there was none or it did not finish.
     QNetworkReply* reply() const { return m_transfer ? m_transfer->reply() : nullptr; }
