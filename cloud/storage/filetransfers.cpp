@@ -55,8 +55,10 @@ void FileTransfers::start(int index)
     m_observer(index, 0, -1);
     auto transfer = std::make_unique<Transfer>(m_direction, QUrl(m_files[index].url, QUrl::TolerantMode),
                                                headersFor(*file), file.get());
-    connect(transfer.get(), &Transfer::progress, this,
-            [this, index](qint64 bytes, qint64 total) { m_observer(index, bytes, total); });
+    connect(transfer.get(), &Transfer::progress, this, [this, index](qint64 bytes, qint64 total) {
+        if (bytes > 0)
+            m_observer(index, bytes, total);
+    });
     // Queued: the transfer is destroyed, which must not happen while it emits.
     connect(
         transfer.get(), &Transfer::ended, this, [this, index] { settle(index); }, Qt::QueuedConnection);
