@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <chrono>
 
 /// Bounds of the cloud folder: sizes read from outside, and waits.
@@ -42,5 +43,18 @@ constexpr std::chrono::seconds clockTolerance{60};
 constexpr std::chrono::seconds signedUrlLife{3600};
 /// Pages of a list, of a thousand names each.
 constexpr int listingPages = 1000;
+
+/// Between the attempts at what failed, before the next thing is done.
+constexpr std::array<std::chrono::milliseconds, 2> retryPauses{std::chrono::milliseconds{500},
+                                                               std::chrono::milliseconds{2000}};
+/// Until a pull that failed is tried again: doubled each time, with some chance in it.
+constexpr std::chrono::milliseconds laterFirst{1000};
+constexpr std::chrono::milliseconds laterMost{60'000};
+/// How often a push plans again because somebody else has published meanwhile.
+constexpr int pushPlans = 10;
+/// How long the end of the program waits for the worker before it is terminated.
+constexpr std::chrono::milliseconds workerEnd{2000};
+/// Between two reports of how far a file is.
+constexpr std::chrono::milliseconds progressInterval{50};
 
 } // namespace limits

@@ -8,9 +8,10 @@
 #include <QHash>
 #include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
-#include <QSemaphore>
 
 #include <atomic>
+#include <condition_variable>
+#include <mutex>
 
 namespace {
 
@@ -35,19 +36,47 @@ class BufferedSockets : public QNetworkProxyFactory
     }
 };
 
-// Somebody who waits for a task, in the main thread with a loop.
-struct Waiter
+// Somebody who waits for the transfer thread, in the main thread with a loop. Each handing over between the
+// threads goes through here, which orders what they see.
+class Waiter
 {
-    QSemaphore ended;
-    QEventLoop* loop = nullptr;
-    QThread* thread = QThread::currentThread();
+public:
+    explicit Waiter(QEventLoop* loop = nullptr)
+        : m_loop(loop)
+    {
+    }
+
+    QThread* thread() const { return m_thread; }
+
+    void handOver() { const std::lock_guard lock(m_mutex); }
 
     void wake()
     {
-        if (loop)
-            QMetaObject::invokeMethod(loop, "quit", Qt::QueuedConnection);
-        ended.release();
+        const std::lock_guard lock(m_mutex);
+        m_awake = true;
+        m_condition.notify_all();
+        if (m_loop)
+            QMetaObject::invokeMethod(m_loop, "quit", Qt::QueuedConnection);
     }
+
+    bool isAwake()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_awake;
+    }
+
+    void wait()
+    {
+        std::unique_lock lock(m_mutex);
+        m_condition.wait(lock, [this] { return m_awake; });
+    }
+
+private:
+    QThread* const m_thread = QThread::currentThread();
+    QEventLoop* const m_loop;
+    std::mutex m_mutex; // guards the rest
+    std::condition_variable m_condition;
+    bool m_awake = false;
 };
 
 } // namespace
@@ -58,6 +87,7 @@ class TransferThread::Room : public QObject
 public:
     void admit(TransferTask* task, const std::shared_ptr<Waiter>& waiter)
     {
+        waiter->handOver();
         const int ticket = ++m_lastTicket;
         m_guests.insert(task, {ticket, waiter});
         // Queued, so that nothing of the task is on the stack any more when its maker may destroy it. The
@@ -112,7 +142,7 @@ private:
     {
         const Guest guest = m_guests.take(task);
         task->disconnect(this);
-        task->moveToThread(guest.waiter->thread);
+        task->moveToThread(guest.waiter->thread());
         guest.waiter->wake();
     }
 
@@ -129,7 +159,6 @@ TransferThread::TransferThread()
     QObject::connect(
         &m_thread, &QThread::finished, m_room.get(), [room = m_room.get()] { room->closeConnections(); },
         Qt::DirectConnection);
-    m_thread.start(QThread::HighestPriority);
 }
 
 TransferThread::~TransferThread()
@@ -140,27 +169,32 @@ TransferThread::~TransferThread()
 
 void TransferThread::run(TransferTask& task)
 {
-    const auto waiter = std::make_shared<Waiter>();
     QEventLoop loop;
-    const bool inMainThread = onMainThread();
-    if (inMainThread)
-        waiter->loop = &loop;
+    const bool keepEventsGoing = onMainThread();
+    const auto waiter = std::make_shared<Waiter>(keepEventsGoing ? &loop : nullptr);
+    m_thread.start(QThread::HighestPriority); // does nothing when it runs
     task.moveToThread(&m_thread);
+    waiter->handOver();
     QMetaObject::invokeMethod(m_room.get(),
                               [room = m_room.get(), task = &task, waiter] { room->admit(task, waiter); });
-    if (inMainThread) {
+    if (keepEventsGoing) {
         loop.exec();
-        if (waiter->ended.available() == 0) // the program quits
+        if (!waiter->isAwake()) // the program quits
             cancel(task);
     }
-    waiter->ended.acquire();
+    waiter->wait();
 }
 
 void TransferThread::cancel(TransferTask& task)
 {
-    QMetaObject::invokeMethod(
-        m_room.get(), [room = m_room.get(), task = &task] { room->cancel(task); },
-        Qt::BlockingQueuedConnection);
+    if (!m_thread.isRunning())
+        return;
+    const auto waiter = std::make_shared<Waiter>();
+    QMetaObject::invokeMethod(m_room.get(), [room = m_room.get(), task = &task, waiter] {
+        room->cancel(task);
+        waiter->wake();
+    });
+    waiter->wait();
 }
 
 void TransferThread::cancelAll()
