@@ -166,7 +166,8 @@ void Transfer::judge()
         qDebug() << "cancelled";
         m_error = QNetworkReply::OperationCanceledError;
     } else if (m_reply->error() != QNetworkReply::NoError) {
-        qDebug() << "network error" << nameOf(m_reply->error()) << m_reply->errorString();
+        qDebug() << "network error" << nameOf(m_reply->error())
+                 << m_reply->errorString().replace(m_url.toString(), withoutSecrets(m_url));
         m_error = m_reply->error();
     } else {
         judgeStatus();

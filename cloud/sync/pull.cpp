@@ -62,7 +62,8 @@ SyncResult Pull::run(const QString& revision)
 SyncResult Pull::carryOut(const Dirmap& cloudMap, const QString& revision)
 {
     m_plan = planPull(m_local, syncedOf(m_record), cloudMap, [this](const QString& path) {
-        return QFileInfo::exists(m_project.place.folder + QLatin1Char('/') + path);
+        const QFileInfo info(m_project.place.folder + QLatin1Char('/') + path);
+        return info.isSymLink() || (info.exists() && !info.isDir());
     });
     tell();
     if (m_plan.refused.size() == cloudMap.paths.size())
@@ -79,7 +80,9 @@ SyncResult Pull::carryOut(const Dirmap& cloudMap, const QString& revision)
 
 void Pull::tell() const
 {
-    qCDebug(lcCloud).noquote() << "Pull of" << m_project.cloudPath << '\n' << toText(m_plan);
+    qCInfo(lcCloud) << "Pull of" << m_project.cloudPath << "- files to fetch:" << m_plan.fetch.paths.size()
+                    << "to remove:" << m_plan.remove.size();
+    qCDebug(lcCloud).noquote() << toText(m_plan);
     if (!m_plan.kept.isEmpty())
         qCWarning(lcCloud) << "Edited here and not published, so not pulled:" << m_plan.kept;
     if (!m_plan.refused.isEmpty())

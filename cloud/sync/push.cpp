@@ -78,7 +78,8 @@ bool Push::makePlan()
             return false;
         m_plan = planned(*theirs & QSet<QString>(questions.cbegin(), questions.cend()));
     }
-    qCDebug(lcCloud).noquote() << "Push to" << m_project.cloudPath << '\n' << toText(m_plan);
+    qCInfo(lcCloud) << "Push to" << m_project.cloudPath << "- files to upload:" << m_plan.upload.paths.size();
+    qCDebug(lcCloud).noquote() << toText(m_plan);
     return !m_job.isCancelled();
 }
 

@@ -299,19 +299,19 @@ private:
     QSet<QString> m_changedThere;
 };
 
-QString lines(const char* action, const Dirmap& map)
+QString lines(const QString& action, const Dirmap& map)
 {
     QString text;
     for (int i = 0; i < map.paths.size(); ++i)
-        text += QStringLiteral("%1 %2 %3\n").arg(QLatin1String(action), map.paths[i]).arg(map.revisions[i]);
+        text += QStringLiteral("%1 %2 %3\n").arg(action, map.paths[i], QString::number(map.revisions[i]));
     return text;
 }
 
-QString lines(const char* action, const QStringList& paths)
+QString lines(const QString& action, const QStringList& paths)
 {
     QString text;
     for (const QString& path : paths)
-        text += QStringLiteral("%1 %2\n").arg(QLatin1String(action), path);
+        text += QStringLiteral("%1 %2\n").arg(action, path);
     return text;
 }
 

@@ -257,6 +257,8 @@ void TestWebfile::endlessAnswer()
     m_server.setAnswer("/huge?secret", HttpAnswer::complete(200, QByteArray(2 * limits::answerBytes, 'x')));
     QVERIFY(!post(m_server.url("/huge?secret"), "x", {{"Content-Type", "a/b"}}).success);
     QVERIFY(log.contains(QStringLiteral("too large")));
+    QVERIFY(!get(m_server.url("/missing?secret")).success);
+    QVERIFY(log.contains(QStringLiteral("/missing")));
     QVERIFY(!log.contains(QStringLiteral("secret")));
 }
 
