@@ -116,3 +116,8 @@ bool isWhole(const ReceivedContent& content, const QNetworkReply& reply)
     const bool hasEnd = length.isValid() || reply.rawHeader("Transfer-Encoding") == "chunked";
     return hasEnd && !reply.rawHeader("Content-Type").startsWith("text/html");
 }
+
+qint64 generationOf(const QNetworkReply& reply)
+{
+    return reply.rawHeader("X-Goog-Generation").toLongLong();
+}

@@ -55,3 +55,6 @@ struct ReceivedContent
 /// gives, CRC-32C or, where there is none, MD5. An answer without both counts only when its end was told and
 /// it is no page of somebody in between (text/html).
 bool isWhole(const ReceivedContent& content, const QNetworkReply& reply);
+
+/// The generation of the object that an answer brings; 0 when it does not say.
+qint64 generationOf(const QNetworkReply& reply);

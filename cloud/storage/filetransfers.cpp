@@ -97,6 +97,8 @@ void FileTransfers::settle(int index)
     const std::unique_ptr<UnderWay> done = std::move(found->second);
     m_underWay.erase(found);
     m_files[index].fault = settled(*done);
+    if (const QNetworkReply* reply = done->transfer->reply())
+        m_files[index].generation = generationOf(*reply);
     countFailures(m_files[index].fault);
     startSome();
 }

@@ -19,6 +19,7 @@ struct FileTransfer
     QString url;
     QString path;                            ///< of the file on this computer, whose folder must exist
     StorageFault fault = StorageFault::None; ///< once it is over
+    qint64 generation = 0;                   ///< of the object that was downloaded; 0 when it has none
 };
 
 /// Carries files in one direction, some beside each other on connections that are kept.

@@ -149,7 +149,7 @@ StorageResult GCloud::get(const QString& url, qint64 limit)
     if (!result)
         return result;
     buffer.seek(0);
-    result.generation = request.reply()->rawHeader("X-Goog-Generation").toLongLong();
+    result.generation = generationOf(*request.reply());
     if (!isWhole({result.bytes.size(), crc32c(0, result.bytes.constData(), result.bytes.size()), &buffer},
                  *request.reply()))
         result.fault = StorageFault::Damaged;

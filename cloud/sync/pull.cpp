@@ -23,10 +23,11 @@ QSet<QString> toSet(const QStringList& list)
 
 } // namespace
 
-Pull::Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project)
+Pull::Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project, NewerFiles newerFiles)
     : m_cloud(cloud)
     , m_job(job)
     , m_project(project)
+    , m_newerFiles(newerFiles)
     , m_swap(project.place)
     , m_record(readRecord(project.place, project.source()))
     , m_local(readDirmap(project.place.folder).value_or(Dirmap()))
@@ -46,6 +47,9 @@ SyncResult Pull::run(const QString& revision)
         answer = m_cloud.downloadData(m_project.object(QStringLiteral("dirmap")), limits::dirmapBytes);
         return answer.fault;
     });
+    m_mapGeneration = answer.generation;
+    if (m_record && m_record->revision == revision)
+        m_newerFiles = NewerFiles::Take; // the one that was missing has come
     QDir().mkpath(m_project.place.folder);
     if (fault != StorageFault::None && fault != StorageFault::Missing)
         return failure(fault);
@@ -140,14 +144,24 @@ StorageFault Pull::fetchOnce()
     });
     StorageFault worst = m_job.isCancelled() ? StorageFault::Cancelled : StorageFault::None;
     for (int i = 0; i < files.size(); ++i) {
-        if (files[i].fault == StorageFault::None)
+        const StorageFault fault = faultOf(files[i]);
+        if (fault == StorageFault::None)
             m_swap.setFetched(paths[i]);
-        else if (files[i].fault == StorageFault::Missing)
+        else if (fault == StorageFault::Missing)
             m_missing.insert(paths[i]);
         else if (worst != StorageFault::Cancelled && worst != StorageFault::LocalFile)
-            worst = files[i].fault;
+            worst = fault;
     }
     return worst;
+}
+
+// Generations are times.
+StorageFault Pull::faultOf(const FileTransfer& file) const
+{
+    const bool isNewer = m_mapGeneration != 0 && file.generation > m_mapGeneration;
+    return isNewer && file.fault == StorageFault::None && m_newerFiles == NewerFiles::Refuse
+               ? StorageFault::Changed
+               : file.fault;
 }
 
 bool Pull::applyPlan(const QString& revision)

@@ -17,7 +17,14 @@
 class Pull
 {
 public:
-    Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project);
+    /// What a pull does with a file that was uploaded after the directory map, by somebody who is just
+    /// publishing, or has given it up.
+    enum class NewerFiles {
+        Refuse, ///< the fault is Changed: the map that it belongs to may come
+        Take
+    };
+
+    Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project, NewerFiles newerFiles);
 
     /// Whether `revision` says something new: it is not empty, nor the one pulled last and whole.
     bool isNews(const QString& revision) const;
@@ -34,15 +41,18 @@ private:
     QSet<QString> obstructed() const;
     StorageFault fetch();
     StorageFault fetchOnce();
+    StorageFault faultOf(const FileTransfer& file) const;
     bool applyPlan(const QString& revision);
 
     GCloud& m_cloud;
     SyncJob& m_job;
     const SyncedProject m_project;
+    NewerFiles m_newerFiles;
     ProjectSwap m_swap;
     const std::optional<SyncRecord> m_record;
     const Dirmap m_local;
     PullPlan m_plan;
+    qint64 m_mapGeneration = 0;
     QSet<QString> m_missing; // in the cloud
     bool m_filesChanged = false;
 };

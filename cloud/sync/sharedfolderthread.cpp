@@ -108,7 +108,9 @@ private:
 
     SyncResult follow()
     {
-        Pull pull(m_owner.m_cloud, *this, m_job.project);
+        const bool isPatient = m_job.attempts < limits::patientAttempts;
+        Pull pull(m_owner.m_cloud, *this, m_job.project,
+                  isPatient ? Pull::NewerFiles::Refuse : Pull::NewerFiles::Take);
         const QString source = m_job.project.source();
         if (!pull.isNews(m_job.revision) || m_owner.m_pulledEmpty.value(source) == m_job.revision)
             return {};
@@ -135,7 +137,7 @@ private:
 
     SyncResult download()
     {
-        Pull pull(m_owner.m_cloud, *this, m_job.project);
+        Pull pull(m_owner.m_cloud, *this, m_job.project, Pull::NewerFiles::Take);
         SyncResult result = pull.run({});
         if (pull.filesChanged())
             emit m_owner.reloadPlayer();

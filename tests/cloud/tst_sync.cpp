@@ -31,6 +31,7 @@ private slots:
     void unpublishedEditsStay();
     void bothSidesChanged();
     void twoEditorsAtOnce();
+    void publishWhileAPullRuns();
     void publishWhosAnswerIsLost();
     void missingFileComesLater();
     void oneBadFileHoldsAllBack_data();
@@ -211,6 +212,21 @@ void TestSync::twoEditorsAtOnce()
     }
 }
 
+// Some of the next publish's files are there, but not its map: they are not shown with the old one's.
+void TestSync::publishWhileAPullRuns()
+{
+    m_editor->push();
+    m_cloud.put(shared + "main.qml", "two");
+    m_player->worker().pull("Shop", "0");
+    QTRY_VERIFY(m_player->tree().contains("images/a b.png_temp"));
+    QTest::qWait(500);
+    QCOMPARE(m_player->said, QStringList("start"));
+    m_editor->edit("main.qml", "two");
+    m_editor->push();
+    QTRY_COMPARE_WITH_TIMEOUT(m_player->tree(), m_editor->tree(), 10'000);
+    QTRY_COMPARE(m_player->said, QStringList({"start", "stop", "0", "reload"}));
+}
+
 // The map has arrived, but nobody heard so; the network stack sends it again, and meets its own work.
 void TestSync::publishWhosAnswerIsLost()
 {
@@ -306,8 +322,8 @@ void TestSync::manyRevisionsAreMerged()
 void TestSync::aFailingProjectHoldsNoOtherUp()
 {
     m_editor->push();
-    m_cloud.put("NUVEX/users/a@b.c/ShareFolder/Bad/dirmap", "x 1\n");
     m_cloud.put("NUVEX/users/a@b.c/ShareFolder/Bad/x", "x");
+    m_cloud.put("NUVEX/users/a@b.c/ShareFolder/Bad/dirmap", "x 1\n");
     m_cloud.setFaults(R"([{"method":"GET","target":"*Bad%2Fx*","times":100,"status":500}])");
     m_player->worker().pull("Bad", "1");
     QVERIFY(m_player->pull("1"));

@@ -56,7 +56,7 @@ private:
     QByteArray token();
     QString bucketPath(const QString& service = {}) const;
 
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{"/dev/shm/nuvex-localcloud-XXXXXX"}; // it syncs a lot, and disks are shared
     QProcess m_process;
     QString m_address;
     Deployment m_deployment;
