@@ -33,6 +33,13 @@ constexpr int transfersAtOnce = 6;
 /// Files that fail one behind the other before the rest is not tried any more.
 constexpr int failuresInRow = 12;
 
+/// Silence after which a realtime stream counts as failed; the service keeps it alive every 30 s.
+constexpr std::chrono::milliseconds streamSilence{75'000};
+/// Size of one event of a realtime stream.
+constexpr int eventBytes = 10 * 1024 * 1024;
+/// Redirects of a realtime stream between two events.
+constexpr int redirects = 5;
+
 /// How long an assertion for the token service counts.
 constexpr std::chrono::seconds assertionLife{3600};
 /// A token of which less than this is left is renewed.
