@@ -3,6 +3,7 @@
 
 #include "localcloud/cloud.h"
 
+#include "localcloud/base/logging.h"
 #include "localcloud/http/serviceerror.h"
 
 #include <filesystem>
@@ -91,10 +92,12 @@ Handling Cloud::handle(const RequestHead& head, Service service, std::optional<F
     } catch (Refusal& refusal) {
         handling.exchange = std::make_unique<ReadyExchange>(std::move(refusal.answer));
     } catch (const std::exception& exception) {
+        logLine(exception.what());
         handling.exchange =
             std::make_unique<ReadyExchange>(serviceError(503, "backendError", "Backend error"));
     }
-    handling.exchange = std::make_unique<WithHeaders>(std::move(handling.exchange), fault->headers);
+    if (fault->headers.begin() != fault->headers.end())
+        handling.exchange = std::make_unique<WithHeaders>(std::move(handling.exchange), fault->headers);
     return handling;
 }
 

@@ -23,6 +23,10 @@ constexpr int backlog = 4096;
 constexpr std::chrono::milliseconds acceptPause{100};
 /// Request line and header fields, bytes.
 constexpr std::uint32_t headBytes = 32 * 1024;
+/// Room for a head as it usually is, bytes.
+constexpr std::size_t usualHeadBytes = 4 * kibibyte;
+/// Room for what the client of a stream has no reason to send, bytes.
+constexpr std::size_t strayBytes = 256;
 /// Read at a time from a connection with a large body, bytes.
 constexpr std::size_t pieceBytes = 256 * kibibyte;
 /// Sent at a time by the kernel from a file before other connections have their turn, bytes.

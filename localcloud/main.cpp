@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
+#include "localcloud/base/logging.h"
 #include "localcloud/cloud.h"
 #include "localcloud/commandline.h"
 #include "localcloud/http/server.h"
@@ -31,7 +32,7 @@ void serve(const Options& options)
     Cloud cloud(options.data, options.tokenLife);
     Connection::Log log;
     if (options.verbose)
-        log = [](const std::string& line) { std::cerr << line << std::endl; };
+        log = logLine;
     Server server(cloud, options.port, log);
     const std::string base = "http://127.0.0.1:" + std::to_string(server.port());
     if (!options.deploymentFile.empty())
@@ -53,7 +54,7 @@ int main(int argc, char* argv[])
     try {
         serve(options);
     } catch (const std::exception& exception) {
-        std::cerr << "nuvex-localcloud: " << exception.what() << std::endl;
+        logLine(exception.what());
         return 1;
     }
     return 0;

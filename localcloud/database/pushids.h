@@ -5,7 +5,6 @@
 
 #include "localcloud/base/unixtime.h"
 
-#include <array>
 #include <string>
 
 namespace localcloud {
@@ -19,7 +18,7 @@ public:
 
 private:
     UnixMs m_last = 0;
-    std::array<unsigned char, 12> m_random{}; // values under 64
+    std::string m_random; // six bits of each byte count
 };
 
 } // namespace localcloud

@@ -3,6 +3,7 @@
 
 #include "localcloud/http/answerwriter.h"
 
+#include "localcloud/base/logging.h"
 #include "localcloud/limits.h"
 
 #include <boost/asio/post.hpp>
@@ -97,7 +98,12 @@ void AnswerWriter::sendPiece()
         return stall();
     if (m_sent == m_answer.length())
         return finish(m_keepAlive);
-    m_piece = piece(pieceSize());
+    try {
+        m_piece = piece(pieceSize());
+    } catch (const std::exception& exception) {
+        logLine(exception.what());
+        m_piece.clear();
+    }
     if (m_piece.empty())
         return finish(false);
     m_deadline.in(limits::send);

@@ -3,12 +3,14 @@
 
 #include "localcloud/http/connection.h"
 
+#include "localcloud/base/logging.h"
 #include "localcloud/limits.h"
 
 #include <boost/asio/write.hpp>
 #include <boost/beast/http/read.hpp>
 
 #include <netinet/tcp.h>
+#include <sys/socket.h>
 
 namespace localcloud {
 
@@ -23,15 +25,14 @@ Answer textAnswer(int status, std::string text)
 }
 
 // What a client gets for what went wrong in here. To be called while an exception is caught.
-Answer answerOfException(const Connection::Log& log)
+Answer answerOfException()
 {
     try {
         throw;
     } catch (Refusal& refusal) {
         return std::move(refusal.answer);
     } catch (const std::exception& exception) {
-        if (log)
-            log(std::string("failed: ") + exception.what());
+        logLine(exception.what());
         return jsonAnswer(503, R"({"error":{"code":503,"message":"Backend error","errors":[)"
                                R"({"message":"Backend error","domain":"global","reason":"backendError"}]}})");
     }
@@ -51,7 +52,7 @@ RequestHead headOf(const http::request_header<>& fields, Target target)
     head.rawTarget = std::string(fields.target());
     head.target = std::move(target);
     for (const auto& field : fields)
-        head.headers.set(std::string(field.name_string()), std::string(field.value()));
+        head.headers.add(std::string(field.name_string()), std::string(field.value()));
     return head;
 }
 
@@ -115,6 +116,7 @@ void Connection::readHead()
     m_handling = {};
     m_parser.emplace();
     m_parser->header_limit(limits::headBytes);
+    m_buffer.reserve(limits::usualHeadBytes);
     m_parser->body_limit(std::numeric_limits<std::uint64_t>::max()); // each exchange has its own
     http::async_read_header(m_socket, m_buffer, *m_parser,
                             [self = shared_from_this()](Error error, std::size_t) { self->onHead(error); });
@@ -190,7 +192,7 @@ void Connection::onBody(Error error)
     try {
         std::rethrow_exception(body.failure);
     } catch (...) {
-        answer(answerOfException(m_log), false);
+        answer(answerOfException(), false);
     }
 }
 
@@ -206,9 +208,8 @@ void Connection::endOfQuota()
 // Without this, a client that sends head and body apart waits 40 ms for the acknowledgement of its head.
 void Connection::acknowledgeAtOnce()
 {
-    using QuickAck = boost::asio::detail::socket_option::boolean<IPPROTO_TCP, TCP_QUICKACK>;
-    Error ignored;
-    m_socket.set_option(QuickAck(true), ignored);
+    const int on = 1;
+    ::setsockopt(m_socket.native_handle(), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
 }
 
 // ------------------------------------------------------------------------------------------- answering
@@ -222,7 +223,7 @@ void Connection::act()
     try {
         result = m_handling.exchange->finish();
     } catch (...) {
-        result = answerOfException(m_log);
+        result = answerOfException();
     }
     m_handling.exchange.reset();
     if (conduct.drop == Conduct::Drop::AfterAction)
@@ -262,7 +263,7 @@ void Connection::stream(const Answer& answer)
     try {
         m_subscription = std::get<EventStream>(answer.body)(*m_events);
     } catch (...) {
-        answerOfException(m_log);
+        answerOfException();
         m_events->end();
     }
     awaitEndOfStream();
@@ -271,7 +272,7 @@ void Connection::stream(const Answer& answer)
 // A stream's client has nothing more to say; what can be read is its end.
 void Connection::awaitEndOfStream()
 {
-    m_socket.async_read_some(m_buffer.prepare(limits::headBytes),
+    m_socket.async_read_some(m_buffer.prepare(limits::strayBytes),
                              [self = shared_from_this()](Error error, std::size_t) {
                                  if (!error)
                                      return self->awaitEndOfStream();

@@ -71,6 +71,11 @@ bool Headers::has(std::string_view name) const
     return std::any_of(begin(), end(), [name](const Field& field) { return sameName(field.first, name); });
 }
 
+void Headers::add(std::string name, std::string value)
+{
+    m_fields.emplace_back(std::move(name), std::move(value));
+}
+
 void Headers::set(std::string name, std::string value)
 {
     for (Field& field : m_fields) {
@@ -79,7 +84,7 @@ void Headers::set(std::string name, std::string value)
             return;
         }
     }
-    m_fields.emplace_back(std::move(name), std::move(value));
+    add(std::move(name), std::move(value));
 }
 
 std::optional<Target> Target::parse(std::string_view text)

@@ -31,6 +31,8 @@ public:
     /// The value of the first field of this name; empty when there is none.
     std::string_view find(std::string_view name) const;
     bool has(std::string_view name) const;
+    /// Adds the field behind the others.
+    void add(std::string name, std::string value);
     /// Sets the field, in place of one of the same name.
     void set(std::string name, std::string value);
 

@@ -3,10 +3,10 @@
 
 #include "localcloud/http/server.h"
 
+#include "localcloud/base/logging.h"
 #include "localcloud/limits.h"
 
 #include <algorithm>
-#include <iostream>
 
 namespace localcloud {
 
@@ -40,7 +40,7 @@ void Server::run()
         try {
             m_io.run();
         } catch (const std::exception& exception) { // one connection's misfortune is not everybody's end
-            std::cerr << "nuvex-localcloud: " << exception.what() << std::endl;
+            logLine(exception.what());
         }
     }
 }

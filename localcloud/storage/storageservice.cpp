@@ -26,6 +26,8 @@ Json parseResource(const std::string& body)
     if (body.empty())
         return Json::object();
     std::optional<Json> json = parseJson(body, limits::jsonDepth);
+    if (json && json->is_null()) // as some clients say that they have nothing to say
+        return Json::object();
     if (!json || !json->is_object())
         refuse(400, "parseError", "Parse Error");
     return *json;
