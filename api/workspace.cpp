@@ -66,6 +66,12 @@ QStringList Workspace::listProjects()
     return m_projects;
 }
 
+void Workspace::addToCache(const QString& name)
+{
+    if (!m_projects.contains(name))
+        m_projects.append(name);
+}
+
 bool Workspace::create(const QString& name)
 {
     return isFolderName(name) && QDir(workDirectory()).mkdir(name);

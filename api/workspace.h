@@ -28,8 +28,8 @@ public:
     QStringList listProjects();
     /// The list as of the last listProjects(), with imports added and removals taken out since.
     QStringList cachedProjects() const { return m_projects; }
-    /// Adds a project that is being imported to the cached list.
-    void addToCache(const QString& name) { m_projects.append(name); }
+    /// Adds a project that is being imported to the cached list, unless it is there.
+    void addToCache(const QString& name);
 
     /// Makes an empty project folder; false when it exists or cannot be made.
     bool create(const QString& name);

@@ -3,6 +3,9 @@
 
 #include "app/nativetypes.h"
 
+#include "api/exports.h"
+#include "api/imports.h"
+#include "api/textfile.h"
 #include "cloud/deployment.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/video/transparentvideo.h"
@@ -15,6 +18,9 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
+    qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
+    qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",

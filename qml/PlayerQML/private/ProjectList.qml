@@ -11,15 +11,24 @@ FocusScope {
     readonly property int count: rows.count
 
     signal chosen(string name)
-    signal removeRequested(int index, string name)
+    signal removeRequested(string name)
 
-    function addRow(name) {
-        rows.append({"name": name});
+    // Shows the workspace as it is now; the current row stays the current one as far as it is there.
+    function reload() {
+        const current = list.currentIndex;
+        const hadFocus = list.activeFocus;
+        rows.clear();
+        CAPI.getProjectList().sort((a, b) => a.localeCompare(b)).forEach(name => rows.append({"name": name}));
+        list.currentIndex = Math.max(0, Math.min(current, rows.count - 1));
+        if (hadFocus)
+            list.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    function removeRow(index) {
-        rows.remove(index);
-        list.forceActiveFocus(Qt.TabFocusReason);
+    function select(name) {
+        for (let i = 0; i < rows.count; ++i) {
+            if (rows.get(i).name === name)
+                list.currentIndex = i;
+        }
     }
 
     Rectangle {
@@ -57,16 +66,16 @@ FocusScope {
             faIcon: isOpen ? "fa-folder-open" : "fa-folder"
             text: name
             onClicked: root.chosen(name)
-            Keys.onDeletePressed: root.removeRequested(index, name)
+            Keys.onDeletePressed: root.removeRequested(name)
 
             BGUI.ActionButton {
                 focusPolicy: row.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 faIcon: "fa-times"
                 toolTip: qsTr("Delete %1").arg(row.text)
-                onClicked: root.removeRequested(index, row.text)
+                onClicked: root.removeRequested(row.text)
             }
         }
     }
 
-    Component.onCompleted: CAPI.getProjectList().sort((a, b) => a.localeCompare(b)).forEach(addRow)
+    Component.onCompleted: reload()
 }

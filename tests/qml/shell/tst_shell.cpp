@@ -3,6 +3,7 @@
 
 #include "tests/qml/shell/shell.h"
 
+#include <QQmlComponent>
 #include <QtTest>
 
 /// What the shell opens at its start, and what the main page makes of it.
@@ -16,6 +17,7 @@ private slots:
     void playerGetsAName();
     void startedProjectIsForOneShow();
     void mainPageFollowsTheSettings();
+    void typesOfThePages();
 };
 
 namespace {
@@ -136,6 +138,30 @@ void TestShell::mainPageFollowsTheSettings()
     QCOMPARE(shell.api().getBaseProjectName(), QString("Shop & <Co>"));
     QCOMPARE(shell.find("footerMessage")->property("text").toString(), QString());
     QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
+
+// The second door: what projects' documents import does not have the types that are for the program's own
+// pages.
+void TestShell::typesOfThePages()
+{
+    TestProfile::reset(account("", "Shop"));
+    TestProfile::addProject("Shop", "text");
+    Shell shell;
+    QFile latin1(shell.api().getBaseFolder() + "/latin1.txt");
+    QVERIFY(latin1.open(QIODevice::WriteOnly) && latin1.write("K\xe4se") == 4 && latin1.flush());
+    const auto value = [&](const QByteArray& version, const QByteArray& object) {
+        QQmlComponent component(qmlEngine(shell.root()));
+        component.setData("import Nuvex.Native " + version + "\n" + object, QUrl());
+        const std::unique_ptr<QObject> made(component.create());
+        return made ? made->property("value") : QVariant("no such type");
+    };
+    QCOMPARE(value("1.1", "TextFile { property bool value: isUtf8; path: 'main.qml' }"), QVariant(true));
+    QCOMPARE(value("1.1", "TextFile { property bool value: isUtf8; path: 'latin1.txt' }"), QVariant(false));
+    QCOMPARE(value("1.1", "Imports { property bool value: running }"), QVariant(false));
+    QCOMPARE(value("1.1\nimport Nuvex.Editor 1.0\nimport QtQml 2.15",
+                   "QtObject { property bool value: Ejs.JCAPI === CAPI }"),
+             QVariant(true));
+    QCOMPARE(value("1.0", "Imports { property bool value: running }"), QVariant("no such type"));
 }
 
 int main(int argc, char* argv[])
