@@ -62,6 +62,9 @@ constexpr std::chrono::milliseconds laterMost{60'000};
 constexpr int patientAttempts = 5;
 /// How often a push plans again because somebody else has published meanwhile.
 constexpr int pushPlans = 10;
+/// How long a start waits, looking now and then, for the end of another program that has left journals.
+constexpr std::chrono::milliseconds lockWait{3000};
+constexpr std::chrono::milliseconds lockPause{50};
 /// How long the end of the program waits for the worker before it is terminated.
 constexpr std::chrono::milliseconds workerEnd{2000};
 /// Between two reports of how far a file is.

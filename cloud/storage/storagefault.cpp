@@ -52,6 +52,8 @@ const char* text(StorageFault fault)
         return QT_TRANSLATE_NOOP("Storage", "It arrived damaged");
     case StorageFault::LocalFile:
         return QT_TRANSLATE_NOOP("Storage", "A file of this computer cannot be read or written");
+    case StorageFault::InUse:
+        return QT_TRANSLATE_NOOP("Storage", "Another Nuvex is working on these projects");
     case StorageFault::Unexpected:
         return QT_TRANSLATE_NOOP("Storage", "The cloud's answer is not understood");
     }

@@ -20,6 +20,7 @@ enum class StorageFault {
     Busy,         ///< later, perhaps (429, 5xx)
     Damaged,      ///< what came is not what is stored
     LocalFile,    ///< a file of this computer cannot be read or written
+    InUse,        ///< another running program works on the projects
     Unexpected    ///< any other answer
 };
 

@@ -13,6 +13,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 QString folderOf(const QString& path)
@@ -213,4 +215,12 @@ void recoverProjects(const QString& workFolder, const QString& recordFolder)
         else if (QFile::exists(place->journalFile()))
             swap.rollBack();
     }
+}
+
+bool hasJournals(const QString& recordFolder)
+{
+    const QStringList projects = QDir(recordFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::any_of(projects.begin(), projects.end(), [&](const QString& project) {
+        return QFile::exists(ProjectPlace{{}, recordFolder + QLatin1Char('/') + project}.journalFile());
+    });
 }

@@ -64,3 +64,6 @@ private:
 /// Finishes what was decided for, and takes back what was announced, in any project when the program last
 /// ended. Goes before projects are used.
 void recoverProjects(const QString& workFolder, const QString& recordFolder);
+
+/// Whether there is anything for recoverProjects() to do.
+bool hasJournals(const QString& recordFolder);

@@ -44,6 +44,8 @@ public:
     {
         if (!m_owner.m_host.isConnected())
             return failure(StorageFault::NoConnection);
+        if (!m_owner.ownsProjects())
+            return failure(StorageFault::InUse);
         if (!ProjectSwap(m_job.project.place).finish())
             return failure(StorageFault::LocalFile);
         switch (m_job.kind) {
@@ -155,11 +157,26 @@ SharedFolderThread::SharedFolderThread(const Deployment& deployment, CloudHost& 
     : QThread(parent)
     , m_deployment(deployment)
     , m_host(host)
+    , m_lock(host.shareFolder())
     , m_cloud(deployment)
 {
     qRegisterMetaType<SyncProgress>();
     qRegisterMetaType<SyncResult>();
-    recoverProjects(host.workDirectory(), host.shareFolder());
+    // A program that is being restarted may not have ended yet.
+    QElapsedTimer clock;
+    clock.start();
+    while (!ownsProjects() && hasJournals(host.shareFolder()) && !clock.hasExpired(limits::lockWait.count()))
+        QThread::msleep(ulong(limits::lockPause.count()));
+}
+
+bool SharedFolderThread::ownsProjects()
+{
+    if (!m_lock.isOurs())
+        return false;
+    if (!m_recovered)
+        recoverProjects(m_host.workDirectory(), m_host.shareFolder());
+    m_recovered = true;
+    return true;
 }
 
 SharedFolderThread::~SharedFolderThread()

@@ -5,6 +5,7 @@
 
 #include "cloud/storage/gcloud.h"
 #include "cloud/sync/cloudhost.h"
+#include "cloud/sync/recordlock.h"
 #include "cloud/sync/syncedproject.h"
 #include "cloud/sync/syncjob.h"
 
@@ -31,7 +32,9 @@ public:
         Ask        ///< whichever conflictsFound() is answered with by settle()
     };
 
-    /// Finishes or takes back what was going on when the program last ended. `host` must outlive this object.
+    /// Finishes or takes back what was going on when the program last ended. When another running program
+    /// works on these projects, that waits, and so do all jobs, until it has ended. `host` must outlive this
+    /// object.
     SharedFolderThread(const Deployment& deployment, CloudHost& host, QObject* parent = nullptr);
     ~SharedFolderThread() override;
 
@@ -89,6 +92,7 @@ private:
     std::optional<Job> jobOf(Kind kind, const QString& project, const QString& cloudPath) const;
     QString sharedPath() const;
     bool isPending(int number) const;
+    bool ownsProjects();
     std::optional<Job> takeJob();
     void awaitJob(std::unique_lock<std::mutex>& lock);
     void tryLater(Job job);
@@ -96,6 +100,8 @@ private:
 
     const Deployment m_deployment;
     CloudHost& m_host;
+    RecordLock m_lock;                     // the worker's, once the constructor is through
+    bool m_recovered = false;              // likewise
     GCloud m_cloud;                        // the worker's, besides cancelling
     QHash<QString, QString> m_pulledEmpty; // the worker's: source to revision where there was no project
 

@@ -25,6 +25,7 @@ public:
         : m_deployment(deployment)
     {
         QDir(m_root.path()).mkpath("Work");
+        QDir(m_root.path()).mkpath("ShareFolder");
         turnOn();
     }
 
