@@ -6,6 +6,7 @@
 #include "api/exports.h"
 #include "api/imports.h"
 #include "api/textfile.h"
+#include "api/transfers.h"
 #include "cloud/deployment.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/video/transparentvideo.h"
@@ -21,6 +22,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
     qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
+    qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",

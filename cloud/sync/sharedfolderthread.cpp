@@ -194,8 +194,7 @@ SharedFolderThread::~SharedFolderThread()
     wait();
 }
 
-// ---------------------------------------------------------------------------------------------- the GUI
-// thread
+// -------------------------------------------------------------------------------------------- the GUI thread
 
 int SharedFolderThread::pull(const QString& project, const QString& revision)
 {
@@ -272,7 +271,7 @@ bool SharedFolderThread::isPending(int number) const
 {
     const std::lock_guard lock(m_mutex);
     const auto isIt = [number](const Job& job) { return job.number == number; };
-    return m_current == number || std::any_of(m_jobs.begin(), m_jobs.end(), isIt) ||
+    return (number != 0 && m_current == number) || std::any_of(m_jobs.begin(), m_jobs.end(), isIt) ||
            std::any_of(m_later.begin(), m_later.end(), isIt);
 }
 
@@ -315,8 +314,7 @@ void SharedFolderThread::settle(int job, const QStringList& theirs)
     m_changed.notify_all();
 }
 
-// ------------------------------------------------------------------------------------------------- the
-// worker
+// ------------------------------------------------------------------------------------------------ the worker
 
 void SharedFolderThread::run()
 {
