@@ -64,12 +64,19 @@ bool ProjectSwap::finish()
 
 // ------------------------------------------------------------------------------------------------- announced
 
+// What stands in place of a folder that the path leads through; empty when nothing does.
+QString ProjectSwap::fileAbove(const QString& path) const
+{
+    QString parent = folderOf(path);
+    while (!parent.isEmpty() && !isPlainFile(QFileInfo(m_place.folder + QLatin1Char('/') + parent)))
+        parent = folderOf(parent);
+    return parent;
+}
+
 bool ProjectSwap::canTakePlace(const QString& path, const QSet<QString>& removed) const
 {
-    for (QString parent = folderOf(path); !parent.isEmpty(); parent = folderOf(parent)) {
-        if (isPlainFile(QFileInfo(m_place.folder + QLatin1Char('/') + parent)))
-            return removed.contains(parent);
-    }
+    if (const QString above = fileAbove(path); !above.isEmpty())
+        return removed.contains(above);
     const QFileInfo target(m_place.folder + QLatin1Char('/') + path);
     return !target.isDir() || target.isSymLink() || !holdsOther(target.filePath(), m_place.folder, removed);
 }
@@ -86,7 +93,14 @@ bool ProjectSwap::prepare(const Dirmap& wanted, const QSet<QString>& taken)
             removeTemporary(it->temporary);
     }
     m_journal = {false, files, {}, {}, {}};
-    return writeJournal();
+    return writeJournal() && makeFolders();
+}
+
+// Announced before, so that they go again when it comes to nothing.
+bool ProjectSwap::makeFolders() const
+{
+    return std::all_of(m_journal.files.cbegin(), m_journal.files.cend(),
+                       [this](const SwapFile& file) { return QDir().mkpath(folderOf(absolute(file.temporary))); });
 }
 
 SwapFile ProjectSwap::announced(const QString& path, qint32 revision, const QSet<QString>& taken) const
@@ -96,12 +110,10 @@ SwapFile ProjectSwap::announced(const QString& path, qint32 revision, const QSet
     return {revision, name, before.fetched && before.revision == revision && before.temporary == name};
 }
 
-// Where a file stands in place of a folder there is no room beside it.
 QString ProjectSwap::temporaryName(const QString& path, const QSet<QString>& taken) const
 {
     QString name = path + QStringLiteral("_temp");
-    if (!taken.contains(name) && pathFault(name).isEmpty() &&
-        QDir().mkpath(m_place.folder + QLatin1Char('/') + folderOf(path)))
+    if (!taken.contains(name) && pathFault(name).isEmpty() && fileAbove(path).isEmpty())
         return name;
     const QByteArray hash = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1).toHex();
     return QLatin1Char('/') + QString::fromLatin1(hash) + QStringLiteral("_temp");

@@ -49,6 +49,8 @@ public:
 
 private:
     bool writeJournal();
+    QString fileAbove(const QString& path) const;
+    bool makeFolders() const;
     SwapFile announced(const QString& path, qint32 revision, const QSet<QString>& taken) const;
     QString temporaryName(const QString& path, const QSet<QString>& taken) const;
     QString absolute(const QString& temporary) const;
