@@ -55,8 +55,8 @@ void CAPI::passCloudSignalsOn()
         if (progress.bytes == 0)
             emit(this->*(progress.uploading ? &CAPI::uploadingFile : &CAPI::downloadingFile))(progress.file);
         else
-            emit(this->*(progress.uploading ? &CAPI::uploadProgress
-                                            : &CAPI::downloadProgress))(progress.bytes, progress.bytesTotal);
+            emit(this->*(progress.uploading ? &CAPI::uploadProgress : &CAPI::downloadProgress))(
+                progress.bytes, progress.bytesTotal);
     });
     connect(&m_cloud.storage(), &GCloud::uploadProgress, this, &CAPI::uploadProgress);
     connect(&m_cloud.storage(), &GCloud::downloadProgress, this, &CAPI::downloadProgress);

@@ -20,12 +20,12 @@ QVariantList toVariantList(const QVector<CatalogEntry>& catalog, const QString& 
 {
     QVariantList entries;
     for (const CatalogEntry& entry : catalog) {
-        entries.append(QVariantMap{
-            {QStringLiteral("name"), entry.name},
-            {QStringLiteral("source"), entry.object.mid(root.size())},
-            {QStringLiteral("picture"), entry.picture.isEmpty() ? QString() : storage.signedUrl(entry.picture)},
-            {QStringLiteral("bytes"), double(entry.bytes)},
-            {QStringLiteral("updated"), entry.updated}});
+        entries.append(QVariantMap{{QStringLiteral("name"), entry.name},
+                                   {QStringLiteral("source"), entry.object.mid(root.size())},
+                                   {QStringLiteral("picture"),
+                                    entry.picture.isEmpty() ? QString() : storage.signedUrl(entry.picture)},
+                                   {QStringLiteral("bytes"), double(entry.bytes)},
+                                   {QStringLiteral("updated"), entry.updated}});
     }
     return entries;
 }
@@ -174,7 +174,7 @@ void CloudTransfers::cancel()
     m_storage->cancelAll();
 }
 
-// -------------------------------------------------------------------------------------------- from begin to end
+// ---------------------------------------------------------------------------------------- from begin to end
 
 bool CloudTransfers::begin()
 {
@@ -208,6 +208,8 @@ void CloudTransfers::endJob(int job, const SyncResult& result)
     if (m_job == 0 || job != m_job)
         return;
     m_job = 0;
+    if (!result.kept.isEmpty())
+        emit kept(result.kept);
     if (result.fault == StorageFault::None)
         m_then();
     else

@@ -84,6 +84,8 @@ signals:
     void listed(const QVariantList& entries);
     /// A publish waits for settle(), or cancel(): these files have changed in the cloud, too.
     void conflictsFound(const QStringList& files);
+    /// A download has left these files as they are, since they were edited here and are not published.
+    void kept(const QStringList& files);
     /// It is over. `error` says in words why it failed; it is empty after a success and when cancelled.
     void finished(const QString& error, bool cancelled);
 

@@ -7,8 +7,8 @@
 
 #include <QQmlParserStatus>
 
-/// The QML type "Transfers" of "Nuvex.Native" 1.1: CloudTransfers with the cloud of the CAPI that the engine's
-/// context property of that name holds; without one it does nothing.
+/// The QML type "Transfers" of "Nuvex.Native" 1.1: CloudTransfers with the cloud of the CAPI that the
+/// engine's context property of that name holds; without one it does nothing.
 class Transfers : public CloudTransfers, public QQmlParserStatus
 {
     Q_OBJECT

@@ -5,9 +5,11 @@
 //   bench_cloud DEPLOYMENT get OBJECT FILE            downloads an object into a file
 //   bench_cloud DEPLOYMENT carry PREFIX N FOLDER      downloads PREFIX0... into a folder, some at once
 //   bench_cloud DEPLOYMENT singly TOKEN PREFIX N FOLDER   the same, one behind the other, a connection each
-//   bench_cloud DEPLOYMENT pull ROOT REVISION [ROUNDS]    pulls the project "Bench" into the workspace ROOT and
+//   bench_cloud DEPLOYMENT pull ROOT REVISION [ROUNDS]    pulls the project "Bench" into the workspace ROOT
+//   and
 //                                                         prints the milliseconds of each round
-//   bench_cloud DEPLOYMENT sign SECONDS               prints signatures a second, and those of bare LibTomCrypt
+//   bench_cloud DEPLOYMENT sign SECONDS               prints signatures a second, and those of bare
+//   LibTomCrypt
 // NUVEX_BENCH_CA names a file with a certificate to trust.
 
 #include "cloud/http/webfile.h"
@@ -125,7 +127,8 @@ public:
         std::array<unsigned char, 32> digest{};
         hash_state state;
         sha256_desc.init(&state);
-        sha256_desc.process(&state, reinterpret_cast<const unsigned char*>(bytes.constData()), ulong(bytes.size()));
+        sha256_desc.process(&state, reinterpret_cast<const unsigned char*>(bytes.constData()),
+                            ulong(bytes.size()));
         sha256_desc.done(&state, digest.data());
         std::array<unsigned char, 512> signature{};
         ulong size = signature.size();

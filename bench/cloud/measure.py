@@ -38,7 +38,8 @@ def options():
 
 
 class Terminator:
-    """stunnel in front of the server, and the deployment that leads there."""
+    """stunnel in front of the server, and the deployment that leads there; tokens, whose assertions name the address
+    that they are sent to, are fetched without it."""
 
     def __init__(self, server):
         with socket.socket() as free:
@@ -58,8 +59,9 @@ class Terminator:
                              check=False).returncode:
             time.sleep(0.05)
         self.deployment = server.folder / "tls-deployment.json"
-        text = (server.folder / "deployment.json").read_text().replace(server.base, self.base)
-        self.deployment.write_text(text)
+        deployment = json.loads((server.folder / "deployment.json").read_text())
+        deployment["hosts"]["storage"] = self.base
+        self.deployment.write_text(json.dumps(deployment))
 
     def stop(self):
         self.process.terminate()
@@ -72,13 +74,9 @@ class Way:
     def __init__(self, known, server, name, base, deployment, certificate=None):
         self.known, self.server, self.name, self.base, self.deployment = known, server, name, base, deployment
         self.trust = ["--cacert", str(certificate)] if certificate else []
-        key = json.loads((server.folder / "key.json").read_text())
-        key["token_uri"] = key["token_uri"].replace(server.base, base)
-        self.key = server.folder / (name + "-key.json")
-        self.key.write_text(json.dumps(key))
         self.environment = dict(os.environ, RCLONE_CONFIG="/dev/null", NUVEX_BENCH_CA=str(certificate or ""),
                                 RCLONE_CONFIG_CLOUD_TYPE="google cloud storage",
-                                RCLONE_CONFIG_CLOUD_SERVICE_ACCOUNT_FILE=str(self.key),
+                                RCLONE_CONFIG_CLOUD_SERVICE_ACCOUNT_FILE=str(server.folder / "key.json"),
                                 RCLONE_CONFIG_CLOUD_ENDPOINT=base + "/storage/v1/")
         if certificate:
             self.environment["RCLONE_CA_CERT"] = str(certificate)

@@ -34,12 +34,11 @@ signals:
     /// An event: its lines, each ended by "\n", and an empty one. The service's keep-alives are events too.
     void dataReceived(QString data);
 
-private slots:
-    void eventReadyRead();
-    void eventFinished();
-    void slotError(QNetworkReply::NetworkError error);
-
 private:
+    Q_SLOT void eventReadyRead();
+    Q_SLOT void eventFinished();
+    Q_SLOT void slotError(QNetworkReply::NetworkError error);
+
     void open(const QUrl& url);
     void close();
     void follow(const QUrl& from, const QUrl& target);

@@ -82,9 +82,8 @@ public:
     /// The same, also for all that comes later. Any thread.
     void shutDown() { m_thread.shutDown(); }
 
-public slots:
     /// Takes the token from an answer of the token service. False, and everything stays, when it has none.
-    bool getTokenFinished(QIODevice* reply);
+    Q_SLOT bool getTokenFinished(QIODevice* reply);
 
 signals:
     void uploadProgress(qlonglong bytesSent, qlonglong bytesTotal);

@@ -99,8 +99,9 @@ bool ProjectSwap::prepare(const Dirmap& wanted, const QSet<QString>& taken)
 // Announced before, so that they go again when it comes to nothing.
 bool ProjectSwap::makeFolders() const
 {
-    return std::all_of(m_journal.files.cbegin(), m_journal.files.cend(),
-                       [this](const SwapFile& file) { return QDir().mkpath(folderOf(absolute(file.temporary))); });
+    return std::all_of(m_journal.files.cbegin(), m_journal.files.cend(), [this](const SwapFile& file) {
+        return QDir().mkpath(folderOf(absolute(file.temporary)));
+    });
 }
 
 SwapFile ProjectSwap::announced(const QString& path, qint32 revision, const QSet<QString>& taken) const

@@ -118,7 +118,7 @@ private:
             return {};
         if (m_job.attempts == 0)
             emit m_owner.startUpdating();
-        const SyncResult result = pull.run(m_job.revision);
+        SyncResult result = pull.run(m_job.revision);
         m_owner.m_pulledEmpty[source] = result.isThere ? QString() : m_job.revision;
         announce(result, pull.filesChanged());
         return result;

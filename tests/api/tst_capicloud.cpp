@@ -267,6 +267,15 @@ void TestCapiCloud::pagesDownload()
     QCOMPARE(endOf(*m_page), QString("fine"));
     QCOMPARE(contents(work("Lobby/main.qml")), QByteArray("Item { }"));
     QVERIFY(!QFile::exists(work("Other")));
+
+    m_capi->setBaseFolder("Lobby");
+    m_capi->writeToFile("Item { x: 1 }", "main.qml");
+    m_capi->updateDirmapFile(QVariantMap{{"main.qml", 2}});
+    m_cloud.put(shared + "Lobby/dirmap", "main.qml 2\n");
+    QSignalSpy kept(m_page.get(), &CloudTransfers::kept);
+    m_page->downloadProject("a@b.c/ShareFolder/Lobby");
+    QCOMPARE(endOf(*m_page), QString("fine"));
+    QCOMPARE(contents(work("Lobby/main.qml")), QByteArray("Item { x: 1 }"));
 }
 
 void TestCapiCloud::cancelEndsSoon_data()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// projectplayer ROOT [DEPLOYMENT REVISION]: a start of the program with the workspace ROOT, as far as files are
-// concerned, and a pull of the project "Shop" of the account a@b.c to REVISION. Meant to be killed.
+// projectplayer ROOT [DEPLOYMENT REVISION]: a start of the program with the workspace ROOT, as far as files
+// are concerned, and a pull of the project "Shop" of the account a@b.c to REVISION. Meant to be killed.
 
 #include "api/leftovers.h"
 #include "api/workspace.h"
