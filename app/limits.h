@@ -5,9 +5,15 @@
 
 #include <QtGlobal>
 
+#include <chrono>
+
 namespace limits {
 
 /// Size at which the log goes on in a new file.
 constexpr qint64 logFileBytes = qint64(8) * 1024 * 1024;
+
+/// How long a start waits for the X server, and between two looks.
+constexpr std::chrono::seconds displayWait{10};
+constexpr std::chrono::milliseconds displayRetry{50};
 
 } // namespace limits

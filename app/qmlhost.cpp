@@ -5,6 +5,7 @@
 
 #include "api/capi.h"
 #include "api/platform.h"
+#include "app/displayhold.h"
 #include "app/qmlcontext.h"
 #include "app/restart.h"
 #include "app/screenshot.h"
@@ -66,6 +67,8 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
     auto context =
         std::make_unique<QmlContext>(*view.engine(), *capi, available.size(), screen->physicalDotsPerInch());
     QObject::connect(view.engine(), &QQmlEngine::quit, &application, &QGuiApplication::quit);
+    QObject::connect(view.engine(), &QQmlEngine::exit, &application, &QGuiApplication::exit,
+                     Qt::QueuedConnection);
 
     view.setInitialProperties(startPage(options, capi->getWorkDirectory()));
     view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/PlayerQML/main.qml")));
@@ -89,6 +92,7 @@ int runHost(int& argc, char** argv, const Options& options)
 {
     prepareIconTable();
     const Deployment deployment = Deployment::find(options.deployment);
+    const DisplayHold display;
     // Lets a web view be shown later without loading its library now.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     int code = 0;

@@ -16,6 +16,12 @@ FormPage {
                + "<br>Host: " + CAPI.hostName();
     }
 
+    function parts() {
+        return qsTr("Built with %1, under the LGPL version 3. "
+                    + "Fonts are under the Open Font License and the Apache License.")
+            .arg("<a href=\"https://www.qt.io/\">Qt</a>");
+    }
+
     objectName: "AboutPage"
     title: "About"
 
@@ -38,6 +44,16 @@ FormPage {
             textFormat: Text.StyledText
             horizontalAlignment: Text.AlignHCenter
             lineHeight: 1.5
+            onLinkActivated: Qt.openUrlExternally(link)
+        }
+
+        BGUI.Label {
+            objectName: "parts"
+            width: parent.width
+            text: root.parts()
+            textFormat: Text.StyledText
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
             onLinkActivated: Qt.openUrlExternally(link)
         }
 

@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import Nuvex.Editor 1.0 as Editor
 import "private"
+import "private/limits.js" as Limits
 import "SharedVars.js" as SS
 
 /// The first page: the project being worked on, and the ways from here. It lies under every other page, so what
@@ -110,7 +111,7 @@ StackPage {
     Timer {
         id: later
         property var task
-        interval: 10
+        interval: Limits.drawFirst
         onTriggered: task()
     }
 }

@@ -63,8 +63,10 @@ StackPage {
         text: root.notice !== "" ? root.notice : (root.failed ? "Error loading... " : "")
     }
 
+    // Where no cloud is set up there is no connection to lose.
     Rectangle {
         objectName: "connectionDot"
+        visible: SS.cloudIsSetUp()
         x: parent.width - width - 5
         y: 5
         width: 10

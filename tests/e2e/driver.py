@@ -33,11 +33,11 @@ def wait_for(condition, what):
 
 
 class Screen:
-    """An X server of its own."""
+    """An X server of its own. `options` are Xvfb's."""
 
-    def __init__(self, size="1280x720"):
+    def __init__(self, size="1280x720", options=("-noreset",)):
         reader, writer = os.pipe()
-        command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp"]
+        command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp", *options]
         self.process = subprocess.Popen(command, pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as numbers:
@@ -289,10 +289,10 @@ class ProgramTest(unittest.TestCase):
                                        **{"KILLPOINT_" + name.upper(): str(value) for name, value in settings.items()}})
 
 
-def run_tests():
-    """Runs the tests of the main module on a screen of their own."""
+def run_tests(**screen):
+    """Runs the tests of the main module on a screen of their own; `screen` are Screen's arguments."""
     ProgramTest.setup, rest = read_setup()
-    ProgramTest.screen = Screen()
+    ProgramTest.screen = Screen(**screen)
     try:
         unittest.main(argv=[sys.argv[0], *rest])
     finally:

@@ -2,13 +2,19 @@
 # SPDX-License-Identifier: MIT
 """kill -9 in the middle of uploads and writes: nothing that was acknowledged is lost, nothing half is seen.
 
-test_kill.py --program PROGRAM [--kills N] [--seed N]: prints a line for each kill. Each round several clients upload,
-copy, delete, append to a resumable upload and count in the database; then what they were told is compared
-with what is there.
+test_kill.py --program PROGRAM [--kills N] [--seed N] [--table N]
+
+Each round several clients upload, copy, delete, append to a resumable upload and count in the database; then what they
+were told is compared with what is there. Prints a line for each kill. --table kills by strace at the first N calls of
+each kind that changes a file, and prints a line for each kind.
 """
 import http.client
 import json
 import random
+import shutil
+import signal
+import subprocess
+import tempfile
 import threading
 import time
 
@@ -16,6 +22,7 @@ import cloud
 from cloud import content, md5, quote
 
 CHUNK = 256 * 1024
+CALLS = ["fdatasync", "fsync", "link", "unlink", "pwrite64", "write", "openat"]
 CUT = (OSError, http.client.HTTPException, json.JSONDecodeError, KeyError)
 
 
@@ -40,6 +47,8 @@ class Client(threading.Thread):
 class Uploads(Client):
     """Puts an object again and again, in one request or several."""
 
+    session = None
+
     def step(self):
         data = content(self.random.choice([10, 70_000, 600_000]), self.random.random())
         self.maybe = data
@@ -48,15 +57,18 @@ class Uploads(Client):
             answer = self.server.put(name, data)
         else:
             begun = self.server.storage("POST", f"/o?uploadType=resumable&name={quote(name)}", "{}", service="/upload")
-            session = begun.headers["Location"].removeprefix(self.server.base)
+            self.session = begun.headers["Location"].removeprefix(self.server.base)
             for start in range(0, len(data), CHUNK):
                 piece = data[start:start + CHUNK]
                 span = f"bytes {start}-{start + len(piece) - 1}/{len(data)}"
-                answer = self.server.ask("PUT", session, piece, {"Content-Range": span})
+                answer = self.server.ask("PUT", self.session, piece, {"Content-Range": span})
         if answer.status == 200:
             self.sure = data
 
     def check(self, server):
+        if self.session: # finished, or it can go on
+            told = server.ask("PUT", self.session, b"", {"Content-Range": "bytes */*"}).status
+            assert told in (200, 308), f"the upload is gone: {told}"
         answer = server.get(f"object {self.number}")
         possible = [data for data in (self.sure, self.maybe) if data is not None]
         assert answer.status == 200 if self.sure is not None else answer.status in (200, 404), answer.status
@@ -129,6 +141,15 @@ class Moves(Client):
         assert set(bodies) <= {b"moving"}, bodies
 
 
+def check_all(server, clients):
+    for client in clients:
+        client.check(server)
+    files = {path.name for path in (server.folder / "data/objects").iterdir()}
+    items = server.storage("GET", "/o").body.get("items", [])
+    assert {item["generation"] for item in items} == files, "files and rows differ"
+    return items
+
+
 def kill_once(server, seed):
     """One round; the number of operations that were acknowledged."""
     kinds = [Uploads, Uploads, Uploads, Appends, Counts, Counts, Moves]
@@ -144,19 +165,59 @@ def kill_once(server, seed):
         client.join()
     server.kill()
     server.start()
-    for client in clients:
-        client.check(server)
-    files = {path.name for path in (server.folder / "data/objects").iterdir()}
-    items = server.storage("GET", "/o").body.get("items", [])
-    assert {item["generation"] for item in items} == files, "files and rows differ"
-    for item in items:
+    for item in check_all(server, clients):
         server.storage("DELETE", "/o/" + quote(item["name"]))
     server.database("DELETE", "/count")
     return sum(client.done for client in clients)
 
 
+def kill_at(program, template, call, number):
+    """Whether a server was killed at its `number`th `call` while five clients worked in turns; checks what is left."""
+    with tempfile.TemporaryDirectory() as folder:
+        shutil.copytree(template, folder, dirs_exist_ok=True)
+        server = cloud.Cloud(program, folder=folder)
+        server.token()
+        inject = f"inject={call}:signal=KILL:when={number}"
+        strace = subprocess.Popen(["strace", "-o", "/dev/null", "-p", str(server.process.pid), "-e", "trace=" + call,
+                                   "-e", inject], stderr=subprocess.PIPE)
+        strace.stderr.readline() # says that it is attached
+        clients = [kind(server, i, 1) for i, kind in enumerate([Uploads, Uploads, Appends, Counts, Moves])]
+        clients[0].sure = clients[1].sure = b"old"
+        try:
+            for _ in range(3):
+                for client in clients:
+                    client.step()
+            killed = False
+        except CUT:
+            killed = server.process.wait(10) == -signal.SIGKILL
+            assert killed, "the server ended by itself"
+        strace.terminate()
+        strace.communicate()
+        server.kill()
+        server.start()
+        check_all(server, clients)
+        server.stop()
+        return killed
+
+
+def table(program, most):
+    with tempfile.TemporaryDirectory() as template:
+        server = cloud.Cloud(program, folder=template)
+        for number in range(2):
+            server.put(f"object {number}", b"old")
+        server.kill()
+        for call in CALLS:
+            kills = 0
+            while kills < most and kill_at(program, template, call, kills + 1):
+                kills += 1
+            print(f"{call}: killed at {kills} places, all old or new", flush=True)
+            assert kills, "none was killed"
+
+
 def main():
-    known = cloud.arguments(("kills", 4), ("seed", 1))
+    known = cloud.arguments(("kills", 4), ("seed", 1), ("table", 0))
+    if known.table:
+        return table(known.program, known.table)
     server = cloud.Cloud(known.program)
     for seed in range(known.seed, known.seed + known.kills):
         print(f"kill {seed}: {kill_once(server, seed)} operations acknowledged, all there")

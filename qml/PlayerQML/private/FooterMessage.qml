@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
+import "limits.js" as Limits
 
 /// A line at a page's foot for what went wrong. It clears itself after a while.
 Item {
@@ -32,7 +33,7 @@ Item {
 
     Timer {
         id: clearing
-        interval: 5000
+        interval: Limits.footerMessage
         onTriggered: root.text = ""
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "../SharedVars.js" as SS
+import "limits.js" as Limits
 
 /// Tells the account's database once a minute that this player is alive, and with sharing on sends a screenshot
 /// every twentieth time. The answer sets CAPI.iConnected.
@@ -11,13 +12,12 @@ Timer {
     property RequestTimer timeOut: RequestTimer {}
     property int sharedTicks: 0
 
-    readonly property int screenshotPeriod: 20
     readonly property int screenshotWidth: 300
 
     function sendScreenshotWhenDue() {
         if (!CAPI.getBSetting("shareFolder"))
             return;
-        if (sharedTicks % screenshotPeriod === 0)
+        if (sharedTicks % Limits.screenshotPeriod === 0)
             CAPI.uploadScreenshot(screenshotWidth);
         ++sharedTicks;
     }
@@ -28,10 +28,10 @@ Timer {
             SS.checkUpSubscriptions();
     }
 
-    interval: 1000
+    interval: Limits.firstHeartbeat
     repeat: true
     onTriggered: {
-        interval = 60000;
+        interval = Limits.heartbeatPeriod;
         timeOut.abort();
         SS.heartbeat(CAPI.getSSetting("userEmail"), CAPI.getSSetting("playerUID"), takeAnswer, timeOut);
         sendScreenshotWhenDue();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import "limits.js" as Limits
 
 /// Aborts a request that takes too long; handed to the cloud calls of the shared script, which set `request`,
 /// start it and stop it. A request that is still under way ends with the timer's owner.
@@ -15,7 +16,7 @@ Timer {
             request.abort();
     }
 
-    interval: 10000
+    interval: Limits.requestDeadline
     onTriggered: abort()
     Component.onDestruction: abort()
 }

@@ -149,8 +149,14 @@ void TestPlayerPage::reload()
 void TestPlayerPage::connectionDot()
 {
     setUp(documentOfSize({1280, 720}));
+    QVERIFY2(!Shell().find("connectionDot")->isVisible(), "no dot without a cloud");
+
     Shell shell;
-    const QQuickItem* dot = shell.find("connectionDot");
+    QVERIFY(QMetaObject::invokeMethod(
+        shell.root(), "evaluate",
+        Q_ARG(QVariant, "pop(null); SS.deployment = {available: true}; open('PlayerPage')")));
+    const QQuickItem* dot = shell.page()->findChild<QQuickItem*>("connectionDot");
+    QVERIFY(dot->isVisible());
     QCOMPARE(dot->mapRectToScene(dot->boundingRect()), QRectF(1265, 5, 10, 10));
     QCOMPARE(dot->property("color").value<QColor>(), QColor("white"));
     shell.api().setIConnected(false);

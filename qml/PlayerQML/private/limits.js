@@ -1,0 +1,24 @@
+.pragma library
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+//
+// Waits and periods of the shell, in milliseconds. Tests may set them.
+
+/// The first heartbeat after the start, and the time between two.
+var firstHeartbeat = 1000;
+var heartbeatPeriod = 60000;
+/// Heartbeats between two screenshots.
+var screenshotPeriod = 20;
+
+/// How long a request to the account's database or to the sign-in service may take.
+var requestDeadline = 10000;
+
+/// How long a line at a page's foot stays.
+var footerMessage = 5000;
+
+/// The full screen is asked for at these intervals, this often.
+var fullScreenInterval = 5000;
+var fullScreenRounds = 24;
+
+/// What a busy indicator gets to be drawn before work that blocks.
+var drawFirst = 10;
