@@ -67,6 +67,8 @@ public:
     ImportQueue& imports() { return m_imports; }
     /// This instance's part in the customer's cloud.
     CloudServices& cloud() { return m_cloud; }
+    /// Where the projects lie.
+    const Workspace& workspace() const { return m_workspace; }
 
 signals:
     /// Imports have begun (false) or have all ended (true).

@@ -46,5 +46,5 @@ void ImportQueue::report(const Outcome& outcome)
         emit runningChanged(false);
     else
         startNext();
-    emit finished(zipFile, outcome.reason(), projects);
+    emit finished(zipFile, outcome.reason(), projects, outcome.isCancelled());
 }

@@ -32,9 +32,9 @@ signals:
     /// Imports have begun, with the archive as archive(), or have all ended.
     void runningChanged(bool running);
     void progressChanged();
-    /// An import has ended. `error` says why it failed, in words; it is empty after a success and after
-    /// cancel(). `projects` are the names of the projects that are new or renewed.
-    void finished(const QString& zipFile, const QString& error, const QStringList& projects);
+    /// An import has ended. `error` says why it failed, in words; it is empty after a success and when it was
+    /// cancelled. `projects` are the names of the projects that are new or renewed; an archive may hold none.
+    void finished(const QString& zipFile, const QString& error, const QStringList& projects, bool cancelled);
 
 private:
     void startNext();

@@ -35,7 +35,7 @@ signals:
     void runningChanged();
     void progressChanged();
     /// As ImportQueue::finished().
-    void finished(const QString& archive, const QString& error, const QStringList& projects);
+    void finished(const QString& archive, const QString& error, const QStringList& projects, bool cancelled);
 
 private:
     void classBegin() override;

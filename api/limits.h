@@ -21,6 +21,10 @@ constexpr quint64 deflateRatio = 1032;
 /// Bytes that an import writes before it waits for the disk, which cannot be interrupted.
 constexpr qint64 unsyncedBytes = 32LL * 1024 * 1024;
 
+/// Longer side of a project's still, in px, and its quality as JPEG (0 to 100).
+constexpr int stillSide = 960;
+constexpr int stillQuality = 85;
+
 /// How often the progress of work in the background is shown.
 constexpr std::chrono::milliseconds progressInterval{100};
 

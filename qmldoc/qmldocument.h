@@ -3,17 +3,9 @@
 
 #pragma once
 
+#include "qmldoc/outline.h"
+
 #include <QVariant>
-
-#include <memory>
-#include <vector>
-
-namespace QQmlJS {
-class Engine;
-namespace AST {
-class UiObjectDefinition;
-}
-} // namespace QQmlJS
 
 /// A QML document as text: where its objects and their properties stand, and the text that the editor
 /// instantiates.
@@ -24,7 +16,6 @@ class QmlDocument
 {
 public:
     QmlDocument();
-    ~QmlDocument();
     Q_DISABLE_COPY(QmlDocument)
 
     /// Parses `source`, numbering its objects upward from `firstElement`. False when the text is no QML
@@ -39,23 +30,16 @@ public:
     QString generatedText() const { return m_generatedText; }
 
     /// Number of objects of the last successful parse.
-    int objectCount() const { return int(m_objects.size()); }
+    int objectCount() const { return int(m_outline.items().size()); }
 
-    /// The item map: one record for each numbered object, innermost first, the root last. A record is a map
-    /// of "pfirst" (begin of the type name), "pfirstL" (after the opening brace), "plast" (after the closing
-    /// brace), "typename" (up to the first dot, in Latin-1) and "properties" (see propertiesOfObject()).
+    /// The item map: the records of the numbered objects, innermost first, the root last; see itemRecord().
     QVariantList itemMap();
 
-    /// Properties of object `i` of 0 to objectCount() - 1, by name: maps of "value" (source text), "pfirst"
-    /// (begin of the declaration or binding) and "plast" (end of the value). Of two with the same name the
-    /// later one counts.
+    /// Properties of object `i` of 0 to objectCount() - 1; see itemProperties().
     QVariantMap propertiesOfObject(int i);
 
 private:
-    QVariantMap record(int i);
-
     QString m_generatedText;
     const QString* m_source;
-    std::unique_ptr<QQmlJS::Engine> m_engine; // owns the syntax tree of the last successful parse
-    std::vector<QQmlJS::AST::UiObjectDefinition*> m_objects;
+    Outline m_outline; // of the last successful parse
 };

@@ -34,10 +34,18 @@ FormPage {
         shell.open("ImportPage");
     }
 
-    function showImported(archive, error, projects) {
+    function tell(type, text) {
+        notice.type = type;
+        notice.text = text;
+    }
+
+    function showImported(archive, error, projects, cancelled) {
         const name = archive.split("/").pop();
         if (error !== "")
-            notice.text = qsTr("%1 could not be imported: %2.").arg(name).arg(error);
+            tell("danger", qsTr("%1 could not be imported: %2.").arg(name).arg(error));
+        else if (projects.length === 0 && !cancelled)
+            tell("warning", qsTr("%1 holds no project's folder. Its files are in %2 now.")
+                            .arg(name).arg(CAPI.getWorkDirectory()));
         if (projects.length === 0)
             return;
         local.reload();
@@ -68,25 +76,39 @@ FormPage {
         onActivated: root.tab = index
     }
 
-    BGUI.Notice {
-        id: notice
-        objectName: "importError"
+    Column {
+        id: news
         anchors.top: tabRow.bottom
-        anchors.topMargin: BGUI.Theme.unit
+        anchors.topMargin: 1.5 * BGUI.Theme.unit
         anchors.horizontalCenter: parent.horizontalCenter
         width: local.width
-        type: "danger"
-        closable: true
+        spacing: 1.5 * BGUI.Theme.unit
+        bottomPadding: notice.visible || imports.running ? 1.5 * BGUI.Theme.unit : 0
+
+        BGUI.Notice {
+            id: notice
+            objectName: "importNotice"
+            closable: true
+        }
+
+        ProgressStrip {
+            width: parent.width
+            visible: imports.running
+            text: qsTr("Importing %1").arg(imports.archive.split("/").pop())
+            progress: imports.progress
+            onCanceled: {
+                imports.cancel();
+                (root.tab === 0 ? local : tabRow).forceActiveFocus(Qt.TabFocusReason);
+            }
+        }
     }
 
     ProjectList {
         id: local
-        anchors.top: notice.visible ? notice.bottom : tabRow.bottom
-        anchors.topMargin: BGUI.Theme.unit
-        anchors.bottom: importing.visible ? importing.top : message.top
-        anchors.bottomMargin: importing.visible ? BGUI.Theme.unit : 0
+        anchors.top: news.bottom
+        anchors.bottom: message.top
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 90 * BGUI.Theme.unit)
+        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 110 * BGUI.Theme.unit)
         visible: root.tab === 0
         focus: visible
         onChosen: root.choose(name)
@@ -123,20 +145,6 @@ FormPage {
                                    : qsTr("The projects of an account need a cloud.")
     }
 
-    ProgressStrip {
-        id: importing
-        anchors.bottom: message.top
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: local.width
-        visible: imports.running
-        text: qsTr("Importing %1").arg(imports.archive.split("/").pop())
-        progress: imports.progress
-        onCanceled: {
-            imports.cancel();
-            (root.tab === 0 ? local : tabRow).forceActiveFocus(Qt.TabFocusReason);
-        }
-    }
-
     FooterMessage {
         id: message
         anchors.bottom: parent.bottom
@@ -145,7 +153,7 @@ FormPage {
 
     Imports {
         id: imports
-        onFinished: root.showImported(archive, error, projects)
+        onFinished: root.showImported(archive, error, projects, cancelled)
     }
 
     Shortcut {

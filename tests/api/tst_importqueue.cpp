@@ -67,9 +67,10 @@ void TestImportQueue::importsInTurn()
         projects.sort();
         arguments[2] = projects.join(' ');
     }
-    QCOMPARE(finished, QList<QVariantList>({{shop, "", "Bar Shop"},
-                                            {broken, "a name could lead out of the target: Shop/../x", ""},
-                                            {files, "", ""}}));
+    QCOMPARE(finished,
+             QList<QVariantList>({{shop, "", "Bar Shop", false},
+                                  {broken, "a name could lead out of the target: Shop/../x", "", false},
+                                  {files, "", "", false}}));
     QCOMPARE(running, QList<QVariantList>({{true}, {false}}));
     QCOMPARE(queue.progress(), 1.0);
     QCOMPARE(contents(m_work + "/Shop/main.qml"), QByteArray("new"));
@@ -102,7 +103,7 @@ void TestImportQueue::stops()
         Leftovers(Workspace(m_dir->path())).wait();
     } else {
         queue->cancel();
-        QTRY_COMPARE(finished, QList<QVariantList>({{large, "", QStringList()}}));
+        QTRY_COMPARE(finished, QList<QVariantList>({{large, "", QStringList(), true}}));
         QVERIFY(!queue->isRunning());
     }
     QCOMPARE(QDir(m_work).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),

@@ -216,7 +216,7 @@ class PagesTest(ProgramTest):
         self.assertEqual(program.buttons().count("Museum"), 1)
         self.assertNotIn("Broken", program.buttons())
         program.click("Close")
-        wait_for(lambda: not program.find("importError"), "the message to close")
+        wait_for(lambda: not program.find("importNotice"), "the message to close")
         program.key("ctrl+i")
         program.wait_page("ImportPage")
         program.key("Escape")

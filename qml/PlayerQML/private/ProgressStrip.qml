@@ -15,37 +15,37 @@ FocusScope {
 
     implicitHeight: cancel.height
 
-    BGUI.Label {
-        id: label
-        anchors.left: parent.left
-        anchors.right: cancel.left
-        anchors.rightMargin: 2 * BGUI.Theme.unit
-        anchors.bottom: bar.top
-        anchors.bottomMargin: BGUI.Theme.unit / 2
-        text: root.text
-        textFormat: Text.PlainText
-        wrapMode: Text.NoWrap
-        elide: Text.ElideMiddle
-    }
-
-    BGUI.ProgressBar {
-        id: bar
+    Column {
         anchors.left: parent.left
         anchors.right: percent.left
         anchors.rightMargin: BGUI.Theme.unit
-        anchors.bottom: parent.bottom
-        value: root.progress
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: BGUI.Theme.unit / 2
+
+        BGUI.Label {
+            width: parent.width
+            text: root.text
+            textFormat: Text.PlainText
+            wrapMode: Text.NoWrap
+            elide: Text.ElideMiddle
+        }
+
+        BGUI.ProgressBar {
+            width: parent.width
+            value: root.progress
+        }
     }
 
     BGUI.Label {
         id: percent
         anchors.right: cancel.left
         anchors.rightMargin: 2 * BGUI.Theme.unit
-        anchors.verticalCenter: bar.verticalCenter
-        width: 5 * BGUI.Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        width: 6 * BGUI.Theme.unit
         horizontalAlignment: Text.AlignRight
         text: qsTr("%1 %").arg(Math.floor(100 * root.progress))
         textFormat: Text.PlainText
+        wrapMode: Text.NoWrap
         muted: true
     }
 

@@ -3,12 +3,15 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Native 1.1
 
 /// The projects of the workspace, by name. The arrow keys move, Enter chooses, Del deletes.
 FocusScope {
     id: root
 
     readonly property int count: rows.count
+    readonly property real rowHeight: Math.max(8 * BGUI.Theme.unit, Math.min(height / 9, 12 * BGUI.Theme.unit))
+    readonly property real line: Math.max(1, dp)
 
     signal chosen(string name)
     signal removeRequested(string name)
@@ -33,17 +36,17 @@ FocusScope {
 
     Rectangle {
         width: parent.width
-        height: Math.min(list.contentHeight, parent.height)
+        height: Math.min(list.contentHeight + 2 * root.line, parent.height)
         visible: list.count > 0
         color: BGUI.Theme.surface
-        border.width: Math.max(1, dp)
+        border.width: root.line
         border.color: BGUI.Theme.line
     }
 
     ListView {
         id: list
         anchors.fill: parent
-        anchors.margins: Math.max(1, dp)
+        anchors.margins: root.line
         focus: true
         clip: true
         boundsBehavior: Flickable.StopAtBounds
@@ -59,14 +62,22 @@ FocusScope {
             readonly property bool isCurrent: ListView.isCurrentItem
 
             width: list.width
-            height: 6 * BGUI.Theme.unit
+            height: root.rowHeight
             focus: true
             focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             highlighted: isOpen
             faIcon: isOpen ? "fa-folder-open" : "fa-folder"
+            size: "large"
             text: name
+            picture: still.source
+            pictureWidth: 16 / 9 * contentItem.height
             onClicked: root.chosen(name)
             Keys.onDeletePressed: root.removeRequested(name)
+
+            ProjectStill {
+                id: still
+                project: name
+            }
 
             BGUI.ActionButton {
                 focusPolicy: row.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus

@@ -144,17 +144,28 @@ PanelCase {
         verifyMap();
     }
 
-    // What the live item refuses is not written.
-    function test_refused() {
+    // What the live item or the source refuses is not written, said, and nothing of the change stays on the live item.
+    function test_refused_data() {
+        return [
+            { tag: "by the item", text: "nosuchname", warnings: 1 },
+            { tag: "no value", text: "no such thing", warnings: 0 },
+            { tag: "more than one", text: "5; color: 'red'", warnings: 0 },
+            { tag: "nothing", text: "", warnings: 0 }
+        ];
+    }
+    function test_refused(data) {
         open("BasicRectangle { width: 100; height: 50; radius: 4 }");
         select(0);
         const before = CAPI.editedSourceCode();
-        verify(!form.commit("radius", "no such thing"));
-        verify(!form.commit("radius", "nosuchname"));
-        verify(form.problem !== "");
+        verify(!form.commitAll([{ name: "width", text: "120" }, { name: "radius", text: data.text }]));
+        waitForRendering(panel);
+        verify(all(panel, item => item.text === form.problem && item.visible && item.height > 0).length > 0, form.problem);
+        compare([Ejs.elementObj.width, Ejs.elementObj.radius], [100, 4]);
         compare(CAPI.editedSourceCode(), before);
         compare(takeChanges(), [0, 0]);
-        expectWarnings(2, /does not take radius/);
+        expectWarnings(data.warnings, /does not take radius/);
+        verify(form.commit("radius", "5"));
+        compare(form.problem, "");
     }
 
     function test_texts_data() {
@@ -388,11 +399,21 @@ PanelCase {
                 verify(left >= -1 && left + item.width <= data.width + 1 || isInside(item), row.label + " " + item);
             });
         });
-        const byTop = rows.filter(row => !isInside(row)).map(row => ({ top: row.mapToItem(panel, 0, 0).y, row: row }))
+        const byTop = rows.filter(row => !isInside(row) && !isInRow(row)).map(row => ({ top: row.mapToItem(panel, 0, 0).y, row: row }))
             .sort((a, b) => a.top - b.top);
         for (let i = 1; i < byTop.length; ++i)
             verify(byTop[i].top >= byTop[i - 1].top + byTop[i - 1].row.height - 1, byTop[i].row.label);
+        all(panel, item => item.checkState !== undefined).forEach(box => verify(box.text !== "", "a box without its label"));
         fixture.takeWarnings();
+    }
+
+    // Whether the item is one of several in a row of the form.
+    function isInRow(item) {
+        for (let at = item.parent; at && at !== panel; at = at.parent) {
+            if (at.form !== undefined && at.label !== undefined)
+                return true;
+        }
+        return false;
     }
 
     // Whether the item is inside something that cuts it off, as text in a field.

@@ -17,6 +17,8 @@ private slots:
     void playerGetsAName();
     void startedProjectIsForOneShow();
     void mainPageFollowsTheSettings();
+    void stillOfTheProject_data();
+    void stillOfTheProject();
     void typesOfThePages();
 };
 
@@ -28,6 +30,11 @@ QVariantMap account(const QString& action, const QString& project)
             {"playerUID", "west.wing_12"},
             {"doOnStart", action},
             {"lastProject", project}};
+}
+
+QRectF sceneRect(const QQuickItem* item)
+{
+    return item->mapRectToScene(item->boundingRect());
 }
 
 const QVariantMap nobody{{"playerUID", "west_12"}, {"doOnStart", "play"}, {"lastProject", "Shop"}};
@@ -138,6 +145,51 @@ void TestShell::mainPageFollowsTheSettings()
     QCOMPARE(shell.api().getBaseProjectName(), QString("Shop & <Co>"));
     QCOMPARE(shell.find("footerMessage")->property("text").toString(), QString());
     QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
+
+void TestShell::stillOfTheProject_data()
+{
+    QTest::addColumn<QSize>("page");
+    QTest::addColumn<QSize>("document");
+    QTest::newRow("landscape") << QSize(1920, 1080) << QSize(1280, 720);
+    QTest::newRow("small, of an upright board") << QSize(1280, 720) << QSize(720, 1280);
+    QTest::newRow("portrait") << QSize(1080, 1920) << QSize(1920, 1080);
+}
+
+// Playing makes it; the main page shows it beside its tiles, the list of projects in the project's row; it
+// goes with the project.
+void TestShell::stillOfTheProject()
+{
+    QFETCH(QSize, page);
+    QFETCH(QSize, document);
+    TestProfile::reset(account("play", "Shop"));
+    TestProfile::addProject("Shop",
+                            QString("import QtQuick 2.15\nRectangle { width: %1; height: %2; color: 'teal' }")
+                                .arg(document.width())
+                                .arg(document.height()));
+    Shell shell({}, page);
+    const QString still = shell.api().workspace().stillOf("Shop");
+    QVERIFY(!QFile::exists(still));
+    shell.root()->findChild<QObject*>("stillTimer")->setProperty("interval", 1);
+    QTRY_VERIFY(QFile::exists(still));
+    const QImage image(still);
+    QCOMPARE(image.size(), document.scaled(960, 960, Qt::KeepAspectRatio));
+    QVERIFY(qAbs(image.pixelColor(5, 5).blue() - QColor("teal").blue()) < 4);
+
+    shell.goBack();
+    QTRY_COMPARE(shell.pageName(), QString("MainPage"));
+    QTRY_VERIFY(shell.find("projectStill") && shell.find("projectStill")->isVisible());
+    const QRectF window(QPointF(), shell.root()->size());
+    const QRectF shown = sceneRect(shell.find("projectStill"));
+    QVERIFY(window.contains(shown));
+    QVERIFY(shown.width() * shown.height() > 0.1 * window.width() * window.height());
+    QVERIFY(qAbs(shown.width() / shown.height() - qreal(document.width()) / document.height()) < 0.02);
+    for (const QQuickItem* tile : shell.root()->findChildren<QQuickItem*>("mainTile")) {
+        QVERIFY(window.contains(sceneRect(tile)));
+        QVERIFY(!shown.intersects(sceneRect(tile)));
+    }
+    QVERIFY(shell.api().removeProject("Shop"));
+    QVERIFY(!QFile::exists(still));
 }
 
 // The second door: what projects' documents import does not have the types that are for the program's own
