@@ -8,6 +8,7 @@
 #include "api/imports.h"
 #include "api/projectstill.h"
 #include "api/textfile.h"
+#include "api/transfers.h"
 #include "cloud/deployment.h"
 #include "lan/projectexchange.h"
 #include "qmldoc/documentfaults.h"
@@ -33,6 +34,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
     qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
+    qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     qmlRegisterType<Exchange>("Nuvex.Native", 1, 1, "Exchange");
     qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
