@@ -16,7 +16,6 @@ CAPI* currentInstance = nullptr;
 CAPI::CAPI(QQuickView* view, QObject* parent, const Deployment& deployment, WindowMode windowMode)
     : QObject(parent)
     , m_view(view)
-    , m_deployment(deployment)
     , m_windowMode(windowMode)
     , m_workspace(Workspace::defaultRoot())
     , m_leftovers(m_workspace)
@@ -25,9 +24,11 @@ CAPI::CAPI(QQuickView* view, QObject* parent, const Deployment& deployment, Wind
     , m_projectName(m_settings.text(QStringLiteral("lastProject")))
     , m_editing(
           [this](const QString& text, const QString& fileName) { return m_folder.write(text, fileName); })
+    , m_cloud(deployment, m_workspace, m_settings, m_imports, view)
 {
     connect(&m_imports, &ImportQueue::runningChanged, this,
             [this](bool running) { emit onExtractFinishedChanged(!running); });
+    passCloudSignalsOn();
     currentInstance = this;
 }
 

@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "api/cloudservices.h"
 #include "api/importqueue.h"
 #include "api/leftovers.h"
 #include "api/projectfolder.h"
 #include "api/settings.h"
 #include "api/workspace.h"
-#include "cloud/deployment.h"
 #include "cloud/projectupdatelist.h"
 #include "qmldoc/editingsession.h"
 
@@ -39,8 +39,9 @@ public:
     };
 
     /// Opens the settings, creates the workspace folders and writes first-run defaults; becomes current().
-    /// `view` is not owned and must outlive this object; it may be null in tests without a window.
-    /// `deployment` is the customer's cloud; one that is not set leaves the cloud's members without effect.
+    /// Projects that were being pulled when the program last ended are whole then, old or new. `view` is not
+    /// owned and must outlive this object; it may be null in tests without a window. `deployment` is the
+    /// customer's cloud; one that is not set leaves the cloud's members without effect.
     CAPI(QQuickView* view, QObject* parent, const Deployment& deployment = {},
          WindowMode windowMode = WindowMode::FullScreenAllowed);
     ~CAPI() override;
@@ -66,6 +67,8 @@ public:
     ImportQueue& imports() { return m_imports; }
     /// Where the projects lie.
     const Workspace& workspace() const { return m_workspace; }
+    /// This instance's part in the customer's cloud.
+    CloudServices& cloud() { return m_cloud; }
 
 signals:
     /// Imports have begun (false) or have all ended (true).
@@ -199,19 +202,26 @@ public:
 
     // --- cloud, updates, local network --------------------------------------------------------------------
 
-    /// Demo projects offered in the cloud: maps with the key "folder".
+    // Those that go to the cloud wait for it in a nested event loop, which ends when the program quits. Pages
+    // use the type Transfers. The signals of transfers tell of these members, and of pulls.
+
+    /// Demo projects offered in the cloud: maps with the key "folder", the name of an archive.
     Q_INVOKABLE QVariantList getDemosList(QString demoFolder);
-    /// Downloads a demo archive and unpacks it into the work directory.
+    /// Downloads the demo archive `cloudDir` + `cloudFile` and imports it into the work directory, which goes
+    /// on in the background.
     Q_INVOKABLE void downloadDemoProject(QString cloudDir, QString cloudFile);
     /// Performs no update; always false.
     Q_INVOKABLE bool updateApp(int version);
-    /// Pushes the changed files of a project to the account's shared folder.
+    /// Pushes the changed files of a project to the account's shared folder. Where a file has changed on both
+    /// sides, this one wins.
     Q_INVOKABLE void doOneShareUp(QString folder);
-    /// Pulls the changed files of a project from the account's shared folder, in the background.
+    /// Pulls the changed files of a project from the account's shared folder, in the background, unless
+    /// `cloudrevision` is empty or pulled already; tries again until it succeeds.
     Q_INVOKABLE void doOneShareDown(QString folder, QString cloudrevision);
-    /// Cloud projects of an account: maps with the key "folder".
+    /// Names of the folders directly below `folder`, an account and perhaps a path: maps with the key
+    /// "folder".
     Q_INVOKABLE QVariantList getCloudProjectList(QString folder);
-    /// Downloads a cloud project.
+    /// Downloads the cloud project `m_menuFolder`, an account and a path, into the work directory.
     Q_INVOKABLE void downloadProject(QString m_menuFolder);
     /// Names of the projects in the work directory, in file-system order.
     Q_INVOKABLE QStringList getProjectList();
@@ -274,9 +284,9 @@ public:
 private:
     void setGenerateZipFinished(bool finished);
     void emitEditingState();
+    void passCloudSignalsOn();
 
     QQuickView* m_view;
-    Deployment m_deployment;
     WindowMode m_windowMode;
     ProjectUpdateList m_projectsToUpdate;
     bool m_generateZipFinished = true;
@@ -288,4 +298,5 @@ private:
     ProjectFolder m_folder;
     QString m_projectName;
     EditingSession m_editing;
+    CloudServices m_cloud;
 };

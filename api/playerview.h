@@ -17,6 +17,8 @@ public:
 
     /// Whether a project's document is loaded and on the screen.
     bool showsDocument() const;
+    /// Takes the project off the screen and makes the engine forget its documents.
+    void stop() const;
 
 private:
     QQuickView* m_view;

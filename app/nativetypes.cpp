@@ -7,6 +7,7 @@
 #include "api/imports.h"
 #include "api/projectstill.h"
 #include "api/textfile.h"
+#include "api/transfers.h"
 #include "cloud/deployment.h"
 #include "qmldoc/documentfaults.h"
 #include "qmldoc/edits/sourceedits.h"
@@ -32,6 +33,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
+    qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<SourceEdits>(
         "Nuvex.Native", 1, 1, "SourceEdits",

@@ -17,7 +17,7 @@ struct Deployment
     {
         QString projectId;
         QString privateKeyId;
-        QString privateKey; ///< PEM, PKCS#8
+        QByteArray privateKey; ///< DER, PKCS#1; the file has it as PEM, PKCS#8
         QString clientEmail;
         QString clientId;
     };
