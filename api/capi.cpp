@@ -3,6 +3,8 @@
 
 #include "api/capi.h"
 
+#include "api/localnetwork.h"
+
 #include <QCoreApplication>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -25,6 +27,7 @@ CAPI::CAPI(QQuickView* view, QObject* parent, const Deployment& deployment, Wind
     , m_editing(
           [this](const QString& text, const QString& fileName) { return m_folder.write(text, fileName); })
     , m_cloud(deployment, m_workspace, m_settings, m_imports, view)
+    , m_localNetwork(std::make_unique<LocalNetwork>(*this, view, deployment))
 {
     connect(&m_imports, &ImportQueue::runningChanged, this,
             [this](bool running) { emit onExtractFinishedChanged(!running); });

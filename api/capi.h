@@ -15,6 +15,9 @@
 #include <QObject>
 #include <QVariant>
 
+#include <memory>
+
+class LocalNetwork;
 class QQuickView;
 
 /// The one native service object of the QML side, published as the context property "CAPI".
@@ -61,6 +64,9 @@ public:
     /// Stores the value and emits iConnectedChanged every time, also when it did not change.
     void setIConnected(bool connected);
 
+    /// The local network, for the QML types that show it.
+    LocalNetwork& localNetwork() { return *m_localNetwork; }
+
     /// `path` as a local path, by the rule of ProjectFolder.
     QString resolvedPath(const QString& path) const { return m_folder.resolved(path); }
     /// The imports into this instance's work directory.
@@ -95,9 +101,9 @@ signals:
     void newerEditingState(bool ok);
     /// `ok`: the edited source is the oldest recorded state, there is nothing to undo.
     void olderEditingState(bool ok);
-    /// A transfer with the player `name` on the local network began.
+    /// A connection to the player `name` on the local network is up; there may be several to one player.
     void playerConnectionStarted(QString name);
-    /// A transfer with the player `name` on the local network ended.
+    /// A connection to the player `name` has ended; empty when it never said its name.
     void playerConnectionFinished(QString name);
 
 public:
@@ -121,7 +127,8 @@ public:
     Q_INVOKABLE int getISetting(QString name);
     /// Stores a setting at once.
     Q_INVOKABLE void setSetting(QString name, QVariant value);
-    /// Name of the local-network player that the next transfer talks to.
+    /// Exchanges the deployment's project, or the current one, with a connected player of the local network:
+    /// sends or fetches by chance. Returns when that is over; events are processed meanwhile.
     Q_INVOKABLE void setConnectedPlayerName(QString);
 
     // --- files and projects -------------------------------------------------------------------------------
@@ -243,7 +250,7 @@ public:
     Q_INVOKABLE bool updateDirmapFile(QVariantMap dirmap);
     /// A new realtime subscriber, owned by the QML engine; null without a cloud.
     Q_INVOKABLE QObject* newFirebaseSubscriber();
-    /// Starts serving players of the local network.
+    /// Starts serving players of the local network, and announcing this one where the deployment says.
     Q_INVOKABLE void startLocalServer();
     /// Downloads one URL into a folder of the project; blocks while events are processed.
     Q_INVOKABLE bool getFile(QString url, QString destDir, QString destName);
@@ -299,4 +306,5 @@ private:
     QString m_projectName;
     EditingSession m_editing;
     CloudServices m_cloud;
+    std::unique_ptr<LocalNetwork> m_localNetwork; // last: its threads end before anything else goes
 };

@@ -3,6 +3,7 @@
 
 #include "api/capi.h"
 
+#include "api/localnetwork.h"
 #include "api/logging.h"
 #include "cloud/dirmap.h"
 #include "cloud/realtime/firebasesubscriber.h"
@@ -156,7 +157,7 @@ QObject* CAPI::newFirebaseSubscriber()
 
 void CAPI::startLocalServer()
 {
-    notAvailableYet(__func__);
+    m_localNetwork->start();
 }
 
 bool CAPI::getFile(QString url, QString destDir, QString destName)
@@ -186,7 +187,7 @@ QString CAPI::getDownloadUrl(QString cloudFile)
     return m_cloud.storage().signedUrl(cloudFile);
 }
 
-void CAPI::setConnectedPlayerName(QString)
+void CAPI::setConnectedPlayerName(QString player)
 {
-    notAvailableYet(__func__);
+    m_localNetwork->exchangeAtRandom(player);
 }

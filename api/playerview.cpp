@@ -23,10 +23,10 @@ bool PlayerView::showsDocument() const
     return player && player->property("item").value<QObject*>();
 }
 
-void PlayerView::stop() const
+void PlayerView::unload() const
 {
     if (QObject* player = playerIn(m_view))
-        player->setProperty("source", QString());
+        player->setProperty("source", QUrl());
     if (m_view)
         m_view->engine()->clearComponentCache();
 }

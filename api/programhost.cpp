@@ -46,7 +46,7 @@ void ProgramHost::stopPlayer(const std::function<void()>& done)
     QMetaObject::invokeMethod(
         this,
         [this, done] {
-            m_player.stop();
+            m_player.unload();
             done();
         },
         Qt::QueuedConnection);

@@ -8,7 +8,9 @@
 #include "api/projectstill.h"
 #include "api/textfile.h"
 #include "api/transfers.h"
+#include "app/exchangetype.h"
 #include "cloud/deployment.h"
+#include "lan/projectexchange.h"
 #include "qmldoc/documentfaults.h"
 #include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
@@ -34,6 +36,8 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
+    qmlRegisterType<ExchangeType>("Nuvex.Native", 1, 1, "Exchange");
+    qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<SourceEdits>(
         "Nuvex.Native", 1, 1, "SourceEdits",

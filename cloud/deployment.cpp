@@ -132,6 +132,15 @@ void readHosts(Members hosts, Deployment::Hosts& result)
     result.identity = hosts.host(QStringLiteral("identity"));
 }
 
+void readCloud(Members members, Deployment& result)
+{
+    readAccount(members.object(QStringLiteral("serviceAccount")), result.serviceAccount);
+    result.bucket = members.filledText(QStringLiteral("bucket"));
+    readHosts(members.object(QStringLiteral("hosts")), result.hosts);
+    result.databaseCredential = members.text(QStringLiteral("databaseCredential"));
+    result.webApiKey = members.text(QStringLiteral("webApiKey"));
+}
+
 void readLan(Members lan, Deployment& result)
 {
     result.broadcastAddresses = lan.addresses(QStringLiteral("broadcastAddresses"));
@@ -152,13 +161,11 @@ Deployment Deployment::parse(const QByteArray& json, QString* fault)
     }
     Deployment result;
     Members members(document.object(), QString(), fault);
-    readAccount(members.object(QStringLiteral("serviceAccount")), result.serviceAccount);
-    result.bucket = members.filledText(QStringLiteral("bucket"));
-    readHosts(members.object(QStringLiteral("hosts")), result.hosts);
-    result.databaseCredential = members.text(QStringLiteral("databaseCredential"));
-    result.webApiKey = members.text(QStringLiteral("webApiKey"));
-    if (members.contains(QStringLiteral("lan")))
-        readLan(members.object(QStringLiteral("lan")), result);
+    const QString lan = QStringLiteral("lan");
+    if (document.object().keys() != QStringList(lan))
+        readCloud(members, result);
+    if (members.contains(lan))
+        readLan(members.object(lan), result);
     return fault->isEmpty() ? result : Deployment();
 }
 
