@@ -110,7 +110,10 @@ FormPage {
         model: root.tabs
         currentIndex: root.tab
         focus: root.tab !== 0
-        onActivated: root.tab = index
+        onActivated: {
+            notice.text = "";
+            root.tab = index;
+        }
     }
 
     Column {

@@ -272,10 +272,12 @@ function subscribeToProjectRevision(user, project) {
     });
 }
 
-/// The revision of a project that this computer got from the cloud last; empty when none is known.
+/// The revision of a project that this computer got from the cloud or published last; empty when none is known.
 function localRevision(project) {
-    const file = JCAPI.getWorkDirectory() + "/../ShareFolder/" + project + "/record.json";
-    const record = JCAPI.fileExist(file) ? parsed(JCAPI.readTextFile(file)) : undefined;
+    const work = JCAPI.getWorkDirectory();
+    const file = work + "/../ShareFolder/" + project + "/record.json";
+    const isHere = JCAPI.fileExist(work + "/" + project + "/dirmap") && JCAPI.fileExist(file);
+    const record = isHere ? parsed(JCAPI.readTextFile(file)) : undefined;
     return record && typeof record.revision === "string" ? record.revision : "";
 }
 

@@ -115,10 +115,10 @@ class CloudTest(ProgramTest):
         self.tell("the player has obeyed")
 
         self.publish(editor, "Cafe", 0)
-        streams = self.cloud.counters()["streams"]
+        streams = self.cloud.counters()["openStreams"]
         self.database("Players/wall_1/project", "Cafe")
         self.wait_colour(player, PURPLE)
-        wait_for(lambda: self.cloud.counters()["streams"] == streams,
+        wait_for(lambda: self.cloud.counters()["openStreams"] == streams,
                  "the old project's stream to end")
         self.write("Cafe", "navy", 2)
         self.publish(editor, "Cafe", 1)
@@ -133,7 +133,7 @@ class CloudTest(ProgramTest):
         editor.click("Delete Shop")
         wait_for(lambda: not (self.profile.work / "Shop").exists(), "the project to go")
         editor.click("Cloud")
-        editor.wait_text("revision 1")
+        wait_for(lambda: self.details(editor, "revision 1"), "the published revision")
         editor.click("Shop")
         editor.wait_text("Shop is on this computer now.")
         self.assertIn("orange", (self.profile.work / "Shop/main.qml").read_text())
@@ -142,8 +142,12 @@ class CloudTest(ProgramTest):
         editor.wait_text("No connection to the cloud")
         self.cloud.start()
         editor.click("Try again")
-        editor.wait_text("revision 1")
+        wait_for(lambda: len(self.details(editor, "revision 1, which is here")) == 2, "both, as they are here")
         self.tell("got back from the cloud, and words while it was away")
+
+    def details(self, program, end):
+        """The second lines of rows that end so."""
+        return [text for text in program.texts() if "  ·  " in text and text.endswith(end)]
 
     def sign_out(self, editor):
         editor.key("Escape")

@@ -19,7 +19,7 @@ FocusScope {
     property bool isCounting: false
     property var atEnd: () => {}
 
-    // "success", "warning" or "danger", and what there is to say.
+    // A type of Notice, and what there is to say.
     signal told(string type, string text)
     // The project, or the store's archive, has arrived.
     signal arrived(string project)
@@ -29,7 +29,7 @@ FocusScope {
         project = name;
         caption = words;
         atEnd = whenDone;
-        told("", "");
+        told("info", "");
     }
 
     function publish(name) {
@@ -97,7 +97,8 @@ FocusScope {
         const what = caption.arg(project);
         if (transfers.files === 0)
             return what;
-        return qsTr("%1: %2, file %3 of %4").arg(what).arg(transfers.file).arg(transfers.fileNumber).arg(transfers.files);
+        return qsTr("%1: %2, file %3 of %4").arg(what).arg(transfers.file).arg(transfers.fileNumber)
+                                            .arg(transfers.files);
     }
 
     implicitHeight: strip.implicitHeight
@@ -115,7 +116,8 @@ FocusScope {
     Transfers {
         id: transfers
         onConflictsFound: conflicts.ask(files)
-        onKept: root.told("warning", qsTr("Changed here and not published, so left as they are: %1.").arg(files.join(", ")))
+        onKept: root.told("warning", qsTr("Changed here and not published, so left as they are: %1.")
+                                     .arg(files.join(", ")))
         onFinished: root.end(error, cancelled)
     }
 

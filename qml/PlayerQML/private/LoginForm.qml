@@ -23,7 +23,7 @@ Sheet {
         (emailField.text === "" ? emailField : passwordField).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    maximumWidth: 64 * BGUI.Theme.unit
+    maximumWidth: 72 * BGUI.Theme.unit
 
     BGUI.Label {
         width: parent.width
@@ -86,7 +86,6 @@ Sheet {
         BGUI.Button {
             enabled: root.isComplete
             size: "large"
-            faIcon: "fa-user-plus"
             text: "Sign Up"
             onClicked: root.signUpRequested()
         }

@@ -18,5 +18,5 @@ function size(bytes) {
 /// A time as RFC 3339 has it, in this computer's zone and way of writing; empty when it is not readable.
 function time(text) {
     const moment = new Date(text);
-    return isNaN(moment.getTime()) ? "" : moment.toLocaleString(Qt.locale(), Locale.ShortFormat);
+    return isNaN(moment.getTime()) ? "" : Qt.formatDateTime(moment, Qt.DefaultLocaleShortDate);
 }
