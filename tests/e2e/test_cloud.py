@@ -2,9 +2,11 @@
 # SPDX-License-Identifier: MIT
 """Two real programs and the cloud on this machine: what is published in one is seen in the other."""
 
+import io
 import subprocess
 import sys
 import time
+import zipfile
 from pathlib import Path
 
 from driver import Profile, Program, ProgramTest, Screen, run_tests, wait_for
@@ -104,6 +106,8 @@ class CloudTest(ProgramTest):
         self.wait_colour(player, TEAL)
         wait_for(lambda: colour_at(player.screen, 1270, 10) == (255, 255, 255), "the dot of a good connection")
         wait_for(lambda: (self.database("Players/wall_1") or {}).get("heartbeat"), "the heartbeat")
+        wait_for(lambda: self.cloud.get(f"NUVEX/users/{EMAIL}/screenshots/wall_1.jpg").body[:2] == b"\xff\xd8",
+                 "the picture of what the player shows")
         self.write("Shop", "orange", 2)
         self.publish(editor, "Shop", 1)
         self.wait_colour(player, ORANGE)
@@ -129,7 +133,15 @@ class CloudTest(ProgramTest):
         self.sign_out(editor)
 
     def look_at_the_cloud(self, editor):
-        """The tab Cloud: its list, a project got back, and words when the cloud has gone."""
+        """The store, and the tab Cloud: its list, a project got back, and words when the cloud has gone."""
+        archive = io.BytesIO()
+        with zipfile.ZipFile(archive, "w") as file:
+            file.writestr("Museum/main.qml", "import QtQuick 2.15\nItem {}\n")
+        self.cloud.put("NUVEX/Demos/Museum.zip", archive.getvalue())
+        editor.click("Store")
+        editor.click("Museum")
+        editor.click("Delete Museum")  # the list of what is here, once it has come
+        wait_for(lambda: not (self.profile.work / "Museum").exists(), "the project to go again")
         editor.click("Delete Shop")
         wait_for(lambda: not (self.profile.work / "Shop").exists(), "the project to go")
         editor.click("Cloud")
