@@ -112,7 +112,8 @@ void TestDeployment::readsEveryMember()
     QCOMPARE(d.broadcastAddresses, QStringList{"10.0.0.255"});
     QCOMPARE(d.exchangeProject, QStringLiteral("Demo"));
     QVERIFY(Deployment::parse(text(with("lan", QJsonValue::Undefined)), &fault).isSet());
-    const Deployment offline = Deployment::parse(R"({"lan": {"broadcastAddresses": ["10.0.0.255"]}})", &fault);
+    const Deployment offline =
+        Deployment::parse(R"({"lan": {"broadcastAddresses": ["10.0.0.255"]}})", &fault);
     QVERIFY2(fault.isEmpty() && !offline.isSet(), qPrintable(fault));
     QCOMPARE(offline.broadcastAddresses, QStringList{"10.0.0.255"});
 }
