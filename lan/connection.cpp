@@ -39,7 +39,7 @@ Connection::Connection(const QString& name, ThreadConnection* owner, QObject* pa
     , m_owner(owner)
     , m_baseDir(owner->host().workDirectory())
 {
-    setReadBufferSize(limits::readBufferBytes);
+    setReadBufferSize(limits::socketBufferBytes);
     connect(this, &QTcpSocket::connected, this, &Connection::whenConnected);
     connect(this, &QTcpSocket::readyRead, this, &Connection::processReadyRead);
     connect(this, &QTcpSocket::bytesWritten, this, &Connection::processBytesWritten);
@@ -262,7 +262,7 @@ std::unique_ptr<QTemporaryFile> Connection::fileForPush()
 
 void Connection::readIncomingFile()
 {
-    std::array<char, limits::readBufferBytes / 4> bytes;
+    std::array<char, limits::socketBufferBytes / 4> bytes;
     while (m_bytesToReceive > 0) {
         const qint64 count = read(bytes.data(), qMin(m_bytesToReceive, qint64(bytes.size())));
         if (count <= 0)

@@ -48,11 +48,11 @@ constexpr qint64 fileBytes = 1LL << 40;
 constexpr qint64 diskReserveBytes = 64LL * 1024 * 1024;
 /// Content goes out in pieces of this size, and is taken from a socket that holds no more than that.
 constexpr qint64 chunkBytes = 10'240;
-constexpr qint64 readBufferBytes = 256LL * 1024;
+constexpr qint64 socketBufferBytes = 256LL * 1024;
 /// Frames that wait to be sent; while there are more, nothing is read.
 constexpr int waitingFrames = 64;
 /// Time between two looks at the progress of an exchange.
-constexpr std::chrono::milliseconds progressInterval{100};
+constexpr std::chrono::milliseconds exchangeProgressInterval{100};
 /// Lines in the log about what one peer sends or asks for.
 constexpr int complaintsAboutPeer = 100;
 /// Files of one peer that could not be kept, before its connection is closed.

@@ -11,7 +11,7 @@
 ProjectExchange::ProjectExchange(QObject* parent)
     : QObject(parent)
 {
-    m_progressTimer.setInterval(limits::progressInterval);
+    m_progressTimer.setInterval(limits::exchangeProgressInterval);
     connect(&m_progressTimer, &QTimer::timeout, this, &ProjectExchange::updateProgress);
 }
 
