@@ -3,8 +3,10 @@
 
 #include "app/nativetypes.h"
 
+#include "app/livedocument.h"
 #include "cloud/deployment.h"
 #include "quick/highlighter/syntaxhighlighter.h"
+#include "quick/live/snapper.h"
 #include "quick/video/transparentvideo.h"
 
 #include <QQmlEngine>
@@ -15,6 +17,8 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");
+    qmlRegisterType<Snapper>("Nuvex.Native", 1, 1, "Snapper");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",

@@ -5,6 +5,6 @@
 
 struct Deployment;
 
-/// Registers the program's native QML types ("Nuvex.Native" 1.0) and the singleton Deployment
+/// Registers the program's native QML types ("Nuvex.Native" 1.0 and 1.1) and the singleton Deployment
 /// ("Nuvex.Deployment" 1.0), which shows `deployment`. Once a process; further calls do nothing.
 void registerNativeTypes(const Deployment& deployment);

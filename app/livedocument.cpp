@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/livedocument.h"
+
+#include "quick/limits.h"
+#include "quick/live/holdstill.h"
+#include "quick/live/placement.h"
+
+#include <QQmlEngine>
+
+#include <algorithm>
+
+namespace {
+
+QVariantMap faultOf(const QQmlError& error)
+{
+    return {{"line", qMax(0, error.line())},
+            {"column", qMax(0, error.column())},
+            {"message", error.description()}};
+}
+
+} // namespace
+
+void LiveDocument::classBegin()
+{
+    m_scene = std::make_unique<LiveScene>(*qmlEngine(this));
+    m_restTimer.setInterval(limits::restPeriod);
+    connect(&m_restTimer, &QTimer::timeout, this, [this] {
+        ++m_rests;
+        rest();
+    });
+}
+
+bool LiveDocument::load(const QString& text, const QString& folder, QQuickItem* parent)
+{
+    m_url = QUrl::fromLocalFile(folder + QLatin1Char('/'));
+    const bool isLoaded = m_scene->load(text, m_url, *parent);
+    takeFaults(m_scene->errors());
+    if (isLoaded) {
+        beginRest();
+        emit rootChanged();
+    }
+    return isLoaded;
+}
+
+QQuickItem* LiveDocument::insert(const QString& text, QQuickItem* parent)
+{
+    QQuickItem* item = root() && parent ? m_scene->insert(text, *parent) : nullptr;
+    takeFaults(m_scene->errors());
+    beginRest();
+    return item;
+}
+
+void LiveDocument::remove(QQuickItem* item)
+{
+    if (!item || item == root())
+        return;
+    item->setParentItem(nullptr);
+    item->deleteLater();
+}
+
+void LiveDocument::clear()
+{
+    m_scene->clear();
+    m_restTimer.stop();
+    emit rootChanged();
+}
+
+bool LiveDocument::couldHold(const QString& imports, const QString& head, const QString& member)
+{
+    const QString text = imports + QLatin1Char('\n') + head + QStringLiteral(" {\n");
+    const int firstLine = int(text.count(QLatin1Char('\n'))) + 1;
+    QList<QQmlError> errors = m_scene->check(text + member + QStringLiteral("\n}\n"), m_url);
+    // What is wrong above the member is not its fault, as when its type stands in the document itself.
+    errors.erase(std::remove_if(errors.begin(), errors.end(),
+                                [firstLine](const QQmlError& error) { return error.line() < firstLine; }),
+                 errors.end());
+    takeFaults(errors);
+    return errors.isEmpty();
+}
+
+bool LiveDocument::assign(QQuickItem* item, const QString& name, const QString& code)
+{
+    const bool isDone = m_scene->assign(*item, name, code);
+    takeFaults(m_scene->errors());
+    rest();
+    return isDone;
+}
+
+bool LiveDocument::bind(QQuickItem* item, const QString& name, const QString& code)
+{
+    const bool isDone = m_scene->bind(*item, name, code);
+    takeFaults(m_scene->errors());
+    rest();
+    return isDone;
+}
+
+QVariantMap LiveDocument::placement(QQuickItem* item) const
+{
+    const Placement placement = item ? placementOf(*item) : Placement();
+    return {{"by", placement.by},
+            {"x", placement.x},
+            {"y", placement.y},
+            {"width", placement.width},
+            {"height", placement.height}};
+}
+
+void LiveDocument::beginRest()
+{
+    m_rests = 0;
+    rest();
+    m_restTimer.start();
+}
+
+void LiveDocument::rest()
+{
+    if (root())
+        holdStill(*root(), m_rests < 2 ? Particles::Flow : Particles::Hold);
+}
+
+void LiveDocument::takeFaults(const QList<QQmlError>& errors)
+{
+    m_faults.clear();
+    for (const QQmlError& error : errors)
+        m_faults.append(faultOf(error));
+    emit faultsChanged();
+}
