@@ -3,6 +3,9 @@
 
 #include "app/livedocument.h"
 
+#include "qmldoc/documentfaults.h"
+#include "qmldoc/editortext.h"
+#include "qmldoc/faults.h"
 #include "quick/limits.h"
 #include "quick/live/holdstill.h"
 #include "quick/live/placement.h"
@@ -13,11 +16,29 @@
 
 namespace {
 
-QVariantMap faultOf(const QQmlError& error)
+QVariantMap faultOf(const QQmlError& error, const QString& file)
 {
     return {{"line", qMax(0, error.line())},
             {"column", qMax(0, error.column())},
-            {"message", error.description()}};
+            {"message", error.description()},
+            {"file", file}};
+}
+
+// What the engine said of `text`, in lines of the `source` that it was made of.
+QVariantList faultsOf(const QString& source, const QString& text, const QUrl& url,
+                      const QList<QQmlError>& errors)
+{
+    QVariantList faults;
+    for (QQmlError error : errors) {
+        const bool isOther = !error.url().isEmpty() && error.url() != url;
+        if (!isOther && error.line() > 0) {
+            const TextPlace place = sourcePlace(source, text, {error.line(), error.column()});
+            error.setLine(place.line);
+            error.setColumn(place.column);
+        }
+        faults.append(faultOf(error, isOther ? error.url().toString() : QString()));
+    }
+    return faults;
 }
 
 } // namespace
@@ -32,11 +53,14 @@ void LiveDocument::classBegin()
     });
 }
 
-bool LiveDocument::load(const QString& text, const QString& folder, QQuickItem* parent)
+bool LiveDocument::load(const QString& source, const QString& folder, QQuickItem* parent)
 {
+    if (!isWhole(source))
+        return false;
     m_url = QUrl::fromLocalFile(folder + QLatin1Char('/'));
+    const QString text = thinnedText(source, Outline(source), 0);
     const bool isLoaded = m_scene->load(text, m_url, *parent);
-    takeFaults(m_scene->errors());
+    takeFaults(faultsOf(source, text, m_url, m_scene->errors()));
     if (isLoaded) {
         beginRest();
         emit rootChanged();
@@ -44,10 +68,12 @@ bool LiveDocument::load(const QString& text, const QString& folder, QQuickItem* 
     return isLoaded;
 }
 
-QQuickItem* LiveDocument::insert(const QString& text, QQuickItem* parent)
+QQuickItem* LiveDocument::insert(const QString& source, int firstElement, QQuickItem* parent)
 {
-    QQuickItem* item = root() && parent ? m_scene->insert(text, *parent) : nullptr;
-    takeFaults(m_scene->errors());
+    if (!root() || !parent || !isWhole(source))
+        return nullptr;
+    QQuickItem* item = m_scene->insert(thinnedText(source, Outline(source), firstElement), *parent);
+    takeErrors(m_scene->errors());
     beginRest();
     return item;
 }
@@ -76,14 +102,14 @@ bool LiveDocument::couldHold(const QString& imports, const QString& head, const 
     errors.erase(std::remove_if(errors.begin(), errors.end(),
                                 [firstLine](const QQmlError& error) { return error.line() < firstLine; }),
                  errors.end());
-    takeFaults(errors);
+    takeErrors(errors);
     return errors.isEmpty();
 }
 
 bool LiveDocument::assign(QQuickItem* item, const QString& name, const QString& code)
 {
     const bool isDone = m_scene->assign(*item, name, code);
-    takeFaults(m_scene->errors());
+    takeErrors(m_scene->errors());
     rest();
     return isDone;
 }
@@ -91,7 +117,7 @@ bool LiveDocument::assign(QQuickItem* item, const QString& name, const QString& 
 bool LiveDocument::bind(QQuickItem* item, const QString& name, const QString& code)
 {
     const bool isDone = m_scene->bind(*item, name, code);
-    takeFaults(m_scene->errors());
+    takeErrors(m_scene->errors());
     rest();
     return isDone;
 }
@@ -119,10 +145,23 @@ void LiveDocument::rest()
         holdStill(*root(), m_rests < 2 ? Particles::Flow : Particles::Hold);
 }
 
-void LiveDocument::takeFaults(const QList<QQmlError>& errors)
+// Whether the source can be handed to the engine at all; some of what it cannot bear brings it down.
+bool LiveDocument::isWhole(const QString& source)
 {
-    m_faults.clear();
+    takeFaults(DocumentFaults().inSource(source));
+    return m_faults.isEmpty();
+}
+
+void LiveDocument::takeErrors(const QList<QQmlError>& errors)
+{
+    QVariantList faults;
     for (const QQmlError& error : errors)
-        m_faults.append(faultOf(error));
+        faults.append(faultOf(error, QString()));
+    takeFaults(faults);
+}
+
+void LiveDocument::takeFaults(const QVariantList& faults)
+{
+    m_faults = faults;
     emit faultsChanged();
 }

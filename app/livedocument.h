@@ -13,7 +13,8 @@
 
 /// The QML type "LiveDocument": the document of an editor page, live and at rest. GUI thread.
 ///
-/// Texts are those of CAPI.generateEditor(). Calls that can fail say what was wrong in `faults`.
+/// What it is made of is the source with the number of each object put in (see thinnedText()). Calls that can
+/// fail say what was wrong in `faults`.
 class LiveDocument : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -30,11 +31,12 @@ public:
     /// (from 1, those of the source; 0 where there is no place).
     QVariantList faults() const { return m_faults; }
 
-    /// Puts the document that was generated as `text` in place of the one before, inside `parent`; `folder`
-    /// is the project's. False when it cannot be made: the one before stays.
-    Q_INVOKABLE bool load(const QString& text, const QString& folder, QQuickItem* parent);
-    /// Makes what was generated as `text` inside `parent`, an item of the document; null on failure.
-    Q_INVOKABLE QQuickItem* insert(const QString& text, QQuickItem* parent);
+    /// Puts the document `source` in place of the one before, inside `parent`; `folder` is the project's.
+    /// False when it cannot be made: the one before stays.
+    Q_INVOKABLE bool load(const QString& source, const QString& folder, QQuickItem* parent);
+    /// Makes `source`, import lines and one object, inside `parent`, an item of the document. Its objects are
+    /// numbered upward from `firstElement`. Null on failure.
+    Q_INVOKABLE QQuickItem* insert(const QString& source, int firstElement, QQuickItem* parent);
     /// Takes an item that was loaded or inserted out of the document.
     Q_INVOKABLE void remove(QQuickItem* item);
     /// Takes the whole document away.
@@ -62,7 +64,9 @@ signals:
 private:
     void rest();
     void beginRest();
-    void takeFaults(const QList<QQmlError>& errors);
+    bool isWhole(const QString& source);
+    void takeFaults(const QVariantList& faults);
+    void takeErrors(const QList<QQmlError>& errors);
 
     std::unique_ptr<LiveScene> m_scene;
     QVariantList m_faults;

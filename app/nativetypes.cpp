@@ -5,6 +5,7 @@
 
 #include "app/livedocument.h"
 #include "cloud/deployment.h"
+#include "qmldoc/documentfaults.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/live/snapper.h"
 #include "quick/video/transparentvideo.h"
@@ -17,6 +18,7 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");
     qmlRegisterType<Snapper>("Nuvex.Native", 1, 1, "Snapper");
     // The engine owns a singleton that its provider returns.

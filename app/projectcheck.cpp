@@ -5,9 +5,9 @@
 
 #include "api/projectfolder.h"
 #include "api/workspace.h"
-#include "app/projectreferences.h"
 #include "app/qmlcontext.h"
 #include "cloud/deployment.h"
+#include "qmldoc/projectreferences.h"
 
 #include <QDirIterator>
 #include <QFontDatabase>

@@ -12,7 +12,7 @@ EditingHistory::EditingHistory(int capacity)
 
 void EditingHistory::reset(int capacity)
 {
-    m_slots.resize(std::max(1, capacity));
+    m_slots = QVector<QString>(std::max(1, capacity));
     m_count = 0;
     m_head = -1;
     m_position = 0;

@@ -9,8 +9,8 @@
 /// The states of a text for undo and redo: a ring of slots.
 ///
 /// A push after undo steps overwrites the state after the current one and makes the current one the newest:
-/// states ahead are not dropped, and the number of states still grows by one. Undo can therefore reach an
-/// empty slot.
+/// states ahead are not dropped, and the number of states still grows by one. Undo can therefore reach a slot
+/// that nobody filled: its state is the empty text.
 class EditingHistory
 {
 public:

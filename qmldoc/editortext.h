@@ -3,13 +3,18 @@
 
 #pragma once
 
-#include <QString>
+#include "qmldoc/outline.h"
 
-#include <vector>
+/// `source` with the members that the editor adds put in before the closing brace of each numbered object: a
+/// property `element`, numbered upward from `firstElement`, and a function `evaluate`, which runs a script in
+/// the object's scope. `outline` is that of `source`.
+QString editorText(const QString& source, const Outline& outline, int firstElement);
 
-/// `source` with the members that the editor adds to an object put in at each of `positions`: a property
-/// `element`, numbered upward from `firstElement`, and a function `evaluate`, which runs a script in the
-/// object's scope.
-///
-/// `positions` are UTF-16 offsets of closing braces, ascending.
-QString editorText(const QString& source, const std::vector<int>& positions, int firstElement);
+/// The same without what the QML engine does not bear: the functions, which take it quadratic time to
+/// compile, and both members in groups (as `font { }`) and list elements, whose number goes unused: there
+/// they are errors, or bring the engine down.
+QString thinnedText(const QString& source, const Outline& outline, int firstElement);
+
+/// Where in the source of `outline` stands what is at `offset` of `text`: its editor text, thinned or not, or
+/// the source itself. What was put in counts as the closing brace behind it.
+int sourceOffset(const Outline& outline, const QString& text, int offset);

@@ -9,6 +9,9 @@ namespace limits {
 /// length that is nothing but objects still fits a QString.
 constexpr int maxSourceLength = 16 * 1024 * 1024;
 
+/// Most objects within one another.
+constexpr int maxDepth = 1364;
+
 /// States that the history keeps while a file is edited, and before the first file is opened.
 constexpr int historyCapacity = 20;
 constexpr int initialHistoryCapacity = 1;

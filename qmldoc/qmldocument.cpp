@@ -4,53 +4,31 @@
 #include "qmldoc/qmldocument.h"
 
 #include "qmldoc/editortext.h"
-#include "qmldoc/getpropertiesvisitor.h"
-#include "qmldoc/limits.h"
 #include "qmldoc/logging.h"
-#include "qmldoc/mainvisitor.h"
 
-#include <private/qqmljsast_p.h>
-#include <private/qqmljsengine_p.h>
-#include <private/qqmljslexer_p.h>
-#include <private/qqmljsparser_p.h>
-
-using namespace QQmlJS;
+#include <algorithm>
 
 namespace {
 
 const QString noSource;
-constexpr QChar byteOrderMark(QChar::ByteOrderMark);
 
-// `source` as the lexer, which knows no byte-order mark, takes it. Positions stay.
-QString withoutByteOrderMark(const QString& source)
+QString inLatin1(const QString& name)
 {
-    return source.startsWith(byteOrderMark) ? QLatin1Char(' ') + source.midRef(1) : source;
+    const bool isAscii = std::all_of(name.cbegin(), name.cend(), [](QChar c) { return c.unicode() < 0x80; });
+    return isAscii ? name : QString::fromLatin1(name.toLatin1());
 }
 
-// The syntax tree of `source`, owned by `engine`; null with a line in the log when there is none.
-AST::UiProgram* parsed(const QString& source, Engine& engine)
+// A copy of a map that has the keys costs no comparisons.
+QVariantMap propertyRecord(const Outline::Member& property, const QString& source)
 {
-    if (source.size() > limits::maxSourceLength) {
-        qCWarning(lcQmlDoc) << "a document of" << source.size() << "characters is too long";
-        return nullptr;
-    }
-    Lexer lexer(&engine);
-    lexer.setCode(withoutByteOrderMark(source), 1, true);
-    Parser parser(&engine);
-    if (parser.parse())
-        return parser.ast();
-    qCInfo(lcQmlDoc, "not a QML document: %d:%d: %s", parser.errorLineNumber(), parser.errorColumnNumber(),
-           qUtf8Printable(parser.errorMessage()));
-    return nullptr;
-}
-
-std::vector<int> closingBraces(const std::vector<AST::UiObjectDefinition*>& objects)
-{
-    std::vector<int> positions;
-    positions.reserve(objects.size());
-    for (const AST::UiObjectDefinition* object : objects)
-        positions.push_back(int(object->initializer->rbraceToken.begin()));
-    return positions;
+    static const QVariantMap empty{
+        {QStringLiteral("pfirst"), 0}, {QStringLiteral("plast"), 0}, {QStringLiteral("value"), QString()}};
+    QVariantMap record = empty;
+    auto entry = record.begin();
+    *entry++ = property.begin;
+    *entry++ = property.end;
+    *entry = source.mid(property.valueBegin, property.end - property.valueBegin);
+    return record;
 }
 
 } // namespace
@@ -60,25 +38,19 @@ QmlDocument::QmlDocument()
 {
 }
 
-QmlDocument::~QmlDocument() = default;
-
 bool QmlDocument::parse(const QString& source, int firstElement)
 {
     m_generatedText = source;
     m_source = &source;
-    auto engine = std::make_unique<Engine>();
-    AST::UiProgram* program = parsed(source, *engine);
-    if (!program)
-        return false;
-    MainVisitor visitor;
-    AST::Node::accept(program, &visitor);
-    if (visitor.isTooDeep()) {
-        qCWarning(lcQmlDoc) << "the objects of a document are nested too deep";
+    Outline outline(source);
+    m_error = outline.error();
+    if (!outline.isValid()) {
+        qCInfo(lcQmlDoc, "not a QML document: %d:%d: %s", m_error.line, m_error.column,
+               qUtf8Printable(m_error.message));
         return false;
     }
-    m_engine = std::move(engine);
-    m_objects = visitor.objects();
-    m_generatedText = editorText(source, closingBraces(m_objects), firstElement);
+    m_outline = std::move(outline);
+    m_generatedText = editorText(source, m_outline, firstElement);
     return true;
 }
 
@@ -98,14 +70,14 @@ QVariantMap QmlDocument::record(int i)
                                    {QStringLiteral("plast"), 0},
                                    {QStringLiteral("properties"), QVariantMap()},
                                    {QStringLiteral("typename"), QString()}};
-    const AST::UiObjectDefinition* object = m_objects.at(i);
+    const Outline::Member& object = m_outline.member(m_outline.items()[size_t(i)]);
     QVariantMap record = empty;
     auto entry = record.begin();
-    *entry++ = int(object->firstSourceLocation().begin());
-    *entry++ = int(object->initializer->lbraceToken.end());
-    *entry++ = int(object->initializer->rbraceToken.end());
+    *entry++ = object.begin;
+    *entry++ = object.bodyBegin;
+    *entry++ = object.end;
     *entry++ = propertiesOfObject(i);
-    *entry = QString::fromLatin1(object->qualifiedTypeNameId->name.toLatin1().constData());
+    *entry = inLatin1(m_outline.name(object));
     return record;
 }
 
@@ -113,7 +85,18 @@ QVariantMap QmlDocument::propertiesOfObject(int i)
 {
     m_generatedText.clear();
     QVariantMap properties;
-    GetPropertiesVisitor visitor(m_engine->code(), *m_source, properties);
-    AST::Node::accept(m_objects.at(i), &visitor);
+    const int object = m_outline.items()[size_t(i)];
+    for (int at = object; (at = m_outline.nextProperty(object, at)) >= 0;) {
+        const Outline::Member& property = m_outline.member(at);
+        properties.insert(propertyName(property), propertyRecord(property, *m_source));
+    }
     return properties;
+}
+
+QString QmlDocument::propertyName(const Outline::Member& property) const
+{
+    if (property.kind == Outline::Member::Declaration)
+        return m_outline.name(property);
+    const QStringRef text = m_source->midRef(property.begin, property.end - property.begin);
+    return text.left(text.indexOf(QLatin1Char(':'))).toString().remove(QLatin1Char(' '));
 }

@@ -3,17 +3,9 @@
 
 #pragma once
 
+#include "qmldoc/outline.h"
+
 #include <QVariant>
-
-#include <memory>
-#include <vector>
-
-namespace QQmlJS {
-class Engine;
-namespace AST {
-class UiObjectDefinition;
-}
-} // namespace QQmlJS
 
 /// A QML document as text: where its objects and their properties stand, and the text that the editor
 /// instantiates.
@@ -24,7 +16,6 @@ class QmlDocument
 {
 public:
     QmlDocument();
-    ~QmlDocument();
     Q_DISABLE_COPY(QmlDocument)
 
     /// Parses `source`, numbering its objects upward from `firstElement`. False when the text is no QML
@@ -33,13 +24,17 @@ public:
     /// live as long; texts of values are read from it when the item map is made.
     bool parse(const QString& source, int firstElement);
     bool parse(QString&&, int) = delete;
+    /// Why the last parse failed; its message is empty when it did not.
+    const SyntaxError& error() const { return m_error; }
+    /// What the last successful parse found.
+    const Outline& outline() const { return m_outline; }
 
     /// The last parsed text with the editor's members in each numbered object; see editorText(). Making an
     /// item map empties it.
     QString generatedText() const { return m_generatedText; }
 
     /// Number of objects of the last successful parse.
-    int objectCount() const { return int(m_objects.size()); }
+    int objectCount() const { return int(m_outline.items().size()); }
 
     /// The item map: one record for each numbered object, innermost first, the root last. A record is a map
     /// of "pfirst" (begin of the type name), "pfirstL" (after the opening brace), "plast" (after the closing
@@ -53,9 +48,10 @@ public:
 
 private:
     QVariantMap record(int i);
+    QString propertyName(const Outline::Member& property) const;
 
     QString m_generatedText;
     const QString* m_source;
-    std::unique_ptr<QQmlJS::Engine> m_engine; // owns the syntax tree of the last successful parse
-    std::vector<QQmlJS::AST::UiObjectDefinition*> m_objects;
+    SyntaxError m_error;
+    Outline m_outline;
 };

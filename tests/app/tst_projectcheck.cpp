@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/projectcheck.h"
-#include "app/projectreferences.h"
 #include "app/qmlcontext.h"
 #include "cloud/deployment.h"
 
@@ -17,7 +16,6 @@ class TestProjectCheck : public QObject
 
 private slots:
     void initTestCase();
-    void referencesOfADocument();
     void problems_data();
     void problems();
 
@@ -28,23 +26,6 @@ private:
 void TestProjectCheck::initTestCase()
 {
     prepareEngine(m_engine, {});
-}
-
-void TestProjectCheck::referencesOfADocument()
-{
-    const QString document = R"(import QtQuick 2.15
-Item {
-    property string source: "declared.png"
-    Image { source: "images/a b.png" }
-    Image { source: flag ? "x.png" : "y.png" }
-    Text { text: "source.png"; font { family: "Lobster" } }
-    Text { font.family: "Grotesk" }
-})";
-    QStringList found;
-    for (const ProjectReference& reference : projectReferences(document))
-        found.append(QString("%1 %2 %3").arg(reference.kind).arg(reference.line).arg(reference.name));
-    QCOMPARE(found, QStringList({"0 4 images/a b.png", "1 6 Lobster", "1 7 Grotesk"}));
-    QVERIFY(projectReferences("Item {").isEmpty());
 }
 
 void TestProjectCheck::problems_data()

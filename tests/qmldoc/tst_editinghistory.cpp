@@ -20,7 +20,7 @@ struct Ring
 
     void reset(int capacity)
     {
-        slot.resize(size_t(capacity));
+        slot.assign(size_t(capacity), QString());
         count = position = 0;
         head = -1;
     }
@@ -63,6 +63,7 @@ class TestEditingHistory : public QObject
 private slots:
     void anySequenceFollowsTheRing();
     void pushAfterUndoLeavesAnEmptySlot();
+    void resetEmptiesTheSlots();
     void oldestStateGoesWhenFull();
     void nothingRecorded();
 };
@@ -114,6 +115,21 @@ void TestEditingHistory::pushAfterUndoLeavesAnEmptySlot()
     QCOMPARE(history.undo(), QString());
     for (const char* state : {"A", "B", "D", "D"})
         QCOMPARE(history.redo(), QString(state));
+}
+
+/// What the run before left in the slots must not come back.
+void TestEditingHistory::resetEmptiesTheSlots()
+{
+    EditingHistory history(20);
+    for (const char* state : {"A", "B", "C"})
+        history.push(state);
+    history.reset(20);
+    for (const char* state : {"a", "b"})
+        history.push(state);
+    history.undo();
+    history.push("c");
+    history.undo();
+    QCOMPARE(history.undo(), QString());
 }
 
 void TestEditingHistory::oldestStateGoesWhenFull()

@@ -44,7 +44,8 @@ QtObject {
         CAPI.readSourceCode("main.qml");
         root.savedSource = CAPI.editedSourceCode();
         root.isChanged = false;
-        if (!make(CAPI.generateEditor()))
+        CAPI.generateEditor();
+        if (!make(root.savedSource))
             return;
         Ejs.map = CAPI.getMap();
         Ejs.dirmap = CAPI.dirmap();
@@ -53,9 +54,9 @@ QtObject {
         root.shown();
     }
 
-    // Makes the generated text the live document, in the frame. The first time it brings the frame.
-    function make(text) {
-        const isMade = live.load(text, CAPI.baseFolder(), frame ? frame.viewport : frameHost);
+    // Makes the source the live document, in the frame. The first time it brings the frame.
+    function make(source) {
+        const isMade = live.load(source, CAPI.baseFolder(), frame ? frame.viewport : frameHost);
         root.fault = isMade ? null : live.faults[0] || { line: 0, column: 0, message: qsTr("It cannot be loaded.") };
         if (!isMade)
             return false;
@@ -72,11 +73,11 @@ QtObject {
         return "file:///" + encodeURI(path).replace(/[?#]/g, encodeURIComponent);
     }
 
-    // Shows the document as `text`, generated from the source that is to be, instead of how it was made from `before`.
-    // On failure it says why and leaves the view as it is.
-    function reload(text, before) {
+    // Shows the document as its source is now instead of `before`. On failure it says why and leaves the view as it is.
+    function reload(before) {
         const places = selection.places();
-        if (!live.load(text, CAPI.baseFolder(), frame.viewport)) {
+        CAPI.generateEditor();
+        if (!live.load(CAPI.editedSourceCode(), CAPI.baseFolder(), frame.viewport)) {
             sayFault(live.faults[0]);
             return false;
         }
@@ -91,10 +92,12 @@ QtObject {
 
     // Shows the source as it is now. When that fails the source is again `before`.
     function showSource(before) {
-        if (reload(CAPI.generateEditor(), before))
+        if (reload(before))
             return true;
+        const fault = live.faults[0];
         CAPI.setSourceCode(before);
-        reload(CAPI.generateEditor(), before);
+        reload(before);
+        sayFault(fault);
         return false;
     }
 
@@ -140,7 +143,7 @@ QtObject {
         let text = "";
         while (text === "" && canGo())
             text = go();
-        if (text === "" || !reload(CAPI.generateEditor(), before)) {
+        if (text === "" || !reload(before)) {
             while (CAPI.editedSourceCode() !== before)
                 back();
         }

@@ -62,7 +62,7 @@ QtObject {
     // there, with a message.
     function insert(code, parent) {
         const first = Ejs.map.length;
-        const item = desk.live.insert(CAPI.generateEditor(Parts.imports + desk.imports() + code, first), parent);
+        const item = desk.live.insert(Parts.imports + desk.imports() + code, first, parent);
         if (!item) {
             desk.sayFault({ line: 0, message: desk.live.faults[0].message });
             return null;
