@@ -41,6 +41,17 @@ QVariantList faultsOf(const QString& source, const QString& text, const QUrl& ur
     return faults;
 }
 
+// How often each of the numbers stands below `item`.
+void countElements(const QQuickItem& item, QHash<int, int>& counts)
+{
+    const QVariant element = item.property("element");
+    const auto count = element.isValid() ? counts.find(element.toInt()) : counts.end();
+    if (count != counts.end())
+        ++*count;
+    for (const QQuickItem* child : item.childItems())
+        countElements(*child, counts);
+}
+
 } // namespace
 
 void LiveDocument::classBegin()
@@ -78,6 +89,23 @@ QQuickItem* LiveDocument::insert(const QString& source, int firstElement, QQuick
     return item;
 }
 
+bool LiveDocument::canMake(const QString& source)
+{
+    takeErrors(m_scene->check(source, m_url));
+    return m_faults.isEmpty();
+}
+
+void LiveDocument::stack(QQuickItem* item, QQuickItem* before)
+{
+    const QQuickItem* parent = item ? item->parentItem() : nullptr;
+    if (!parent || (before && before->parentItem() != parent))
+        return;
+    if (before)
+        item->stackBefore(before);
+    else if (parent->childItems().constLast() != item)
+        item->stackAfter(parent->childItems().constLast());
+}
+
 void LiveDocument::remove(QQuickItem* item)
 {
     if (!item || item == root())
@@ -108,7 +136,7 @@ bool LiveDocument::couldHold(const QString& imports, const QString& head, const 
 
 bool LiveDocument::assign(QQuickItem* item, const QString& name, const QString& code)
 {
-    const bool isDone = m_scene->assign(*item, name, code);
+    const bool isDone = item && m_scene->assign(*item, name, code);
     takeErrors(m_scene->errors());
     rest();
     return isDone;
@@ -116,10 +144,20 @@ bool LiveDocument::assign(QQuickItem* item, const QString& name, const QString& 
 
 bool LiveDocument::bind(QQuickItem* item, const QString& name, const QString& code)
 {
-    const bool isDone = m_scene->bind(*item, name, code);
+    const bool isDone = item && m_scene->bind(*item, name, code);
     takeErrors(m_scene->errors());
     rest();
     return isDone;
+}
+
+bool LiveDocument::isRepeated(const QVariantList& elements) const
+{
+    QHash<int, int> counts;
+    for (const QVariant& element : elements)
+        counts[element.toInt()] = 0;
+    if (root())
+        countElements(*root(), counts);
+    return std::any_of(counts.cbegin(), counts.cend(), [](int count) { return count > 1; });
 }
 
 QVariantMap LiveDocument::placement(QQuickItem* item) const

@@ -37,6 +37,10 @@ public:
     /// Makes `source`, import lines and one object, inside `parent`, an item of the document. Its objects are
     /// numbered upward from `firstElement`. Null on failure.
     Q_INVOKABLE QQuickItem* insert(const QString& source, int firstElement, QQuickItem* parent);
+    /// Whether `source`, import lines and one object, could be made. Names in expressions are not looked up.
+    Q_INVOKABLE bool canMake(const QString& source);
+    /// Draws an item below `before`, another one beside it; with null above all beside it.
+    Q_INVOKABLE void stack(QQuickItem* item, QQuickItem* before);
     /// Takes an item that was loaded or inserted out of the document.
     Q_INVOKABLE void remove(QQuickItem* item);
     /// Takes the whole document away.
@@ -50,6 +54,8 @@ public:
     Q_INVOKABLE bool assign(QQuickItem* item, const QString& name, const QString& code);
     Q_INVOKABLE bool bind(QQuickItem* item, const QString& name, const QString& code);
 
+    /// Whether one of the numbers belongs to several items, as in what a repeater or a list makes.
+    Q_INVOKABLE bool isRepeated(const QVariantList& elements) const;
     /// What places `item`: a map of "by" (see Placement; "" when it stands where its x and y say), and of
     /// "x", "y", "width", "height", true for the values that have no effect.
     Q_INVOKABLE QVariantMap placement(QQuickItem* item) const;

@@ -18,7 +18,8 @@ Item {
     property string label: ""
 
     readonly property alias viewport: view
-    readonly property var guides: editing.item ? editing.item.guides : null
+    readonly property var marks: editing.item
+    readonly property var guides: marks ? marks.guides : null
     readonly property alias tool: pointer
 
     // The user clicked on the document, or double-clicked it: `mouse` says where and with which button.

@@ -21,7 +21,7 @@ StackPage {
         if (canvas.cancelDrag())
             return;
         if (isWriting)
-            canvas.forceActiveFocus();
+            canvas.takeKeyboard();
         else if (desk.selection.item !== null)
             desk.selection.goUp();
         else
@@ -55,7 +55,7 @@ StackPage {
         SS.isPlaying = false;
         SS.qmlFileName = CAPI.editorVersion();
         CAPI.setFullScreen(false);
-        canvas.forceActiveFocus();
+        canvas.takeKeyboard();
     }
     Component.onCompleted: desk.open()
 

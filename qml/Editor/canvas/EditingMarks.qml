@@ -12,6 +12,9 @@ Item {
     property Item frame
 
     readonly property alias guides: guideLines
+    readonly property alias text: textEdit
+    /// The item into which what is dragged over the canvas will go.
+    property Item dropTarget: null
     readonly property Item single: frame.selection.length === 1 && frame.selection[0] !== frame.myfill
                                    ? frame.selection[0] : null
     readonly property var placing: single && frame.desk.revision >= 0 ? frame.desk.placingOf(single) : ({})
@@ -21,12 +24,31 @@ Item {
         canvas: root.frame
     }
 
+    ItemSpace {
+        id: dropMark
+        canvas: root.frame
+        target: root.dropTarget
+
+        Rectangle {
+            anchors.fill: parent
+            color: "#1a2a6496"
+            border.width: 2 / dropMark.unit
+            border.color: "#2a6496"
+        }
+    }
+
     Handles {
         id: handles
         frame: root.frame
         canvas: root.frame
-        target: root.single
+        target: textEdit.isOpen ? null : root.single
         placing: root.placing
+    }
+
+    TextInPlace {
+        id: textEdit
+        canvas: root.frame
+        desk: root.frame.desk
     }
 
     CanvasLabel {
@@ -37,7 +59,7 @@ Item {
         objectName: "canvasLabel"
         x: Math.round(Math.max(0, Math.min(root.width - width, place.x + (place.width - width) / 2)))
         y: Math.round(Math.max(0, Math.min(root.height - height, place.y + place.height + 1.5 * BGUI.Theme.unit)))
-        visible: text !== "" && root.single !== null
+        visible: text !== "" && handles.target !== null
         text: root.frame.label || root.placing.words || ""
     }
 }

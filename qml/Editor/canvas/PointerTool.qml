@@ -42,10 +42,9 @@ MouseArea {
     function dragOfItems(items, modifiers) {
         if (items.length === 0)
             return band.begin(from, modifiers & Qt.ShiftModifier) ? band : null;
-        if (move.begin(from, items))
-            return move;
-        return items.length === 1 && frame.desk.isReorderable(items[0]) && reorder.begin(from, items[0]) ? reorder
-                                                                                                         : null;
+        if (items.length === 1 && frame.desk.isReorderable(items[0]))
+            return reorder.begin(from, items[0]) ? reorder : null;
+        return move.begin(from, items) ? move : null;
     }
 
     acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.MiddleButton

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Nuvex.Editor 1.0
 import "arrange.js" as Arrange
 import "../canvas/geometry.js" as Geometry
 
@@ -46,5 +47,40 @@ QtObject {
                 item.y = values.y = Math.round(item.y + ways[i].y);
             return { item: item, values: values };
         }));
+    }
+
+    // Moves the selected items among those beside them: to the "front", "forward", "backward" or to the "back".
+    function order(how) {
+        desk.settle();
+        const selected = desk.selection.movable;
+        if (selected.length === 0)
+            return;
+        const beside = desk.selection.numberedIn(selected[0].parent);
+        const items = beside.filter(item => selected.indexOf(item) >= 0);
+        move(items, Arrange.orderedBefore(beside, items, how));
+    }
+
+    // Moves an item before another one beside it, with null behind all.
+    function moveBefore(item, before) {
+        desk.settle();
+        move([item], before);
+    }
+
+    // Moves items in the source and live before the item `before`; undefined: they stay.
+    function move(items, before) {
+        if (before === undefined)
+            return;
+        const parent = desk.selection.parentOf(items[0]);
+        const source = CAPI.editedSourceCode();
+        if (!Ejs.moveElements(items.map(item => item.element), parent.element, before ? before.element : -1)) {
+            desk.say(Ejs.problem);
+            return;
+        }
+        // A slideshow takes its slides as they come.
+        if (items.some(item => item.isSlide === true))
+            desk.showSource(source);
+        else
+            items.forEach(item => desk.live.stack(item, before));
+        desk.finish();
     }
 }

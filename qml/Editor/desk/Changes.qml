@@ -4,6 +4,7 @@ import QtQuick 2.15
 import Nuvex.Editor 1.0
 import "expressions.js" as Expressions
 import "limits.js" as Limits
+import "../panel/values.js" as Values
 
 /// Changes of properties: shown live first, then written into the source, then recorded as one state.
 QtObject {
@@ -12,38 +13,61 @@ QtObject {
     property var desk
     // The items that a burst of keys is moving.
     property var nudged: []
+    // Why the live document did not take the last property.
+    property string refusal
 
     // Writes places and sizes that the live items have already: maps of an "item" and its "values" by name.
     function place(entries) {
-        const written = entries.filter(entry => Object.keys(entry.values).length > 0);
-        if (written.length === 0)
+        const changes = entries.reduce((all, entry) => all.concat(Object.keys(entry.values).map(name =>
+            ({ element: entry.item.element, name: name, text: String(entry.values[name]) }))), []);
+        if (changes.length === 0)
             return;
-        written.forEach(entry => write(entry.item, entry.values));
-        desk.finish();
-    }
-
-    function write(item, values) {
-        Ejs.element = item.element;
-        Object.keys(values).forEach(name => Ejs.updateProperty(name, String(values[name])));
+        const before = CAPI.editedSourceCode();
+        if (Ejs.updateProperties(changes)) {
+            if (desk.live.isRepeated(changes.map(change => change.element)))
+                desk.showSource(before);
+            desk.finish();
+        } else {
+            desk.say(Ejs.problem);
+            desk.showAgain();
+        }
     }
 
     // Gives the selected item's property the source text `code`. What cannot be done live is done in the source, and
     // the document is shown anew. False with a message when it cannot be used.
     function property(name, code) {
         desk.settle();
+        refusal = "";
         const item = desk.selection.item;
-        if (!canHold(name, code))
-            return false;
-        const isLive = !Expressions.isHandler(name) && Expressions.isExpression(code) && reaches(item, name);
-        if (isLive && !show(item, name, code))
-            return false;
         const before = CAPI.editedSourceCode();
-        Ejs.element = item.element;
-        Ejs.updateProperty(name, code);
-        if (!isLive && !desk.showSource(before))
+        const isLive = !Expressions.isHandler(name) && Expressions.isExpression(code) && reaches(item, name);
+        const accept = () => canHold(name, code) && (!isLive || show(item, name, code));
+        if (!Ejs.updateProperties([{ element: item.element, name: name, text: code }], accept)) {
+            desk.say(qsTr("%1 cannot be used: %2").arg(name).arg(refusal || Ejs.problem));
+            return false;
+        }
+        if ((!isLive || desk.live.isRepeated([item.element])) && !desk.showSource(before))
             return false;
         desk.finish();
         return true;
+    }
+
+    // Gives an item the text that was written on the canvas.
+    function text(item, text) {
+        if (desk.live.assign(item, "text", Values.quoted(text)))
+            place([{ item: item, values: { text: Values.quoted(text) } }]);
+    }
+
+    /// The text that can be edited on the canvas; null, with a message where there is a reason, when it cannot.
+    function textOf(item) {
+        const record = item ? Ejs.map[item.element] : null;
+        if (!record || typeof item.text !== "string")
+            return null;
+        const source = record.properties.text;
+        const text = source ? Values.textIn(source.value.replace(/;$/, "")) : item.text;
+        if (text === undefined)
+            desk.tell(qsTr("This text is worked out: %1").arg(source.value), "info", Limits.message);
+        return text === undefined ? null : text;
     }
 
     // Whether the engine takes the member at all: it knows what may not be written.
@@ -56,13 +80,8 @@ QtObject {
         const type = CAPI.sourceCode(record.pfirst, record.pfirstL - 1);
         if (desk.live.couldHold(desk.imports(), type, head + code))
             return true;
-        sayUseless(name);
+        refusal = desk.live.faults[0].message;
         return false;
-    }
-
-    function sayUseless(name) {
-        const reason = desk.live.faults[0].message;
-        desk.tell(qsTr("%1 cannot be used: %2").arg(name).arg(reason), "danger", Limits.faultMessage);
     }
 
     // A member of an object that is bound to one of the item's properties counts as the item's own.
@@ -80,7 +99,8 @@ QtObject {
         const isShown = Expressions.isConstant(code) ? desk.live.assign(item, name, code)
                                                      : desk.live.bind(item, name, code);
         if (!isShown) {
-            sayUseless(name);
+            refusal = desk.live.faults[0].message;
+            // The attempt may have cost the property its binding.
             desk.showAgain();
         }
         return isShown;

@@ -20,6 +20,7 @@ QtObject {
     readonly property Selection selection: Selection { desk: root }
     readonly property Changes changes: Changes { desk: root }
     readonly property Insertion insertion: Insertion { desk: root }
+    readonly property FileDrop fileDrop: FileDrop { desk: root }
     readonly property Arrangement arrangement: Arrangement { desk: root }
 
     /// Counts changes of source and selection, so that what is read from them follows.
@@ -37,27 +38,35 @@ QtObject {
     signal told(string text, string kind, int duration)
     /// The document was made anew.
     signal shown()
+    /// What goes on is to be ended before something else is done.
+    signal settling()
 
     function open() {
         Ejs.JCAPI = CAPI;
         Ejs.selectItem = refresh;
         CAPI.readSourceCode("main.qml");
         root.savedSource = CAPI.editedSourceCode();
-        root.isChanged = false;
-        CAPI.generateEditor();
-        if (!make(root.savedSource))
-            return;
-        Ejs.map = CAPI.getMap();
+        if (begin())
+            frame.viewport.fit();
         Ejs.dirmap = CAPI.dirmap();
+        refresh();
+    }
+
+    // Shows the source for the first time. False when it cannot be shown; `fault` says why.
+    function begin() {
+        CAPI.generateEditor();
+        const isMade = make(CAPI.editedSourceCode());
+        Ejs.map = isMade ? CAPI.getMap() : [];
         selection.clear();
-        frame.viewport.fit();
         root.shown();
+        return isMade;
     }
 
     // Makes the source the live document, in the frame. The first time it brings the frame.
     function make(source) {
         const isMade = live.load(source, CAPI.baseFolder(), frame ? frame.viewport : frameHost);
-        root.fault = isMade ? null : live.faults[0] || { line: 0, column: 0, message: qsTr("It cannot be loaded.") };
+        root.fault = isMade ? null : source.trim() === "" ? { line: 0, column: 0, message: qsTr("It is empty.") }
+                                                          : live.faults[0];
         if (!isMade)
             return false;
         if (!frame)
@@ -66,6 +75,15 @@ QtObject {
             frame.myfill = live.root;
         Ejs.editorObj = live.root;
         return true;
+    }
+
+    // Puts `code` in place of a source that cannot be shown.
+    function replaceAll(code) {
+        CAPI.setSourceCode(code);
+        if (begin()) {
+            frame.viewport.fit();
+            finish();
+        }
     }
 
     function frameUrl() {
@@ -122,9 +140,10 @@ QtObject {
         root.isChanged = CAPI.editedSourceCode() !== root.savedSource;
     }
 
-    // Ends what goes on: a burst of keys becomes a change.
+    // Ends what goes on: a burst of keys, a text that is being written become changes.
     function settle() {
         changes.settle();
+        settling();
     }
 
     function undo() {
@@ -150,12 +169,15 @@ QtObject {
         refresh();
     }
 
-    // Puts `code` in place of the range of the source, and selects the item that it describes.
-    function applySource(beg, end, code) {
+    // Puts `code` in place of the selected item's source, and selects the item that it describes.
+    function applySource(code) {
         settle();
         const before = CAPI.editedSourceCode();
         const identification = code.slice(0, code.lastIndexOf("}") + 1);
-        CAPI.replaceSourceCode(beg, end, code);
+        if (!Ejs.replaceElement(code)) {
+            say(Ejs.problem);
+            return false;
+        }
         if (!showSource(before))
             return false;
         const element = Ejs.map.findIndex(record => CAPI.sourceCode(record.pfirst, record.plast) === identification);
@@ -169,11 +191,11 @@ QtObject {
         settle();
         const source = CAPI.editedSourceCode();
         if (CAPI.parseAndGetMap(source).length === 0) {
-            tell(qsTr("Not saved: the source is no document."), "danger", Limits.faultMessage);
+            say(qsTr("Not saved: the source is no document."));
             return false;
         }
         if (!CAPI.writeToFile(source, "main.qml")) {
-            tell(qsTr("Not saved: the file cannot be written. Is the disk full?"), "danger", Limits.faultMessage);
+            say(qsTr("Not saved: the file cannot be written. Is the disk full?"));
             return false;
         }
         Ejs.dirmap["main.qml"] = (Ejs.dirmap["main.qml"] || 0) + 1;
@@ -187,10 +209,14 @@ QtObject {
     // Writes the source where it can be played from; the file's name, "" when that failed.
     function preparePlay() {
         settle();
+        if (root.fault) {
+            sayFault(root.fault);
+            return "";
+        }
         CAPI.removeFile("main2.qml");
         if (CAPI.writeToFile(CAPI.editedSourceCode(), "main2.qml"))
             return "main2.qml";
-        tell(qsTr("It cannot be played: the file cannot be written."), "danger", Limits.faultMessage);
+        say(qsTr("It cannot be played: the file cannot be written."));
         return "";
     }
 
@@ -198,9 +224,13 @@ QtObject {
         root.told(text, kind, duration);
     }
 
+    // Says why something was not done.
+    function say(problem) {
+        tell(problem, "danger", Limits.faultMessage);
+    }
+
     function sayFault(fault) {
-        tell(fault.line > 0 ? qsTr("Line %1: %2").arg(fault.line).arg(fault.message) : fault.message, "danger",
-             Limits.faultMessage);
+        say(fault.line > 0 ? qsTr("Line %1: %2").arg(fault.line).arg(fault.message) : fault.message);
     }
 
     /// The import lines of the document.

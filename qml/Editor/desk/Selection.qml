@@ -96,6 +96,12 @@ QtObject {
             found.concat(isNumbered(child) ? [child] : numberedIn(child)), []);
     }
 
+    /// The document's item that is drawn right over `item` in the same parent; null when there is none.
+    function nextBeside(item) {
+        const beside = numberedIn(item.parent);
+        return beside[beside.indexOf(item) + 1] || null;
+    }
+
     function within(parent, test) {
         return numberedIn(parent).filter(item => item.visible && test(item));
     }

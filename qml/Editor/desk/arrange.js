@@ -35,3 +35,19 @@ function spread(rects, direction) {
     }, first[start]);
     return ways;
 }
+
+/// The entry of the list `all`, from back to front, before which its entries `moved` have to go to come to the
+/// "front", "forward", "backward" or to the "back"; null: behind all; undefined: they are there.
+function orderedBefore(all, moved, how) {
+    const rest = all.filter(entry => moved.indexOf(entry) < 0);
+    const below = rest.filter(entry => all.indexOf(entry) < all.indexOf(moved[0])).length;
+    const places = { front: rest.length, forward: below + 1, backward: below - 1, back: 0 };
+    const place = places[how];
+    const isThere = place < 0 || place > rest.length || _isAt(all, moved, rest, place);
+    return isThere ? undefined : place < rest.length ? rest[place] : null;
+}
+
+function _isAt(all, moved, rest, place) {
+    const wanted = rest.slice(0, place).concat(moved, rest.slice(place));
+    return wanted.every((entry, i) => entry === all[i]);
+}

@@ -13,5 +13,8 @@ const message = 4000;
 const longestPaste = 1000000;
 const largeDocument = 400000;
 
+/// Pixels between an item and its copy.
+const duplicateGap = 16;
+
 /// How long arrow keys rest before what they moved counts as one change.
 const burstPause = 700;

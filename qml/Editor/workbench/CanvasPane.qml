@@ -15,6 +15,10 @@ FocusScope {
     readonly property bool isEmpty: desk.live.root !== null && desk.revision >= 0
                                     && desk.selection.numberedIn(desk.live.root).length === 0
 
+    function takeKeyboard() {
+        host.forceActiveFocus(Qt.MouseFocusReason);
+    }
+
     function zoomBy(notches) {
         frame.viewport.zoomBy(notches, width / 2, height / 2);
     }
@@ -81,8 +85,15 @@ FocusScope {
     Connections {
         target: root.frame
 
+        function onItemToOpen(mouse) {
+            const item = root.desk.selection.at(Qt.point(mouse.x, mouse.y));
+            const text = mouse.button === Qt.LeftButton ? root.desk.changes.textOf(item) : null;
+            if (text !== null)
+                root.frame.marks.text.open(item, text);
+        }
+
         function onItemsToEdit(mouse) {
-            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.takeKeyboard();
             const point = Qt.point(mouse.x, mouse.y);
             if (mouse.button === Qt.RightButton)
                 menu.open(root.desk.selection.under(point), point);
@@ -91,39 +102,36 @@ FocusScope {
         }
     }
 
-    DropArea {
+    CanvasDrop {
         anchors.fill: parent
-        onDropped: {
-            const parent = root.desk.insertion.parentAt(Qt.point(drop.x, drop.y));
-            if (drop.source && drop.source.componentType !== undefined)
-                root.desk.insertion.drop(drop.source.componentType, parent, Qt.point(drop.x, drop.y));
-        }
+        desk: root.desk
+        frame: root.frame
     }
 
-    Rectangle {
-        anchors.centerIn: parent
-        width: hint.implicitWidth + 6 * BGUI.Theme.unit
-        height: hint.implicitHeight + 4 * BGUI.Theme.unit
+    CanvasCard {
+        objectName: "emptyHint"
         visible: root.isEmpty
-        radius: BGUI.Theme.radius("xlarge")
-        color: BGUI.Theme.surface
-        border.width: Math.max(1, dp)
-        border.color: BGUI.Theme.line
+        faIcon: "fa-hand-o-left"
+        title: qsTr("Nothing on the page yet")
+        text: qsTr("Drag a part from the left to where it belongs. A picture or video can be dropped here from "
+                   + "the file manager.")
+    }
 
-        BGUI.EmptyState {
-            id: hint
-            objectName: "emptyHint"
-            anchors.centerIn: parent
-            faIcon: "fa-hand-o-left"
-            title: qsTr("Nothing on the page yet")
-            text: qsTr("Drag a part from the left to where it belongs. A picture or video can be dropped here from "
-                       + "the file manager.")
-        }
+    CanvasCard {
+        readonly property var fault: root.desk.fault
+
+        objectName: "faultHint"
+        visible: fault !== null
+        isError: true
+        faIcon: "fa-exclamation-triangle"
+        title: qsTr("The document cannot be shown")
+        text: !fault ? "" : fault.line > 0 ? qsTr("Line %1: %2").arg(fault.line).arg(fault.message) : fault.message
     }
 
     ItemMenu {
         id: menu
         desk: root.desk
+        onClosed: root.takeKeyboard()
     }
 
     MessageStrip {

@@ -11,6 +11,8 @@ Item {
     property var desk
     property var items: []
 
+    signal closed()
+
     // Shows `found`, the one on top last, at a point of this item.
     function open(found, point) {
         items = found.slice().reverse();
@@ -23,6 +25,12 @@ Item {
     function close() {
         visible = false;
         items = [];
+        closed();
+    }
+
+    function choose(item) {
+        close();
+        desk.selection.set([item]);
     }
 
     anchors.fill: parent
@@ -58,6 +66,7 @@ Item {
         Keys.onEnterPressed: currentItem.clicked()
 
         delegate: BGUI.ListRow {
+            id: row
             readonly property Item item: modelData
 
             width: list.width
@@ -65,17 +74,12 @@ Item {
             highlighted: ListView.isCurrentItem
             text: Ejs.map[item.element] ? Ejs.map[item.element].typename : ""
             detail: root.desk.nameOf(item)
-            onClicked: {
-                const chosen = item;
-                root.close();
-                root.parent.forceActiveFocus();
-                root.desk.selection.set([chosen]);
-            }
+            onClicked: root.choose(item)
 
             Loader {
                 width: 8 * BGUI.Theme.unit
                 height: 6 * BGUI.Theme.unit
-                sourceComponent: parent && item && item.preview ? item.preview : null
+                sourceComponent: row.item && row.item.preview ? row.item.preview : null
             }
         }
     }

@@ -26,7 +26,7 @@ FocusScope {
     }
 
     onPropertiesChanged: {
-        const found = Object.keys(properties);
+        const found = Object.keys(properties).sort((a, b) => properties[a].pfirst - properties[b].pfirst);
         if (found.join() !== names.join())
             names = found;
     }

@@ -22,7 +22,7 @@ FocusScope {
     BGUI.EmptyState {
         anchors.centerIn: parent
         width: parent.width - 4 * BGUI.Theme.unit
-        visible: root.selection.item === null
+        visible: root.selection.item === null && root.desk.fault === null
         faIcon: "fa-crosshairs"
         title: qsTr("Nothing is selected")
         text: qsTr("Click an item on the page to see what can be set.")

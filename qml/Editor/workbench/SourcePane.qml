@@ -26,13 +26,17 @@ FocusScope {
         if (root.desk.fault)
             root.desk.replaceAll(area.text);
         else
-            root.desk.applySource(root.beg, root.end, area.text);
+            root.desk.applySource(area.text);
     }
 
     Connections {
         target: root.desk
 
         function onRevisionChanged() {
+            Qt.callLater(root.show);
+        }
+
+        function onFaultChanged() {
             Qt.callLater(root.show);
         }
     }
