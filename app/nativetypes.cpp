@@ -6,6 +6,7 @@
 #include "app/livedocument.h"
 #include "cloud/deployment.h"
 #include "qmldoc/documentfaults.h"
+#include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/live/snapper.h"
 #include "quick/video/transparentvideo.h"
@@ -22,6 +23,9 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");
     qmlRegisterType<Snapper>("Nuvex.Native", 1, 1, "Snapper");
     // The engine owns a singleton that its provider returns.
+    qmlRegisterSingletonType<SourceEdits>(
+        "Nuvex.Native", 1, 1, "SourceEdits",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new SourceEdits; });
     qmlRegisterSingletonType<DeploymentInfo>(
         "Nuvex.Deployment", 1, 0, "Deployment",
         [deployment](QQmlEngine*, QJSEngine*) -> QObject* { return new DeploymentInfo(deployment); });

@@ -29,25 +29,19 @@ int endOfComment(const QString& text, int position)
     return position;
 }
 
-// The first location that the syntax tree gives for a script is wrong for some: it misses the opening
-// parenthesis of an arrow function.
-int firstTokenAfter(int position, const QString& text)
-{
-    for (;;) {
-        while (position < text.size() && text.at(position).isSpace())
-            ++position;
-        const int next = endOfComment(text, position);
-        if (next == position)
-            return position;
-        position = next;
-    }
-}
-
 const QStringRef& lastName(const UiQualifiedId* id)
 {
     while (id->next)
         id = id->next;
     return id->name;
+}
+
+QString dotted(const UiQualifiedId* id)
+{
+    QString name = id->name.toString();
+    while ((id = id->next))
+        name += '.' + id->name;
+    return name;
 }
 
 } // namespace
@@ -61,10 +55,26 @@ public:
     {
     }
 
-    void document(const UiProgram* program) { members(program->members, -1); }
+    void document(const UiProgram* program)
+    {
+        for (const UiHeaderItemList* list = program->headers; list; list = list->next)
+            headLine(list->headerItem);
+        members(program->members, -1);
+    }
 
 private:
     using Member = Outline::Member;
+
+    void headLine(Node* node)
+    {
+        Outline::HeadLine line;
+        if (const auto* import = cast<UiImport*>(node)) {
+            line.module = import->importUri ? dotted(import->importUri) : '"' + import->fileName + '"';
+            line.qualifier = import->importId.toString();
+        }
+        line.end = end(node->lastSourceLocation());
+        m_outline.m_head.push_back(line);
+    }
 
     void members(const UiObjectMemberList* list, int parent)
     {
@@ -147,18 +157,18 @@ private:
         at(i).end = end(node->lastSourceLocation());
         at(i).valueBegin = at(i).end;
         if (node->statement)
-            at(i).valueBegin = firstTokenAfter(end(node->colonToken), m_outline.m_text);
+            at(i).valueBegin = tokenAt(m_outline.m_text, end(node->colonToken));
         if (!node->binding)
             return;
         const int value = int(m_outline.m_members.size());
         member(node->binding, i);
-        at(i).valueBegin = at(value).valueBegin;
+        at(i).valueBegin = at(value).begin = at(value).valueBegin;
     }
 
     void inlineComponent(int i, const UiInlineComponent* node)
     {
         at(i).kind = Member::InlineComponent;
-        at(i).nameBegin = firstTokenAfter(end(node->componentToken), m_outline.m_text);
+        at(i).nameBegin = tokenAt(m_outline.m_text, end(node->componentToken));
         at(i).nameEnd = at(i).nameBegin + node->name.size();
         at(i).end = end(node->lastSourceLocation());
         member(node->component, i);
@@ -203,7 +213,9 @@ private:
     {
         at(i).nameBegin = at(i).begin;
         at(i).nameEnd = begin(colon);
-        at(i).valueBegin = firstTokenAfter(end(colon), m_outline.m_text);
+        // Not where the tree says that the script begins: that misses the opening parenthesis of an arrow
+        // function.
+        at(i).valueBegin = tokenAt(m_outline.m_text, end(colon));
         at(i).end = end(last);
     }
 
@@ -229,6 +241,7 @@ Outline::Outline(const QString& text)
         return;
     OutlineBuilder(*this).document(tree.program());
     if (!isValid()) {
+        m_head.clear();
         m_members.clear();
         m_items.clear();
     }
@@ -244,6 +257,18 @@ int Outline::nextProperty(int object, int i) const
     while (i < member(object).next && !isProperty(i))
         i = isClosed(i) ? member(i).next : i + 1;
     return i < member(object).next ? i : -1;
+}
+
+int tokenAt(const QString& text, int position)
+{
+    for (;;) {
+        while (position < text.size() && text.at(position).isSpace())
+            ++position;
+        const int next = endOfComment(text, position);
+        if (next == position)
+            return position;
+        position = next;
+    }
 }
 
 QString Outline::name(const Member& member) const

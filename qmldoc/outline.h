@@ -42,6 +42,15 @@ public:
         int end = 0;          ///< of the closing brace, or of the value and, behind a script, its semicolon
     };
 
+    /// An import or pragma at the head of a document.
+    struct HeadLine
+    {
+        QString
+            module; ///< what is imported: a module's name, or a file or folder in quotes; empty for a pragma
+        QString qualifier; ///< the name behind "as", or empty
+        int end = 0;       ///< with its semicolon, if there is one
+    };
+
     /// Parses `text`. What is no document, or nests deeper than limits::maxDepth objects, has an error() and
     /// no members.
     explicit Outline(const QString& text);
@@ -53,6 +62,7 @@ public:
     /// The text as it was parsed; a byte-order mark has become a blank.
     const QString& text() const { return m_text; }
 
+    const std::vector<HeadLine>& head() const { return m_head; }
     const std::vector<Member>& members() const { return m_members; }
     const Member& member(int i) const { return m_members[size_t(i)]; }
     /// Indices of the objects that the editor numbers, in the order of their closing braces: innermost first,
@@ -72,6 +82,11 @@ private:
 
     QString m_text;
     SyntaxError m_error;
+    std::vector<HeadLine> m_head;
     std::vector<Member> m_members;
     std::vector<int> m_items;
 };
+
+/// Where the first token stands at or behind `position`, which is not within one: what follows blanks and
+/// comments; the end of `text` when nothing does.
+int tokenAt(const QString& text, int position);

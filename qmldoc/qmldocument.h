@@ -24,10 +24,6 @@ public:
     /// live as long; texts of values are read from it when the item map is made.
     bool parse(const QString& source, int firstElement);
     bool parse(QString&&, int) = delete;
-    /// Why the last parse failed; its message is empty when it did not.
-    const SyntaxError& error() const { return m_error; }
-    /// What the last successful parse found.
-    const Outline& outline() const { return m_outline; }
 
     /// The last parsed text with the editor's members in each numbered object; see editorText(). Making an
     /// item map empties it.
@@ -36,22 +32,14 @@ public:
     /// Number of objects of the last successful parse.
     int objectCount() const { return int(m_outline.items().size()); }
 
-    /// The item map: one record for each numbered object, innermost first, the root last. A record is a map
-    /// of "pfirst" (begin of the type name), "pfirstL" (after the opening brace), "plast" (after the closing
-    /// brace), "typename" (up to the first dot, in Latin-1) and "properties" (see propertiesOfObject()).
+    /// The item map: the records of the numbered objects, innermost first, the root last; see itemRecord().
     QVariantList itemMap();
 
-    /// Properties of object `i` of 0 to objectCount() - 1, by name: maps of "value" (source text), "pfirst"
-    /// (begin of the declaration or binding) and "plast" (end of the value). Of two with the same name the
-    /// later one counts.
+    /// Properties of object `i` of 0 to objectCount() - 1; see itemProperties().
     QVariantMap propertiesOfObject(int i);
 
 private:
-    QVariantMap record(int i);
-    QString propertyName(const Outline::Member& property) const;
-
     QString m_generatedText;
     const QString* m_source;
-    SyntaxError m_error;
-    Outline m_outline;
+    Outline m_outline; // of the last successful parse
 };

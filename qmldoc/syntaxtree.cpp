@@ -60,6 +60,14 @@ QString SyntaxTree::identifier(const QString& text)
     return lexer.tokenSpell().toString();
 }
 
+bool SyntaxTree::isIdentifier(const QString& text)
+{
+    Engine engine;
+    Lexer lexer(&engine);
+    lexer.setCode(text, 1, true);
+    return lexer.lex() == Lexer::T_IDENTIFIER && lexer.lex() == Lexer::EOF_SYMBOL;
+}
+
 QString SyntaxTree::stringLiteral(const QString& text)
 {
     Engine engine;

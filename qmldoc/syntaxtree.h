@@ -44,6 +44,8 @@ public:
 
     /// The name that `text`, one identifier as it stands in a source, stands for: escapes are worked out.
     static QString identifier(const QString& text);
+    /// Whether `text` is one identifier and no word of the language.
+    static bool isIdentifier(const QString& text);
     /// The text that `text` quotes, if it is one quoted text with or without a semicolon; else null.
     static QString stringLiteral(const QString& text);
 

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// What the editor pages and panels share: the item map of the document being edited, the selection, and the
-// edits that keep the source, the map and each other in step. Positions are offsets into the edited source in
-// UTF-16 code units, ends exclusive. Records and property records are those of CAPI.getMap().
+// What the editor pages and panels share: the item map of the document being edited, the selection, and the changes of
+// the source. Positions are offsets into the edited source in UTF-16 code units, ends exclusive. Records and property
+// records are those of CAPI.getMap().
 //
-// A record stays at its item's number in the map; the record of a removed item holds an empty range.
+// A record stays at its item's number in the map; the record of a removed item holds an empty range. A change is made
+// as a whole or not at all: its function then returns false, and `problem` says why.
 
 .pragma library
+.import "edits.js" as Edits
 .import "private/itemmap.js" as ItemMap
 .import "private/liveitems.js" as LiveItems
 
@@ -39,6 +41,8 @@ var editorObj = null;
 var editorUi = null;
 /// Whether the desktop editor is at work.
 var radEditor = false;
+/// Why the last change was not made, in words; "" when it was.
+var problem = "";
 /// Selects a live item; the desktop page puts its own function here.
 var selectItem = function (item) {};
 
@@ -49,120 +53,88 @@ function updateMap(beg, corr) {
     ItemMap.moveBehind(map, beg, corr);
 }
 
-/// Puts `text` in place of the source's range [beg, end) and moves the map with it.
-function replaceRange(beg, end, text) {
-    JCAPI.replaceSourceCode(beg, end, text);
-    ItemMap.replace(map, beg, end, text);
-}
-
 /// Source text of the selected item's property; "" when it has none of that name.
 function getProperty(prop) {
-    const record = _selected();
+    const record = map[element];
     return record && _has(record.properties, prop) ? record.properties[prop].value : "";
 }
 
 /// Gives the selected item's property the source text `newValue`, or adds it to the item on a line of its own.
-/// A signal has no value: it stays as it is.
 function updateProperty(prop, newValue) {
-    const record = _selected();
-    if (record === undefined)
-        return;
-    if (_has(record.properties, prop))
-        _replaceValue(record, record.properties[prop], String(newValue));
-    else
-        _addProperty(record, prop, String(newValue));
+    return updateProperties([{ element: element, name: prop, text: String(newValue) }]);
 }
 
-function _replaceValue(record, property, newValue) {
-    const last = property.plast;
-    const text = JCAPI.sourceCode(property.pfirst, last);
-    const newText = ItemMap.withValue(text, property.value, newValue);
-    if (newText === null) {
-        console.warn("No value to replace in:", text);
-        return;
-    }
-    const lineEnd = _lineEnd(record, last);
-    replaceRange(property.pfirst, last, newText + lineEnd);
-    property.plast -= lineEnd.length;
-    property.value = newValue;
+/// Gives several properties new values in one step: a list of maps of "element" (the item's number), "name" and "text".
+/// `accept`, if given, is called when the source allows it; when it returns false, nothing changes.
+function updateProperties(changes, accept) {
+    const values = changes.map(change => ({ record: map[change.element], name: change.name, text: change.text }));
+    return _change(values.map(value => value.record), document => Edits.setProperties(document, values, accept));
 }
 
-function _addProperty(record, prop, value) {
-    const anchor = _lastOwnProperty(record);
-    const at = anchor ? _memberEnd(record, anchor.plast) : record.plast - 1;
-    const indentation = anchor ? _indentation(anchor.pfirst) : _indentation(record.pfirst) + "    ";
-    const lead = (JCAPI.sourceCode(at - 1, at) === "\n" ? "" : "\n") + indentation;
-    const text = prop + " : " + value;
-    replaceRange(at, at, lead + text + _lineEnd(record, at));
-    const first = at + lead.length;
-    record.properties[prop] = { value: value, pfirst: first, plast: first + text.length };
-}
-
-/// Where the member ends whose value ends at `position`: a list keeps its semicolon out of its value.
-function _memberEnd(record, position) {
-    return position + ItemMap.leading(";", JCAPI.sourceCode(position, record.plast)) + 1;
-}
-
-/// The last property that stands in the item's own body, not in an object bound to one of its properties.
-function _lastOwnProperty(record) {
-    const isOwn = property =>
-        ItemMap.braceDepth(JCAPI.sourceCode(record.pfirstL, property.pfirst)) === 0;
-    return ItemMap.properties(record).sort((one, other) => other.plast - one.plast).find(isOwn);
-}
-
-/// What stands between `position` and the start of its line, body or the member before, as blanks.
-function _indentation(position) {
-    const start = Math.max(...["\n", ";", "{"].map(mark => JCAPI.prevPosInSourceCode(mark, position)));
-    return JCAPI.sourceCode(start + 1, position).replace(/\S/g, " ");
-}
-
-/// A line end where the member that ends at `position` would run into the next one, else nothing.
-function _lineEnd(record, position) {
-    return ItemMap.beginsWithMember(JCAPI.sourceCode(position, record.plast)) ? "\n" : "";
-}
-
-/// Inserts the object text `src` at the end of the selected item's body and appends its record `obj`, with
-/// positions in `src`, to the map. There is one place for it, whatever `atEnd` says.
+/// Inserts the object text `src` at the end of the selected item's body and appends its record to the map: `obj`, which
+/// gets its place in the source. Records of objects in it follow. There is one place for it, whatever `atEnd` says.
 function addObject(obj, src, atEnd) {
-    const parent = _selected();
-    if (parent === undefined)
-        return;
-    const at = parent.plast - 1;
-    replaceRange(at, at, src);
-    ItemMap.moveRecord(obj, at);
-    map.push(obj);
+    const first = map.length;
+    if (!_change([map[element]], document => Edits.addObjects(document, map[element], src, [])))
+        return false;
+    map.splice(first, 0, Object.assign(obj, map.pop()));
+    return true;
+}
+
+/// Inserts the text of objects, as from the clipboard, at the end of the selected item's body, with the import lines
+/// that the document lacks, and appends their records to the map in the order that CAPI.generateEditor() numbers them.
+/// Ids that the document has are changed in it.
+function paste(src, imports) {
+    return _change([map[element]], document =>
+        Edits.addObjects(document, map[element], Edits.withFreshIds(document, src), imports || []));
+}
+
+/// Inserts the text of one object on lines of its own: before the item `before`, a number, or, when that is -1, at the
+/// end of the item `parent`. Otherwise like paste().
+function insertObject(src, parent, before, imports) {
+    return _change([map[parent]], document =>
+        Edits.insertObject(document, map[parent], map[before], Edits.withFreshIds(document, src), imports || []));
 }
 
 /// Takes the selected item out of the source, with the comma that parts it from others in a list. Its record
 /// stays, so that the others keep their numbers.
 function removeElement() {
-    const record = _selected();
-    if (record === undefined)
-        return;
-    const comma = _commaBehind(record.plast);
-    if (comma >= 0)
-        replaceRange(record.pfirst, comma + 1, "");
-    else
-        replaceRange(_commaBefore(record), record.plast, "");
+    return removeElements([element]);
 }
 
-function _commaBehind(position) {
-    const offset = ItemMap.leading(",", JCAPI.editedSourceCode().slice(position));
-    return offset < 0 ? -1 : position + offset;
+/// The same for several items, by their numbers.
+function removeElements(elements) {
+    const records = elements.map(number => map[number]);
+    return _change(records, document => Edits.removeObjects(document, records));
 }
 
-/// Position of the comma between the item and the one before it in a list, else where the item begins.
-function _commaBefore(record) {
-    const before = ItemMap.lastEndBefore(map, record.pfirst);
-    const isList = before >= 0 && ItemMap.isComma(JCAPI.sourceCode(before, record.pfirst));
-    return isList ? _commaBehind(before) : record.pfirst;
+/// Moves items, by their numbers and in that order, before the item `before`, or, when that is -1, to the end of the
+/// item `parent`. They keep their numbers; lines that they leave empty go.
+function moveElements(elements, parent, before) {
+    const records = elements.map(number => map[number]);
+    return _change(records.concat([map[parent]]), document =>
+        Edits.moveObjects(document, records, map[parent], map[before]));
 }
 
-function _selected() {
-    const record = map[element];
-    if (record === undefined)
-        console.warn("No item is selected: element", element, "of", map.length);
-    return record;
+/// Puts the source of one object in place of the selected item. What the item holds gets new numbers.
+function replaceElement(src) {
+    return _change([map[element]], document => Edits.replaceObject(document, map[element], src));
+}
+
+/// Gives the selected item an id, and the references to its old one with it.
+function renameId(id) {
+    return _change([map[element]], document => Edits.renameId(document, map[element], id));
+}
+
+// Makes a change that concerns `records`.
+function _change(records, make) {
+    if (records.length === 0 || records.some(record => record === undefined || record.plast <= record.pfirst)) {
+        problem = qsTr("No item is selected.");
+        console.warn(problem, "Element", element, "of", map.length);
+        return false;
+    }
+    problem = make({ api: JCAPI, map: map });
+    return problem === "";
 }
 
 function _has(object, name) {

@@ -18,18 +18,11 @@ PanelRow {
                                                                                          : "{\n" + code + "\n}";
     }
 
-    function isReadable(code) {
-        const map = CAPI.parseAndGetMap("Item { " + name + ": " + code + "\n}");
-        return map.length === 1 && Object.keys(map[0].properties).length === 1;
-    }
-
     function put(text) {
         const code = asSource(text) || "{}";
         if (code === root.code || (root.code === "" && code === "{}"))
             return;
-        area.hasError = !isReadable(code);
-        if (!area.hasError)
-            form.commitAll([{ name: root.name, text: code, isHandler: true }]);
+        area.hasError = !form.commitAll([{ name: root.name, text: code, isHandler: true }]);
     }
 
     labelWidth: width

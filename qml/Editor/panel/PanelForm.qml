@@ -33,9 +33,11 @@ FocusScope {
                                                                 && all.indexOf(family) === i).sort()
     readonly property real margin: 2 * BGUI.Theme.unit
 
-    /// Source text of the property, without the semicolon that may end it; "" when the item does not set it.
+    /// Source text of the property, without the semicolon that may end it, its lines ended by "\n"; "" when the item
+    /// does not set it.
     function source(name) {
-        return isThere() ? forItem(() => Ejs.getProperty(name)).replace(/\s*;$/, "") : "";
+        const property = isThere() ? root.record.properties[name] : undefined;
+        return property ? property.value.replace(/\r\n?/g, "\n").replace(/\s*;$/, "") : "";
     }
 
     /// Current value of the live item's property; a dotted name goes into groups.
@@ -68,13 +70,20 @@ FocusScope {
         root.problem = "";
         if (!isThere() || news.length === 0)
             return false;
-        if (!news.every(change => change.isHandler || preview(change.name, change.text))) {
-            root.problem = qsTr("This value cannot be used.");
-            return false;
-        }
-        news.forEach(change => forItem(() => Ejs.updateProperty(change.name, change.text)));
-        finish();
-        return true;
+        const values = news.map(change => ({ element: root.element, name: change.name, text: change.text }));
+        const isShown = () => news.every(change => change.isHandler || preview(change.name, change.text));
+        const isDone = Ejs.updateProperties(values, isShown);
+        root.problem = Ejs.problem;
+        if (isDone)
+            finish();
+        else
+            news.filter(change => !change.isHandler && source(change.name) !== "").forEach(showSource);
+        return isDone;
+    }
+
+    // Shows what the source says, as after a change that was refused.
+    function showSource(change) {
+        preview(change.name, source(change.name));
     }
 
     function isThere() {
@@ -89,15 +98,6 @@ FocusScope {
         CAPI.saveEditingState();
         if (root.radEditor)
             Ejs.selectItem(Ejs.elementObj);
-    }
-
-    // Runs `action` with the form's item as the selected one.
-    function forItem(action) {
-        const selected = Ejs.element;
-        Ejs.element = root.element;
-        const result = action();
-        Ejs.element = selected;
-        return result;
     }
 
     /// What stands before the property, or its place in the item, on its line, as blanks.

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// The arithmetic of the item map, a list of records as CAPI.getMap() returns it, and of the source text at its
-// positions. Nothing here reads or writes a source.
+// The arithmetic of the item map, a list of records as CAPI.getMap() returns it. Nothing here reads or writes a source.
 
 .pragma library
 
@@ -20,19 +19,17 @@ function replace(map, beg, end, text) {
     const movedStart = (position, last) =>
         position === beg && beg === end && last > position ? position + corr : moved(position);
     map.forEach(record => {
-        properties(record).forEach(property => _changeValue(property, beg, end, text));
+        if (record.plast <= beg)
+            return;
+        for (const name in record.properties)
+            _changeValue(record.properties[name], beg, end, text);
         _moveRecord(record, moved, movedStart);
     });
 }
 
-/// Adds `distance` to every position of one record.
-function moveRecord(record, distance) {
-    const moved = position => position + distance;
-    _moveRecord(record, moved, moved);
-}
-
 function _moveRecord(record, moved, movedStart) {
-    properties(record).forEach(property => _moveRange(property, moved, movedStart));
+    for (const name in record.properties)
+        _moveRange(record.properties[name], moved, movedStart);
     _moveRange(record, moved, movedStart);
     record.pfirstL = moved(record.pfirstL);
 }
@@ -48,52 +45,32 @@ function _changeValue(property, beg, end, text) {
         property.value = property.value.slice(0, beg - start) + text + property.value.slice(end - start);
 }
 
-/// The property records of a record.
-function properties(record) {
-    return Object.keys(record.properties).map(name => record.properties[name]);
+/// The record of the item that begins at `position`; undefined when none does.
+function at(map, position) {
+    return map.find(record => record.pfirst === position && _isThere(record));
 }
 
-/// End of the last item that ends at or before `position`; -1 when there is none. Removed items do not count.
-function lastEndBefore(map, position) {
-    return map.filter(record => record.plast > record.pfirst && record.plast <= position)
-              .reduce((last, record) => Math.max(last, record.plast), -1);
+/// The records of the items in [beg, end), parents behind their children.
+function within(map, beg, end) {
+    return map.filter(record => record.pfirst >= beg && record.plast <= end && _isThere(record))
+              .sort((one, other) => one.plast - other.plast);
 }
 
-/// A binding or declaration `text` with `newValue` in place of its `oldValue`, which is the last that it holds.
-/// null when it holds no such value or, as signals and required properties, can have none.
-function withValue(text, oldValue, newValue) {
-    if (oldValue === "")
-        return _takesNoValue(text) ? null : text.replace(/;$/, "") + ": " + newValue;
-    const at = text.lastIndexOf(oldValue);
-    return at < 0 ? null : text.slice(0, at) + newValue + text.slice(at + oldValue.length);
+/// The innermost item around all of `records`, one of them included.
+function around(map, records) {
+    const first = Math.min(...records.map(record => record.pfirst));
+    const last = Math.max(...records.map(record => record.plast));
+    return map.filter(record => record.pfirst <= first && record.plast >= last)
+              .reduce((inner, record) => record.plast - record.pfirst < inner.plast - inner.pfirst ? record : inner);
 }
 
-function _takesNoValue(text) {
-    return /^(?:signal|required|default\s+required)\b/.test(text.replace(_comments, " "));
+/// The innermost item around all of `records` and `others` that is none of `records`; the root when it is one.
+function holder(map, records, others) {
+    const inner = around(map, records.concat(others));
+    const outer = map.filter(record => record.pfirst < inner.pfirst && record.plast > inner.plast);
+    return records.includes(inner) && outer.length > 0 ? around(outer, [inner]) : inner;
 }
 
-const _comments = /\/\*[^]*?\*\/|\/\/[^\n\r]*/g;
-
-/// Opening less closing braces of `code`, whole tokens of source, but for those in texts and comments.
-function braceDepth(code) {
-    const texts = /"(?:\\[^]|[^"\\])*"|'(?:\\[^]|[^'\\])*'|\/\*[^]*?\*\/|\/\/[^\n\r]*/g;
-    const braces = code.replace(texts, "");
-    return braces.split("{").length - braces.split("}").length;
-}
-
-/// Offset of `mark` when `code` begins with it, after blanks and comments; -1 when it begins with something else.
-function leading(mark, code) {
-    const blanks = /^(?:\s|\/\*[^]*?\*\/|\/\/[^\n\r]*)*/.exec(code)[0].length;
-    return code[blanks] === mark ? blanks : -1;
-}
-
-/// Whether `code` is a comma, with blanks and comments around it.
-function isComma(code) {
-    return code.replace(_comments, "").trim() === ",";
-}
-
-/// Whether `code`, the source behind a member of an object, has another member on the same line.
-function beginsWithMember(code) {
-    const rest = code.split("\n", 1)[0].replace(/^(\s|\/\*.*?\*\/)*/, "");
-    return rest !== "" && !/^(?:[};]|\/\/)/.test(rest);
+function _isThere(record) {
+    return record.plast > record.pfirst;
 }

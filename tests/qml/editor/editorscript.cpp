@@ -3,21 +3,27 @@
 
 #include "editorscript.h"
 
-#include <QDir>
+#include "app/qmlcontext.h"
+
 #include <QQmlComponent>
 #include <QQmlContext>
 
 EditorScript::EditorScript()
 {
-    QDir(m_imports.path()).mkdir("Nuvex");
-    QFile::link(NUVEX_EDITOR_MODULE, m_imports.filePath("Nuvex/Editor"));
-    engine.addImportPath(m_imports.path());
-    engine.rootContext()->setContextProperty("CAPI", &api);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.path()));
+    setApplicationNames();
+    api = std::make_unique<CAPI>(nullptr, nullptr);
+    api->createProject("Test");
+    api->setBaseFolder("Test");
+    prepareEngine(engine, {});
+    engine.rootContext()->setContextProperty("CAPI", api.get());
 
     QQmlComponent component(&engine);
-    component.setData("import QtQml 2.15\nimport Nuvex.Editor 1.0\n"
-                      "QtObject {\n"
+    component.setData("import QtQml 2.15\nimport Nuvex.Editor 1.0\nimport Nuvex.Native 1.1\n"
+                      "QtObject {\n    id: page\n"
                       "    Component.onCompleted: Ejs.JCAPI = CAPI\n"
+                      "    property DocumentFaults faults: DocumentFaults { }\n"
                       "    function run(code, args) { var [a, b, c] = args; return eval(code) }\n"
                       "}\n",
                       QUrl());
@@ -28,7 +34,7 @@ EditorScript::EditorScript()
 
 void EditorScript::open(const QString& source)
 {
-    api.session.setSource(source);
+    api->setSourceCode(source);
     run("CAPI.generateEditor(); Ejs.map = CAPI.getMap(); Ejs.element = -1; Ejs.dirmap = null");
 }
 

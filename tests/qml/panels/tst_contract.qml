@@ -144,17 +144,28 @@ PanelCase {
         verifyMap();
     }
 
-    // What the live item refuses is not written.
-    function test_refused() {
+    // What the live item or the source refuses is not written, said, and nothing of the change stays on the live item.
+    function test_refused_data() {
+        return [
+            { tag: "by the item", text: "nosuchname", warnings: 1 },
+            { tag: "no value", text: "no such thing", warnings: 0 },
+            { tag: "more than one", text: "5; color: 'red'", warnings: 0 },
+            { tag: "nothing", text: "", warnings: 0 }
+        ];
+    }
+    function test_refused(data) {
         open("BasicRectangle { width: 100; height: 50; radius: 4 }");
         select(0);
         const before = CAPI.editedSourceCode();
-        verify(!form.commit("radius", "no such thing"));
-        verify(!form.commit("radius", "nosuchname"));
-        verify(form.problem !== "");
+        verify(!form.commitAll([{ name: "width", text: "120" }, { name: "radius", text: data.text }]));
+        waitForRendering(panel);
+        verify(all(panel, item => item.text === form.problem && item.visible && item.height > 0).length > 0, form.problem);
+        compare([Ejs.elementObj.width, Ejs.elementObj.radius], [100, 4]);
         compare(CAPI.editedSourceCode(), before);
         compare(takeChanges(), [0, 0]);
-        expectWarnings(2, /does not take radius/);
+        expectWarnings(data.warnings, /does not take radius/);
+        verify(form.commit("radius", "5"));
+        compare(form.problem, "");
     }
 
     function test_texts_data() {
