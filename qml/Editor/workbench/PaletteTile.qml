@@ -63,6 +63,7 @@ FocusScope {
         anchors.fill: parent
         hoverEnabled: true
         drag.target: ghost
+        drag.smoothed: false
         onPressed: {
             root.forceActiveFocus(Qt.MouseFocusReason);
             const at = mapToItem(root.dragArea, mouse.x, mouse.y);
