@@ -17,10 +17,10 @@ FocusScope {
 
     function commit(name, value) {
         const text = value.trim();
-        return text !== "" && text !== valueOf(name) ? desk.changes.property(name, text) : true;
+        return text !== "" && text !== sourceOf(name) ? desk.changes.property(name, text) : true;
     }
 
-    function valueOf(name) {
+    function sourceOf(name) {
         const property = root.properties[name];
         return property ? property.value.replace(/\s*;$/, "") : "";
     }
@@ -44,7 +44,7 @@ FocusScope {
         delegate: PropertyRow {
             width: list.width
             name: modelData
-            value: root.desk.revision >= 0 ? root.valueOf(name) : ""
+            value: root.desk.revision >= 0 ? root.sourceOf(name) : ""
             readOnly: name === "id"
             commit: text => root.commit(name, text)
         }
