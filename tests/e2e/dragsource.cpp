@@ -29,7 +29,7 @@ protected:
         auto* drag = new QDrag(this); // deletes itself
         drag->setMimeData(data);
         drag->exec(Qt::CopyAction);
-        close();
+        hide(); // and lives on: the files are asked for after the drop
     }
 
     void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(0, 0, 60, 60, Qt::yellow); }
@@ -41,6 +41,7 @@ private:
 int main(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     DragSource source(application.arguments().mid(1));
     source.show();
     return QGuiApplication::exec();

@@ -140,7 +140,7 @@ class EditorTest(ProgramTest):
         wait_for(lambda: self.pixel(*self.centre(place)) == colour.upper(), f"{colour} at {place}")
 
     def assert_clean(self):
-        told = [line for line in self.program.log().splitlines() if not re.match(r"nuvex\.shell|ALSA|AL lib|qt.qpa", line)]
+        told = [line for line in self.program.log().splitlines() if not re.match(r"nuvex\.(shell|qmldoc)|ALSA|AL lib|qt.qpa", line)]
         self.assertEqual(told, [])
 
     # What is done
