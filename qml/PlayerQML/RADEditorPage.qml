@@ -30,7 +30,10 @@ StackPage {
 
     function leave() {
         desk.settle();
-        shell.pop();
+        if (desk.isChanged)
+            question.open();
+        else
+            shell.pop();
     }
 
     function undo() {
@@ -125,6 +128,16 @@ StackPage {
 
     KeySheet {
         id: sheet
+    }
+
+    LeaveQuestion {
+        id: question
+        project: toolbar.project
+        onLeaveWanted: root.shell.pop()
+        onSaveWanted: {
+            if (desk.save())
+                root.shell.pop();
+        }
     }
 
     EditorKeys {
