@@ -87,19 +87,19 @@ StackPage {
         onPlayWanted: root.play()
     }
 
-    PalettePane {
-        id: palette
+    LeftPane {
+        id: left
         anchors.top: toolbar.bottom
         anchors.bottom: parent.bottom
         width: 26 * BGUI.Theme.unit
+        desk: desk
         dragArea: root
-        onChosen: desk.insertion.addChosen(type)
     }
 
     CanvasPane {
         id: canvas
         anchors.top: toolbar.bottom
-        anchors.left: palette.right
+        anchors.left: left.right
         anchors.right: side.left
         anchors.bottom: source.visible ? source.top : parent.bottom
         focus: true
@@ -109,7 +109,7 @@ StackPage {
 
     SourcePane {
         id: source
-        anchors.left: palette.right
+        anchors.left: left.right
         anchors.right: side.left
         anchors.bottom: parent.bottom
         height: Math.round(0.4 * (parent.height - toolbar.height))

@@ -52,6 +52,22 @@ QtObject {
         return true;
     }
 
+    // Gives the selected item another id, and what refers to it with it. False with a message when it cannot have it.
+    function rename(id) {
+        desk.settle();
+        const before = CAPI.editedSourceCode();
+        if (!Ejs.renameId(id)) {
+            desk.say(Ejs.problem);
+            return false;
+        }
+        if (!desk.showSource(before))
+            return false;
+        const record = Ejs.map.find(record => record.properties.id && record.properties.id.value === id);
+        desk.selection.set(record ? [desk.selection.itemAt(record.pfirst)] : []);
+        desk.finish();
+        return true;
+    }
+
     // Gives an item the text that was written on the canvas.
     function text(item, text) {
         if (desk.live.assign(item, "text", Values.quoted(text)))

@@ -1,0 +1,42 @@
+.pragma library
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+//
+// The objects of a document as the source nests them.
+
+/// The rows of an outline, in the order of the source: maps of "element", the object's number, "depth", 0 for the
+/// root, "type" and "id". Removed objects have none.
+function rows(map) {
+    const order = map.map((record, element) => ({ record, element })).filter(entry => _isThere(entry.record))
+                     .sort((one, other) => one.record.pfirst - other.record.pfirst);
+    const around = [];
+    return order.map(({ record, element }) => {
+        while (around.length > 0 && around[around.length - 1].plast <= record.pfirst)
+            around.pop();
+        around.push(record);
+        return { element: element, depth: around.length - 1, type: record.typename, id: _idOf(record) };
+    });
+}
+
+/// The rows whose type or id holds `text`, in any case, with the rows that these lie in.
+function matching(rows, text) {
+    const wanted = text.trim().toLowerCase();
+    if (wanted === "")
+        return rows;
+    let depth = 0;
+    return rows.slice().reverse().filter(row => {
+        const isFound = (row.type + " " + row.id).toLowerCase().indexOf(wanted) >= 0;
+        const isAround = row.depth < depth;
+        if (isFound || isAround)
+            depth = row.depth;
+        return isFound || isAround;
+    }).reverse();
+}
+
+function _isThere(record) {
+    return record.plast > record.pfirst;
+}
+
+function _idOf(record) {
+    return record.properties.id ? record.properties.id.value.replace(/\s*;$/, "") : "";
+}
