@@ -3,10 +3,11 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// The panel that an item's component brings with it.
+/// The panel that an item's component brings with it, else the general one.
 Item {
     id: root
 
+    property var desk
     property Item item: null
     /// How many items are selected.
     property int count: 0
@@ -20,13 +21,20 @@ Item {
         onLoaded: item.radEditor = true
     }
 
+    Loader {
+        anchors.fill: parent
+        active: root.item !== null && !root.hasPanel
+        sourceComponent: GeneralPanel {
+            desk: root.desk
+        }
+    }
+
     BGUI.EmptyState {
         anchors.centerIn: parent
         width: parent.width - 4 * BGUI.Theme.unit
-        visible: !root.hasPanel
+        visible: root.count > 1
         faIcon: "fa-list-alt"
-        title: root.count > 1 ? qsTr("Several items") : qsTr("No panel for this item")
-        text: root.count > 1 ? qsTr("Move, align and order them together; for anything else select one.")
-                             : qsTr("Its properties can be set in the list beside.")
+        title: qsTr("Several items")
+        text: qsTr("Move, align and order them together; for anything else select one.")
     }
 }

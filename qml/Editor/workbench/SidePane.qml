@@ -69,6 +69,7 @@ FocusScope {
         ItemPanel {
             anchors.fill: parent
             visible: tabs.currentIndex === 0
+            desk: root.desk
             item: root.selection.items.length === 1 ? root.selection.item : null
             count: root.selection.items.length
         }
