@@ -108,10 +108,8 @@ void LiveDocument::stack(QQuickItem* item, QQuickItem* before)
 
 void LiveDocument::remove(QQuickItem* item)
 {
-    if (!item || item == root())
-        return;
-    item->setParentItem(nullptr);
-    item->deleteLater();
+    if (item && item != root())
+        m_scene->remove(*item);
 }
 
 void LiveDocument::clear()

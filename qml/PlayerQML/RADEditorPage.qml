@@ -64,6 +64,7 @@ StackPage {
 
     EditingDesk {
         id: desk
+        objectName: "desk"
         frameHost: canvas.frameHost
     }
 

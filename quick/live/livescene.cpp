@@ -13,8 +13,6 @@
 #include <QQmlListReference>
 #include <QQmlProperty>
 
-#include <memory>
-
 namespace {
 
 QQmlError error(const QString& description)
@@ -55,6 +53,7 @@ LiveScene::LiveScene(QQmlEngine& engine)
 
 LiveScene::~LiveScene()
 {
+    m_context.reset();
     delete m_root;
 }
 
@@ -64,8 +63,8 @@ bool LiveScene::load(const QString& text, const QUrl& url, QQuickItem& parent)
     QQuickItem* root = make(text, url, context.get(), parent);
     if (!root)
         return false;
-    context.release()->setParent(root);
     clear();
+    m_context = std::move(context);
     m_url = url;
     m_root = root;
     m_root->setState(QStringLiteral("editing")); // from here no binding of the state is cut
@@ -82,10 +81,16 @@ QQuickItem* LiveScene::insert(const QString& text, QQuickItem& parent)
     return nullptr;
 }
 
+void LiveScene::remove(QQuickItem& item)
+{
+    item.setParentItem(&m_aside);
+}
+
 void LiveScene::clear()
 {
     if (!m_root)
         return;
+    m_context.reset(); // else bindings would miss the parents that go before them
     m_root->setParentItem(nullptr);
     m_root->deleteLater(); // it may be one of its own handlers that asks
     m_root.clear();

@@ -8,6 +8,8 @@
 #include <QQuickItem>
 #include <QUrl>
 
+#include <memory>
+
 class QQmlContext;
 class QQmlEngine;
 
@@ -33,6 +35,8 @@ public:
     /// Makes the document `text` inside the scene's: it sees the ids that `parent` sees, and becomes what its
     /// default property takes. Null on failure, or when `parent` takes no objects.
     QQuickItem* insert(const QString& text, QQuickItem& parent);
+    /// Takes an item out of sight. It lives until the document goes: its bindings know no other end.
+    void remove(QQuickItem& item);
     void clear();
 
     /// What the engine says about the document `text` without making it; none: it could be made.
@@ -50,6 +54,8 @@ private:
 
     QQmlEngine& m_engine;
     QUrl m_url;
-    QPointer<QQuickItem> m_root; // owned; a parent that goes first takes it along
+    std::unique_ptr<QQmlContext> m_context; // the document's; without it nothing in the document evaluates
+    QPointer<QQuickItem> m_root;            // owned; a parent that goes first takes it along
+    QQuickItem m_aside;                     // holds what was removed
     QList<QQmlError> m_errors;
 };

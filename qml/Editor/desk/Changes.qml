@@ -4,6 +4,7 @@ import QtQuick 2.15
 import Nuvex.Editor 1.0
 import "expressions.js" as Expressions
 import "limits.js" as Limits
+import "outline.js" as Outline
 import "../panel/values.js" as Values
 
 /// Changes of properties: shown live first, then written into the source, then recorded as one state.
@@ -62,7 +63,7 @@ QtObject {
         }
         if (!desk.showSource(before))
             return false;
-        const record = Ejs.map.find(record => record.properties.id && record.properties.id.value === id);
+        const record = Ejs.map.find(record => Outline.idOf(record) === id);
         desk.selection.set(record ? [desk.selection.itemAt(record.pfirst)] : []);
         desk.finish();
         return true;

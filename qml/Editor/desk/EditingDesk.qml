@@ -4,6 +4,7 @@ import QtQuick 2.15
 import Nuvex.Editor 1.0
 import Nuvex.Native 1.1
 import "limits.js" as Limits
+import "outline.js" as Outline
 import "placing.js" as Placing
 
 /// The document that is being edited, as the pages and panels of an editor work on it: opened, shown, undone, saved,
@@ -40,6 +41,8 @@ QtObject {
     signal shown()
     /// What goes on is to be ended before something else is done.
     signal settling()
+
+    Component.onDestruction: live.clear()
 
     function open() {
         Ejs.JCAPI = CAPI;
@@ -242,7 +245,7 @@ QtObject {
     /// What the source calls the item: its id, else "".
     function nameOf(item) {
         const record = item ? Ejs.map[item.element] : null;
-        return record && record.properties.id ? record.properties.id.value : "";
+        return record ? Outline.idOf(record) : "";
     }
 
     /// The item's type and, if it has one, its name.

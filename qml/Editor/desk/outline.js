@@ -14,7 +14,7 @@ function rows(map) {
         while (around.length > 0 && around[around.length - 1].plast <= record.pfirst)
             around.pop();
         around.push(record);
-        return { element: element, depth: around.length - 1, type: record.typename, id: _idOf(record) };
+        return { element: element, depth: around.length - 1, type: record.typename, id: idOf(record) };
     });
 }
 
@@ -37,6 +37,7 @@ function _isThere(record) {
     return record.plast > record.pfirst;
 }
 
-function _idOf(record) {
-    return record.properties.id ? record.properties.id.value.replace(/\s*;$/, "") : "";
+/// The object's id, which may stand in quotes; "" when it has none.
+function idOf(record) {
+    return record.properties.id ? record.properties.id.value.replace(/["']|\s*;$/g, "") : "";
 }
