@@ -92,8 +92,23 @@ QtObject {
 
     /// The document's items in `parent`, but not those inside them.
     function numberedIn(parent) {
-        return Array.from(parent.children).reduce((found, child) =>
-            found.concat(isNumbered(child) ? [child] : numberedIn(child)), []);
+        const found = [];
+        gather(parent.children, found);
+        return found;
+    }
+
+    function gather(children, found) {
+        for (let i = 0, count = children.length; i < count; ++i) {
+            if (isNumbered(children[i]))
+                found.push(children[i]);
+            else
+                gather(children[i].children, found);
+        }
+    }
+
+    /// Whether `parent` has items of the document in it.
+    function hasNumbered(parent) {
+        return Array.prototype.some.call(parent.children, child => isNumbered(child) || hasNumbered(child));
     }
 
     /// The document's item that is drawn right over `item` in the same parent; null when there is none.

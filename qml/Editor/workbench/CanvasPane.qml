@@ -13,7 +13,7 @@ FocusScope {
     readonly property alias frameHost: host
     readonly property Item frame: host.item
     readonly property bool isEmpty: desk.live.root !== null && desk.revision >= 0
-                                    && desk.selection.numberedIn(desk.live.root).length === 0
+                                    && !desk.selection.hasNumbered(desk.live.root)
 
     function takeKeyboard() {
         host.forceActiveFocus(Qt.MouseFocusReason);

@@ -27,7 +27,8 @@ Item {
     }
 
     function follow() {
-        if (root.isEmpty || root.isMissing)
+        // The document may have gone meanwhile.
+        if (!root || root.isEmpty || root.isMissing)
             return;
         if (root.presence === Presence.absent)
             root.video.stop();
