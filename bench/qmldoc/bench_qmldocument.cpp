@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 // Time and memory of the QML document model beside the bare front end of Qt, qmllint and qmlformat, on
-// documents of 10 KB, 400 KB and 4 MB. Prints Markdown tables.
+// documents of 10 KB, 400 KB and 4 MB, and of what the editor's script does with it. Prints Markdown tables.
 
 #include "qmldoc/editingsession.h"
+#include "tests/qml/editor/editorscript.h"
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -242,12 +244,18 @@ void growth()
     out() << "\nGrowth: log-log slope " << QString::number(slope(points), 'f', 3) << "\n";
 }
 
-// A session that has to copy its text before it can edit it, and one that has not.
-void edits()
+QString tenThousandLines()
 {
     QString text = document(400 * 1000);
     while (text.count('\n') < 10000)
         text += "// a line\n";
+    return text;
+}
+
+// A session that has to copy its text before it can edit it, and one that has not.
+void edits()
+{
+    const QString text = tenThousandLines();
     EditingSession session(writeNothing);
     session.begin(text);
     const auto replace = [&] {
@@ -261,6 +269,45 @@ void edits()
     compare(contenders);
     out() << "\nOne replacement in the middle of " << text.count('\n') << " lines: " << contenders[1].range()
           << " ms; the first one after generating " << contenders[0].range() << " ms\n";
+}
+
+// The item map on its way to the script, beside the engine's own way to get as much data.
+void handing()
+{
+    EditorScript script;
+    script.open(document(4 * 1000 * 1000));
+    const QString json = script.run("JSON.stringify(Ejs.map)").toString();
+    std::vector<Contender> contenders{
+        {"native", [&] { return std::make_shared<QVariantList>(script.api->getMap()); }, {}},
+        {"script", [&] { return script.run("CAPI.getMap(); 0"), nullptr; }, {}},
+        {"JSON", [&] { return script.run("JSON.parse(a); 0", {json}), nullptr; }, {}}};
+    compare(contenders);
+    out() << "\nItem map at 4 MB: made in " << contenders[0].range() << " ms, made and handed to script in "
+          << contenders[1].range() << " ms; JSON.parse() of the same map " << contenders[2].range()
+          << " ms\n";
+}
+
+// A property changed by the script, of a small item in the middle and of the root, beside a bare parse.
+void scriptEdits()
+{
+    const QString text = tenThousandLines();
+    EditorScript script;
+    script.open(text);
+    const int root = script.map().size() - 1;
+    const int middle =
+        script.run("Ejs.map.findIndex((r, i) => i > Ejs.map.length / 2 && r.typename === 'Text')").toInt();
+    int value = 0;
+    const auto update = [&](int element) {
+        script.run("Ejs.element = a; Ejs.updateProperty('x', b)", {element, ++value});
+        return nullptr;
+    };
+    std::vector<Contender> contenders{{"bare", [&] { return std::make_shared<BareDocument>(text); }, {}},
+                                      {"middle", [&] { return update(middle); }, {}},
+                                      {"root", [&] { return update(root); }, {}}};
+    compare(contenders);
+    out() << "\nEjs.updateProperty() in " << text.count('\n') << " lines: of an item in the middle "
+          << contenders[1].range() << " ms, of the root " << contenders[2].range()
+          << " ms; bare parse and visit " << contenders[0].range() << " ms\n";
 }
 
 double megabytesInUse()
@@ -287,8 +334,10 @@ void memory()
 
 } // namespace
 
-int main()
+int main(int argc, char* argv[])
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication app(argc, argv);
     out() << "Qt " << qVersion() << ", " << rounds - 1
           << " rounds, milliseconds of processor time: median (minimum to maximum);\n"
           << "for the tools, milliseconds on the clock of one run\n\n";
@@ -296,5 +345,7 @@ int main()
     growth();
     edits();
     memory();
+    handing();
+    scriptEdits();
     tools();
 }

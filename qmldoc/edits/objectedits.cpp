@@ -46,9 +46,9 @@ int countObjects(const QString& code)
 // another of them; an unknown one is -1.
 std::vector<int> outermost(const Passage& passage, const std::vector<int>& offsets)
 {
-    std::vector<int> all;
-    for (const int offset : offsets)
-        all.push_back(passage.objectAt(offset));
+    std::vector<int> all(offsets.size());
+    std::transform(offsets.cbegin(), offsets.cend(), all.begin(),
+                   [&](int offset) { return passage.objectAt(offset); });
     std::vector<int> kept;
     for (const int i : all) {
         const bool isWithinOther = std::any_of(all.cbegin(), all.cend(), [&](int other) {

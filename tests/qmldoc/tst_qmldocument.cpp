@@ -67,7 +67,7 @@ void TestQmlDocument::goldenFiles_data()
     QTest::addColumn<QString>("name");
     for (const QString& input : goldenFolder.entryList({"*.in.qml"}))
         QTest::newRow(qPrintable(input)) << input.chopped(7);
-    QVERIFY(goldenFolder.entryList({"*.in.qml"}).size() >= 20);
+    QVERIFY(goldenFolder.entryList({"*.in.qml"}).size() >= 10);
 }
 
 void TestQmlDocument::goldenFiles()

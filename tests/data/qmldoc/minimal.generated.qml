@@ -1,7 +1,0 @@
-Rectangle { width: 100 
-property int element: 0
-    function evaluate(str) {      
-    eval(str);                    
-    }                             
-
-}

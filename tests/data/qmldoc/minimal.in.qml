@@ -1,1 +1,0 @@
-Rectangle { width: 100 }
