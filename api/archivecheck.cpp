@@ -22,10 +22,12 @@ QStringRef withoutFinalSlash(const QString& name)
     return name.leftRef(name.endsWith(QLatin1Char('/')) ? name.size() - 1 : -1);
 }
 
-bool isBomb(quint64 bytes, quint64 packedBytes)
+// Whether that many bytes in the archive can unpack to as many as the entry announces.
+bool isPossible(const QuaZipFileInfo64& entry)
 {
-    return bytes > limits::archiveRatioFreeBytes && bytes / limits::archiveRatio >= packedBytes &&
-           bytes > packedBytes * limits::archiveRatio;
+    if (entry.method == storedMethod)
+        return entry.uncompressedSize == entry.compressedSize;
+    return entry.uncompressedSize <= entry.compressedSize * limits::deflateRatio;
 }
 
 QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
@@ -39,8 +41,8 @@ QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
         return QStringLiteral("an entry is compressed in an unknown way");
     if (entry.compressedSize > archiveBytes)
         return QStringLiteral("an entry is larger than the archive");
-    if (isBomb(entry.uncompressedSize, entry.compressedSize))
-        return QStringLiteral("an entry unpacks to far more than it is");
+    if (!isPossible(entry))
+        return QStringLiteral("an entry announces more than it can hold");
     return pathFault(withoutFinalSlash(entry.name).toString());
 }
 
@@ -100,18 +102,14 @@ QString archiveFault(const QVector<QuaZipFileInfo64>& entries, qint64 archiveByt
         return QStringLiteral("it has no entries");
     if (entries.size() > limits::archiveEntries)
         return QStringLiteral("it has too many entries");
-    quint64 bytes = 0;
     quint64 packedBytes = 0;
     for (const QuaZipFileInfo64& entry : entries) {
         const QString fault = faultOfEntry(entry, archiveBytes);
         if (!fault.isEmpty())
             return fault + QStringLiteral(": ") + entry.name.left(100);
-        bytes += entry.uncompressedSize;
         packedBytes += entry.compressedSize;
     }
     if (packedBytes > quint64(archiveBytes))
         return QStringLiteral("its entries overlap");
-    if (isBomb(bytes, packedBytes))
-        return QStringLiteral("it unpacks to far more than it is");
     return faultOfNames(entries);
 }

@@ -13,6 +13,6 @@
 /// Refused are entries that lead out of the target (absolute, with "..", "." or empty parts, backslashes,
 /// drive letters, control characters), names that are too long or too deep, anything but files and folders,
 /// names that occur twice (also when only the case differs) or that need a file as a folder, encryption,
-/// methods other than stored and deflated, sizes that the archive cannot hold, and what unpacks to far more
-/// than it is.
+/// methods other than stored and deflated, and sizes that the archive cannot hold. Whether what it unpacks to
+/// fits the disk is not looked at.
 QString archiveFault(const QVector<QuaZipFileInfo64>& entries, qint64 archiveBytes);

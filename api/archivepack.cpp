@@ -1,20 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
-#include "api/archive.h"
+#include "api/archivepack.h"
 
 #include "api/logging.h"
+#include "api/staging.h"
 #include "base/atomicfile.h"
+#include "base/jobcontrol.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSet>
 
-#include <quazip/JlCompress.h>
+#include <quazip/quazip.h>
+#include <quazip/quazipfile.h>
 
 #include <zlib.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -33,7 +37,8 @@ bool isCompressed(const QFileInfo& file)
     return suffixes.contains(file.suffix().toLower());
 }
 
-// What goes into the archive, each folder before its files; an older archive may lie in the folder.
+// What goes into the archive, each folder before its files; an older archive may lie in the folder. Links are
+// not followed, so a canonical `path` makes canonical ones.
 void listFolder(const QString& path, QFileInfoList& result, const QString& leftOut)
 {
     constexpr auto kinds = QDir::NoDotAndDotDot | QDir::NoSymLinks;
@@ -48,44 +53,61 @@ void listFolder(const QString& path, QFileInfoList& result, const QString& leftO
     }
 }
 
+QString canonicalPathOfFile(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.dir().canonicalPath() + QLatin1Char('/') + info.fileName();
+}
+
+qint64 sizeOf(const QFileInfoList& files)
+{
+    return std::accumulate(files.cbegin(), files.cend(), qint64(0), [](qint64 sum, const QFileInfo& file) {
+        return sum + (file.isFile() ? file.size() : 0);
+    });
+}
+
 bool isAscii(const QFileInfo& file)
 {
     const QString path = file.filePath();
     return std::all_of(path.cbegin(), path.cend(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
-// Writes one archive; the first failure is kept and ends the work. What old tools cannot read is used only
-// where it is needed: names marked as UTF-8, and sizes and offsets of 64 bits.
+// Writes one archive. What old tools cannot read is used only where it is needed: names marked as UTF-8, and
+// sizes and offsets of 64 bits.
 class Packer
 {
 public:
-    Packer(QIODevice* archive, const QString& root)
+    Packer(QIODevice* archive, const QString& root, JobControl& control)
         : m_archive(archive)
         , m_zip(archive)
         , m_root(root)
+        , m_control(control)
+        , m_buffer(64 * 1024, Qt::Uninitialized)
     {
         m_zip.setAutoClose(false);
         m_zip.setFileNameCodec("UTF-8");
     }
 
-    QString error() const { return m_error; }
-
-    bool pack(const QFileInfoList& files)
+    Outcome pack(const QFileInfoList& files)
     {
+        m_control.setTotal(sizeOf(files));
         m_zip.setUtf8Enabled(!std::all_of(files.cbegin(), files.cend(), isAscii));
-        const auto add = [this](const QFileInfo& file) {
-            return file.isDir() ? addFolder(file) : addFile(file);
-        };
-        const bool packed = m_zip.open(QuaZip::mdCreate) && std::all_of(files.cbegin(), files.cend(), add);
+        if (!m_zip.open(QuaZip::mdCreate))
+            return Outcome::failure(QStringLiteral("it cannot be begun"));
+        for (const QFileInfo& file : files) {
+            const Outcome added = file.isDir() ? addFolder(file) : addFile(file);
+            if (!added)
+                return added;
+        }
         m_zip.close();
-        return packed && (m_zip.getZipError() == ZIP_OK || fail(QStringLiteral("cannot be finished")));
+        return m_zip.getZipError() == ZIP_OK ? Outcome::success()
+                                             : Outcome::failure(QStringLiteral("it cannot be finished"));
     }
 
 private:
-    bool fail(const QString& error)
+    static Outcome failure(const QFileInfo& source)
     {
-        m_error = error;
-        return false;
+        return Outcome::failure(source.filePath() + QStringLiteral(" cannot be added"));
     }
 
     bool open(QuaZipFile& entry, const QFileInfo& source, const QString& nameEnd, int method)
@@ -93,67 +115,75 @@ private:
         constexpr qint64 longBytes = 4'000'000'000;
         m_zip.setZip64Enabled(source.size() >= longBytes || m_archive->pos() >= longBytes);
         const QuaZipNewInfo info(m_root.relativeFilePath(source.filePath()) + nameEnd, source.filePath());
-        return entry.open(QIODevice::WriteOnly, info, nullptr, 0, method) ||
-               fail(QStringLiteral("cannot add ") + source.filePath());
+        return entry.open(QIODevice::WriteOnly, info, nullptr, 0, method);
     }
 
-    bool addFolder(const QFileInfo& folder)
+    Outcome addFolder(const QFileInfo& folder)
     {
         QuaZipFile entry(&m_zip);
-        return open(entry, folder, QStringLiteral("/"), 0);
+        return open(entry, folder, QStringLiteral("/"), 0) ? Outcome::success() : failure(folder);
     }
 
-    bool addFile(const QFileInfo& file)
+    Outcome addFile(const QFileInfo& file)
     {
         QFile source(file.filePath());
         if (!source.open(QIODevice::ReadOnly))
-            return fail(file.filePath() + QStringLiteral(": ") + source.errorString());
+            return Outcome::failure(file.filePath() + QStringLiteral(": ") + source.errorString());
         QuaZipFile entry(&m_zip);
         if (!open(entry, file, QString(), isCompressed(file) ? 0 : Z_DEFLATED))
-            return false;
-        const bool copied = JlCompress::copyData(source, entry);
+            return failure(file);
+        const bool copied = copy(source, entry);
+        if (m_control.isCancelled())
+            return Outcome::cancelled();
         entry.close();
-        return (copied && entry.getZipError() == ZIP_OK) ||
-               fail(QStringLiteral("cannot add ") + file.filePath());
+        return copied && entry.getZipError() == ZIP_OK ? Outcome::success() : failure(file);
+    }
+
+    bool copy(QFile& source, QuaZipFile& entry)
+    {
+        qint64 count = 0;
+        while (!m_control.isCancelled() && (count = source.read(m_buffer.data(), m_buffer.size())) > 0) {
+            if (entry.write(m_buffer.constData(), count) != count)
+                return false;
+            m_control.advance(count);
+        }
+        return count == 0;
     }
 
     QIODevice* m_archive;
     QuaZip m_zip;
     QDir m_root;
-    QString m_error;
+    JobControl& m_control;
+    QByteArray m_buffer;
 };
 
-bool fail(const QString& zipFile, const QString& reason)
+Outcome pack(AtomicFile& archive, const QString& folder, JobControl& control)
 {
-    qCWarning(lcApi).noquote() << "Cannot pack" << zipFile << "-" << reason;
-    return false;
-}
-
-bool packInto(QFile& archive, const QString& zipFile, const QString& folder)
-{
-    if (!archive.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return fail(zipFile, archive.errorString());
-    QFileInfoList files;
-    listFolder(folder, files, zipFile);
-    Packer packer(&archive, folder);
-    const bool packed = packer.pack(files) || fail(zipFile, packer.error());
-    const bool written = archive.flush() && archive.error() == QFileDevice::NoError;
-    archive.close();
-    return packed && (written || fail(zipFile, archive.errorString()));
+    const QString root = QFileInfo(folder).canonicalFilePath();
+    if (!QFileInfo(root).isDir())
+        return Outcome::failure(QStringLiteral("no such folder: ") + folder);
+    QDir().mkpath(QFileInfo(archive.target()).path());
+    // Noted before it is made, so that a start after a crash finds it wherever it lies. A project in a place
+    // where nothing can be noted is packed all the same.
+    StagingFolder note;
+    if (note.create(QFileInfo(folder).path(), staging::exportPrefix))
+        QFile::link(archive.temporaryPath(), staging::unfinishedLink(note));
+    Outcome done = archive.open();
+    if (done) {
+        QFileInfoList files;
+        listFolder(root, files, canonicalPathOfFile(archive.target()));
+        done = Packer(&archive.device(), root, control).pack(files);
+    }
+    return done ? archive.commit() : done;
 }
 
 } // namespace
 
-bool packArchive(const QString& zipFile, const QString& folder)
+Outcome packArchive(const QString& zipFile, const QString& folder, JobControl& control)
 {
-    const QString target = QDir::cleanPath(QFileInfo(zipFile).absoluteFilePath());
-    if (!QFileInfo(folder).isDir())
-        return fail(target, QStringLiteral("no such folder: ") + folder);
-    QDir().mkpath(QFileInfo(target).path());
-    QFile archive(temporaryPathBeside(target));
-    if (packInto(archive, target, QDir::cleanPath(QFileInfo(folder).absoluteFilePath())) &&
-        replaceFile(archive.fileName(), target))
-        return true;
-    archive.remove();
-    return false;
+    AtomicFile archive(QDir::cleanPath(QFileInfo(zipFile).absoluteFilePath()));
+    const Outcome packed = pack(archive, folder, control);
+    if (!packed && !packed.isCancelled())
+        qCWarning(lcApi).noquote() << "Cannot pack" << archive.target() << "-" << packed.reason();
+    return packed;
 }

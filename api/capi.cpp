@@ -4,7 +4,8 @@
 #include "api/capi.h"
 
 #include <QCoreApplication>
-#include <QThreadPool>
+#include <QQmlContext>
+#include <QQmlEngine>
 
 namespace {
 
@@ -18,23 +19,32 @@ CAPI::CAPI(QQuickView* view, QObject* parent, const Deployment& deployment, Wind
     , m_deployment(deployment)
     , m_windowMode(windowMode)
     , m_workspace(Workspace::defaultRoot())
+    , m_leftovers(m_workspace)
+    , m_imports(m_workspace.workDirectory())
     , m_folder(QCoreApplication::applicationDirPath())
     , m_projectName(m_settings.text(QStringLiteral("lastProject")))
     , m_editing(
           [this](const QString& text, const QString& fileName) { return m_folder.write(text, fileName); })
 {
+    connect(&m_imports, &ImportQueue::runningChanged, this,
+            [this](bool running) { emit onExtractFinishedChanged(!running); });
     currentInstance = this;
 }
 
 CAPI::~CAPI()
 {
-    QThreadPool::globalInstance()->waitForDone(); // an import reports back to this object
     currentInstance = nullptr;
 }
 
 CAPI* CAPI::current()
 {
     return currentInstance;
+}
+
+CAPI* CAPI::of(const QObject* object)
+{
+    const QQmlEngine* engine = qmlEngine(object);
+    return engine ? engine->rootContext()->contextProperty(QStringLiteral("CAPI")).value<CAPI*>() : nullptr;
 }
 
 void CAPI::setIConnected(bool connected)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "api/importqueue.h"
+#include "api/leftovers.h"
 #include "api/projectfolder.h"
 #include "api/settings.h"
 #include "api/workspace.h"
@@ -12,8 +14,6 @@
 
 #include <QObject>
 #include <QVariant>
-
-#include <atomic>
 
 class QQuickView;
 
@@ -48,8 +48,11 @@ public:
     /// The instance of this run, for native workers; null before construction and after destruction.
     static CAPI* current();
 
+    /// The instance that the QML engine of `object` knows by the name "CAPI"; null without one.
+    static CAPI* of(const QObject* object);
+
     /// False while an archive is being imported.
-    bool extractFinished() const { return m_extractFinished; }
+    bool extractFinished() const { return !m_imports.isRunning(); }
     /// False while an archive is being written.
     bool generateZipFinished() const { return m_generateZipFinished; }
     /// Whether the last cloud heartbeat succeeded.
@@ -59,9 +62,13 @@ public:
 
     /// `path` as a local path, by the rule of ProjectFolder.
     QString resolvedPath(const QString& path) const { return m_folder.resolved(path); }
+    /// The imports into this instance's work directory.
+    ImportQueue& imports() { return m_imports; }
+    /// Where the projects lie.
+    const Workspace& workspace() const { return m_workspace; }
 
 signals:
-    /// An import started (false) or ended (true). Emitted from the importing thread.
+    /// Imports have begun (false) or have all ended (true).
     void onExtractFinishedChanged(bool);
     /// Packing started (false) or ended (true).
     void onGenerateZipFinished(bool);
@@ -144,7 +151,8 @@ public:
 
     // --- archives -----------------------------------------------------------------------------------------
 
-    /// Imports an archive into the work directory in the background; its first entry's name, or "".
+    /// Imports an archive into the work directory in the background, after those begun before; its first
+    /// entry's name, or "" when it cannot be read. Whether it is a safe one is found out while importing.
     Q_INVOKABLE QString extractToWorkDirectory(QString zipFile);
     /// Packs the project `folder` into `zipFile`; the archive is written when this returns.
     Q_INVOKABLE void generateZipFile(QString zipFile, QString folder);
@@ -161,7 +169,7 @@ public:
     Q_INVOKABLE void clearComponentCache();
     /// Text with `element` and `evaluate` in every numbered object; see EditingSession::generateEditor().
     Q_INVOKABLE QString generateEditor(QString sc = QString(), int initialElement = 0);
-    /// Writes the editing frame into the current project.
+    /// Writes the editing frame into the current project; nothing when that is missing.
     Q_INVOKABLE void createEditorFile();
     /// The source being edited.
     Q_INVOKABLE QString editedSourceCode();
@@ -264,7 +272,6 @@ public:
     Q_INVOKABLE bool getRunAtStartup();
 
 private:
-    void setExtractFinished(bool finished);
     void setGenerateZipFinished(bool finished);
     void emitEditingState();
 
@@ -272,11 +279,12 @@ private:
     Deployment m_deployment;
     WindowMode m_windowMode;
     ProjectUpdateList m_projectsToUpdate;
-    std::atomic_bool m_extractFinished{true}; // written by the importing thread
     bool m_generateZipFinished = true;
     bool m_iConnected = true;
     Settings m_settings;
     Workspace m_workspace;
+    Leftovers m_leftovers;
+    ImportQueue m_imports;
     ProjectFolder m_folder;
     QString m_projectName;
     EditingSession m_editing;

@@ -3,9 +3,8 @@
 
 #include "api/capi.h"
 
-#include "api/archive.h"
-
-#include <QtConcurrent>
+#include "api/archivepack.h"
+#include "api/archivereader.h"
 
 QString CAPI::extractToWorkDirectory(QString zipFile)
 {
@@ -14,25 +13,18 @@ QString CAPI::extractToWorkDirectory(QString zipFile)
     if (name.isEmpty())
         return name;
     m_workspace.addToCache(name);
-    QtConcurrent::run([this, archive, work = m_workspace.workDirectory()] {
-        setExtractFinished(false);
-        extractArchive(archive, work);
-        setExtractFinished(true);
-    });
+    m_imports.start(archive);
     return name;
 }
 
 void CAPI::generateZipFile(QString zipFile, QString folder)
 {
     setGenerateZipFinished(false);
-    packArchive(m_folder.resolved(zipFile), m_workspace.workDirectory() + QLatin1Char('/') + folder);
+    JobControl untilDone;
+    const Outcome packed = packArchive(m_folder.resolved(zipFile),
+                                       m_workspace.workDirectory() + QLatin1Char('/') + folder, untilDone);
+    Q_UNUSED(packed) // a failure is in the log
     setGenerateZipFinished(true);
-}
-
-void CAPI::setExtractFinished(bool finished)
-{
-    if (m_extractFinished.exchange(finished) != finished || finished)
-        emit onExtractFinishedChanged(finished);
 }
 
 void CAPI::setGenerateZipFinished(bool finished)

@@ -45,7 +45,8 @@ QString CAPI::generateEditor(QString sc, int initialElement)
 
 void CAPI::createEditorFile()
 {
-    if (QFile::exists(editorFrame))
+    // Without a check the writing would make the folder of a project that is not there.
+    if (QFile::exists(editorFrame) && QFile::exists(m_folder.path()))
         m_folder.write(m_folder.read(editorFrame), editorVersion());
 }
 

@@ -7,7 +7,7 @@
 
 #include <chrono>
 
-/// Bounds of the api folder: sizes read from outside, and waits.
+/// Bounds of the api folder: sizes read from outside, and times.
 namespace limits {
 
 /// Size of a document or other text file of a project.
@@ -15,10 +15,17 @@ constexpr qint64 textFileBytes = 64LL * 1024 * 1024;
 
 /// Entries of a project archive.
 constexpr int archiveEntries = 100'000;
-/// An archive, or an entry of it, that unpacks to more than this must not grow more than by the ratio.
-constexpr qint64 archiveRatioFreeBytes = 1024LL * 1024;
-constexpr qint64 archiveRatio = 200;
-/// Age at which a folder that an interrupted import left is deleted.
-constexpr std::chrono::hours abandonedImportAge{24};
+/// Bytes that one byte of deflate's format can unpack to: 258 for two bits (RFC 1951).
+constexpr quint64 deflateRatio = 1032;
+
+/// Bytes that an import writes before it waits for the disk, which cannot be interrupted.
+constexpr qint64 unsyncedBytes = 32LL * 1024 * 1024;
+
+/// Longer side of a project's still, in px, and its quality as JPEG (0 to 100).
+constexpr int stillSide = 960;
+constexpr int stillQuality = 85;
+
+/// How often the progress of work in the background is shown.
+constexpr std::chrono::milliseconds progressInterval{100};
 
 } // namespace limits

@@ -5,6 +5,7 @@
 
 #include "api/limits.h"
 #include "api/logging.h"
+#include "api/textencoding.h"
 #include "base/atomicfile.h"
 #include "cloud/webfile.h"
 
@@ -98,7 +99,7 @@ bool ProjectFolder::write(const QString& text, const QString& path) const
 {
     const QString target = resolved(path);
     makeFolderOf(target);
-    return writeFileAtomically(target, text.toUtf8());
+    return keepOtherEncoding(target) && writeFileAtomically(target, text.toUtf8());
 }
 
 bool ProjectFolder::append(const QString& text, const QString& path) const
@@ -127,21 +128,14 @@ QString ProjectFolder::read(const QString& path) const
 
 bool ProjectFolder::download(const QString& url, const QString& destDir, const QString& destName) const
 {
-    const QString target = resolved(destDir) + QLatin1Char('/') + destName;
-    const QString partial = target + QStringLiteral(".part");
     m_dir.mkpath(resolved(destDir));
-    QFile file(partial);
-    if (!file.open(QIODevice::WriteOnly)) {
-        qCDebug(lcApi) << "can't open output file" << target;
+    AtomicFile file(resolved(destDir) + QLatin1Char('/') + destName);
+    if (!file.open()) {
+        qCDebug(lcApi) << "can't open output file" << file.target();
         return false;
     }
     Webfile transfer(url, {}, nullptr);
-    const bool complete = transfer.get(&file) && file.flush();
-    file.close();
-    if (complete && replaceFile(partial, target))
-        return true;
-    QFile::remove(partial);
-    return false;
+    return transfer.get(&file.device()) && file.commit();
 }
 
 QStringList ProjectFolder::sources() const

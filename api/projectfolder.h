@@ -44,15 +44,16 @@ public:
     /// without suffix keeps the dot; "" on failure.
     QString copyToDir(const QString& src, const QString& destDir) const;
 
-    /// Puts `text` in place of the file, whole or not at all; makes its folder.
+    /// Puts `text` in place of the file, whole or not at all; makes its folder. A file that is not UTF-8, of
+    /// which read() has lost something, is kept beside it (keepOtherEncoding()).
     bool write(const QString& text, const QString& path) const;
     /// Appends `text` and a line end; makes the file's folder.
     bool append(const QString& text, const QString& path) const;
     /// The file's text; "" when it cannot be read or is larger than a text file may be.
     QString read(const QString& path) const;
 
-    /// Downloads `url` to `destDir`/`destName`. Blocks while events are processed; the file appears whole or
-    /// not at all.
+    /// Downloads `url` to `destDir`/`destName`. Blocks while events are processed, which may begin another
+    /// download of the same file; it appears whole, from one of them, or not at all.
     bool download(const QString& url, const QString& destDir, const QString& destName) const;
 
     /// File names of the project's .qml, .txt and .js files, unsorted.

@@ -19,6 +19,11 @@ void makeFolder(const QString& path)
         qCWarning(lcApi) << "The workspace folder" << path << "cannot be made";
 }
 
+QString stillsFolder(const QString& root)
+{
+    return root + QStringLiteral("/Stills");
+}
+
 // An empty name or one with a path in it would reach beyond one project.
 bool isFolderName(const QString& name)
 {
@@ -41,6 +46,7 @@ Workspace::Workspace(const QString& root)
 {
     makeFolder(workDirectory());
     makeFolder(shareFolder());
+    makeFolder(stillsFolder(m_root));
 }
 
 QString Workspace::defaultRoot()
@@ -60,10 +66,21 @@ QString Workspace::shareFolder() const
     return m_root + QStringLiteral("/ShareFolder");
 }
 
+QString Workspace::stillOf(const QString& name) const
+{
+    return isFolderName(name) ? stillsFolder(m_root) + QLatin1Char('/') + name + QStringLiteral(".jpg") : QString();
+}
+
 QStringList Workspace::listProjects()
 {
     m_projects = QDir(workDirectory()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     return m_projects;
+}
+
+void Workspace::addToCache(const QString& name)
+{
+    if (!m_projects.contains(name))
+        m_projects.append(name);
 }
 
 bool Workspace::create(const QString& name)
@@ -74,10 +91,16 @@ bool Workspace::create(const QString& name)
 bool Workspace::remove(const QString& name)
 {
     m_projects.removeOne(name);
-    return isFolderName(name) && removeFolder(workDirectory() + QLatin1Char('/') + name);
+    if (!isFolderName(name))
+        return false;
+    QFile::remove(stillOf(name));
+    return removeFolder(workDirectory() + QLatin1Char('/') + name);
 }
 
 bool Workspace::rename(const QString& oldName, const QString& newName)
 {
-    return isFolderName(oldName) && isFolderName(newName) && QDir(workDirectory()).rename(oldName, newName);
+    if (!isFolderName(oldName) || !isFolderName(newName) || !QDir(workDirectory()).rename(oldName, newName))
+        return false;
+    QFile::rename(stillOf(oldName), stillOf(newName));
+    return true;
 }

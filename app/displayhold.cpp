@@ -60,6 +60,16 @@ void letInherit(xcb_connection_t* connection)
     qputenv(inheritedConnection, QByteArray::number(file));
 }
 
+// Leaves the server's end open as long as a process that inherited it lives: xcb_disconnect() would shut it
+// down for both, before the other has a connection of its own.
+void letGo(xcb_connection_t* connection)
+{
+    const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
+    dup2(nothing, xcb_get_file_descriptor(connection));
+    close(nothing);
+    xcb_disconnect(connection);
+}
+
 } // namespace
 
 DisplayHold::DisplayHold()
@@ -79,5 +89,5 @@ DisplayHold::~DisplayHold()
     if (!m_connection)
         return;
     qunsetenv(inheritedConnection);
-    xcb_disconnect(m_connection);
+    letGo(m_connection);
 }

@@ -3,12 +3,17 @@
 
 #include "app/nativetypes.h"
 
+#include "api/exports.h"
+#include "api/imports.h"
+#include "api/projectstill.h"
+#include "api/textfile.h"
 #include "app/livedocument.h"
 #include "cloud/deployment.h"
 #include "qmldoc/documentfaults.h"
 #include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
 #include "quick/live/snapper.h"
+#include "quick/picture/boundedimage.h"
 #include "quick/video/transparentvideo.h"
 
 #include <QQmlEngine>
@@ -19,6 +24,15 @@ bool registerOnce(const Deployment& deployment)
 {
     qmlRegisterType<TransparentVideo>("Nuvex.Native", 1, 0, "TransparentVideo");
     qmlRegisterType<SyntaxHighlighter>("Nuvex.Native", 1, 0, "QMLSyntaxHighlighter");
+    // With what Image has learned in its versions.
+    qmlRegisterRevision<QQuickItem, 15>("Nuvex.Native", 1, 1);
+    qmlRegisterRevision<QQuickImageBase, 15>("Nuvex.Native", 1, 1);
+    qmlRegisterRevision<QQuickImage, 15>("Nuvex.Native", 1, 1);
+    qmlRegisterType<BoundedImage>("Nuvex.Native", 1, 1, "BoundedImage");
+    qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
+    qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
+    qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
+    qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");
     qmlRegisterType<Snapper>("Nuvex.Native", 1, 1, "Snapper");

@@ -5,7 +5,7 @@
 
 struct Deployment;
 
-/// Registers the program's native QML types ("Nuvex.Native": 1.0 for documents, 1.1 adds what only the
-/// program's own pages use) and the singleton Deployment ("Nuvex.Deployment" 1.0), which shows
-/// `deployment`. Once a process; further calls do nothing.
+/// Registers the program's native QML types ("Nuvex.Native": 1.0 for documents, 1.1 for the program's own
+/// pages) and the singleton Deployment ("Nuvex.Deployment" 1.0), which shows `deployment`. Once a process;
+/// further calls do nothing.
 void registerNativeTypes(const Deployment& deployment);

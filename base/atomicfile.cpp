@@ -3,101 +3,137 @@
 
 #include "base/atomicfile.h"
 
+#include "base/filelock.h"
+#include "base/jobcontrol.h"
 #include "base/logging.h"
+#include "base/sync.h"
 
-#include <QCoreApplication>
-#include <QFile>
+#include <QDirIterator>
 #include <QFileInfo>
+#include <QRandomGenerator>
+#include <QRegularExpression>
 
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
-bool fail(const char* action, const QString& path, const char* reason)
+bool fail(const char* action, const QString& path, const QString& reason)
 {
     qCWarning(lcBase) << "Cannot" << action << path << "-" << reason;
     return false;
 }
 
-bool syncPath(const QString& path)
+QString resolvedTarget(const QString& path)
 {
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    const bool synced = ::fsync(fd) == 0;
-    const int error = errno;
-    ::close(fd);
-    errno = error;
-    return synced;
+    const QFileInfo info(path);
+    return info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
 }
 
-// Creates `file` under a name that nobody uses; a crashed run with the same process id may have left some.
-bool createBeside(QFile& file, const QString& path)
+// The new name is on the disk once its folder is; the file is in place all the same.
+Outcome rename(const QString& from, const QString& to)
 {
-    constexpr int attempts = 100;
-    for (int i = 0; i < attempts; ++i) {
-        file.setFileName(temporaryPathBeside(path));
-        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-            return true;
-        if (!file.exists())
-            break;
-    }
-    return fail("write beside", path, qPrintable(file.errorString()));
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        return Outcome::failure(qt_error_string(errno));
+    const QString folder = QFileInfo(to).path();
+    if (!syncPath(folder))
+        qCWarning(lcBase) << "Cannot sync the folder" << folder << "-" << qt_error_string(errno);
+    return Outcome::success();
 }
 
-bool fill(QFile& file, const QByteArray& bytes)
+Outcome writeAll(AtomicFile& file, const QByteArray& bytes)
 {
-    const bool written = file.write(bytes) == bytes.size() && file.flush();
-    if (!written)
-        fail("write all of", file.fileName(), std::strerror(errno));
-    file.close();
-    return written;
+    const Outcome opened = file.open();
+    if (!opened)
+        return opened;
+    if (file.device().write(bytes) != bytes.size()) // a short write is no error to QFile
+        return Outcome::failure(qt_error_string(errno));
+    return file.commit();
 }
 
 } // namespace
 
-QString temporaryPathBeside(const QString& path)
+AtomicFile::AtomicFile(const QString& path)
+    : m_target(resolvedTarget(path))
+    , m_file(temporaryPathBeside(m_target))
 {
-    static std::atomic_uint counter{0};
-    const QFileInfo info(path);
-    return QStringLiteral("%1/.%2.%3-%4.tmp")
-        .arg(info.path(), info.fileName().left(64))
-        .arg(QCoreApplication::applicationPid())
-        .arg(++counter);
+}
+
+AtomicFile::~AtomicFile()
+{
+    if (m_file.isOpen()) // by its name: a device that cannot write its last bytes does not remove its file
+        QFile::remove(m_file.fileName());
+}
+
+Outcome AtomicFile::open()
+{
+    const QFileInfo old(m_target);
+    if (old.exists() && !(old.isFile() && old.isWritable()))
+        return Outcome::failure(QStringLiteral("not a writable file"));
+    do {
+        m_file.close();
+        if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return Outcome::failure(m_file.errorString());
+    } while (!lockOwn(m_file.handle(), m_file.fileName()));
+    if (old.exists())
+        m_file.setPermissions(old.permissions());
+    return Outcome::success();
+}
+
+Outcome AtomicFile::commit()
+{
+    if (!m_file.flush() || m_file.error() != QFileDevice::NoError)
+        return Outcome::failure(m_file.errorString());
+    if (::fsync(m_file.handle()) != 0)
+        return Outcome::failure(qt_error_string(errno));
+    const Outcome renamed = rename(m_file.fileName(), m_target);
+    if (renamed)
+        m_file.close();
+    return renamed;
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes)
 {
-    const QFileInfo info(path);
-    const QString target = info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
-    const QFileInfo old(target);
-    if (old.exists() && !(old.isFile() && old.isWritable()))
-        return fail("write", target, "not a writable file");
-    QFile file;
-    if (!createBeside(file, target))
-        return false;
-    if (old.exists())
-        file.setPermissions(old.permissions());
-    if (fill(file, bytes) && replaceFile(file.fileName(), target))
-        return true;
-    file.remove();
-    return false;
+    AtomicFile file(path);
+    const Outcome outcome = writeAll(file, bytes);
+    return outcome || fail("write", file.target(), outcome.reason());
 }
 
 bool replaceFile(const QString& from, const QString& to)
 {
     if (!syncPath(from))
-        return fail("sync", from, std::strerror(errno));
-    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
-        return fail("replace", to, std::strerror(errno));
-    const QString folder = QFileInfo(to).path();
-    if (!syncPath(folder))
-        qCWarning(lcBase) << "Cannot sync the folder" << folder << "-" << std::strerror(errno);
-    return true;
+        return fail("sync", from, qt_error_string(errno));
+    const Outcome renamed = rename(from, to);
+    return renamed || fail("replace", to, renamed.reason());
+}
+
+QString temporaryPathBeside(const QString& path)
+{
+    constexpr int digits = 16;
+    constexpr int hexadecimal = 16;
+    constexpr int nameLength = 64; // leaves room below the file system's bound
+    const QFileInfo info(path);
+    return QStringLiteral("%1/.%2.%3.tmp")
+        .arg(info.path(), info.fileName().left(nameLength))
+        .arg(QRandomGenerator::system()->generate64(), digits, hexadecimal, QLatin1Char('0'));
+}
+
+void removeAbandonedFile(const QString& path)
+{
+    static const QRegularExpression ownName(QStringLiteral("/\\.[^/]+\\.[0-9a-f]{16}\\.tmp$"));
+    QFile file(path);
+    // Removed by its name while it is open: closing it would free the lock.
+    if (path.contains(ownName) && file.open(QIODevice::ReadOnly) && lockAbandoned(file.handle()) &&
+        !QFile::remove(path))
+        fail("remove", path, qt_error_string(errno));
+}
+
+void removeAbandonedFiles(const QString& folder, const JobControl& control)
+{
+    QDirIterator files(folder, {QStringLiteral(".*.tmp")}, QDir::Files | QDir::Hidden | QDir::NoSymLinks,
+                       QDirIterator::Subdirectories);
+    while (!control.isCancelled() && files.hasNext())
+        removeAbandonedFile(files.next());
 }

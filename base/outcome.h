@@ -5,26 +5,31 @@
 
 #include <QString>
 
-/// How an operation ended: it succeeded, or it failed for a reason that can be told. A value.
+/// How an operation ended: it succeeded, it failed for a reason that can be told, or it stopped because it
+/// was asked to. A value.
 class [[nodiscard]] Outcome
 {
 public:
-    static Outcome success() { return {}; }
+    static Outcome success() { return Outcome(End::Success); }
     /// `reason` is a short text for the log and for users, without a full stop.
-    static Outcome failure(const QString& reason) { return Outcome(reason); }
+    static Outcome failure(const QString& reason) { return Outcome(End::Failure, reason); }
+    static Outcome cancelled() { return Outcome(End::Cancelled); }
 
-    explicit operator bool() const { return m_succeeded; }
-    /// Empty after a success.
+    /// Whether it succeeded.
+    explicit operator bool() const { return m_end == End::Success; }
+    bool isCancelled() const { return m_end == End::Cancelled; }
+    /// Empty unless it failed.
     QString reason() const { return m_reason; }
 
 private:
-    Outcome() = default;
-    explicit Outcome(const QString& reason)
-        : m_succeeded(false)
+    enum class End { Success, Failure, Cancelled };
+
+    explicit Outcome(End end, const QString& reason = {})
+        : m_end(end)
         , m_reason(reason)
     {
     }
 
-    bool m_succeeded = true;
+    End m_end;
     QString m_reason;
 };

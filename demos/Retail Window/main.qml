@@ -16,7 +16,7 @@ Rectangle {
         width: 1080
         height: 1920
         color: "#3b1219"
-        transType: "fade"
+        transType: "stagger"
         transTime: 1600
 
         Slide {

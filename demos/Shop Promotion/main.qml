@@ -17,7 +17,7 @@ Rectangle {
         width: 1920
         height: 976
         color: "#f4ede3"
-        transType: "fade"
+        transType: "stagger"
         transTime: 1200
 
         Slide {

@@ -62,7 +62,7 @@ Rectangle {
         width: 1056
         height: 760
         color: "#10192e"
-        transType: "fade"
+        transType: "stagger"
         transTime: 800
         schedules: [
             { name: "Day", slides: [0, 1], begin: "04:45", end: "00:30" },
@@ -890,7 +890,7 @@ Rectangle {
         width: 1920
         height: 128
         color: "#19264a"
-        transType: "fade"
+        transType: "stagger"
         transTime: 600
 
         Slide {

@@ -24,15 +24,15 @@ Item {
         }
         CheckRow {
             name: "lightMode"
-            label: qsTr("Light face")
+            label: qsTr("Light dial")
         }
         CheckRow {
             name: "showSeconds"
-            label: qsTr("Shows seconds")
+            label: qsTr("Seconds")
         }
         CheckRow {
             name: "running"
-            label: qsTr("Runs")
+            label: qsTr("Running")
         }
         PlaceSection {}
     }

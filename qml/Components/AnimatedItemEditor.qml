@@ -20,7 +20,7 @@ Item {
 
         ChoiceRow {
             name: "motion"
-            label: qsTr("Movement")
+            label: qsTr("Animation")
             choices: ["float", "sway", "swing", "pulse", "spin", "turn", "shake"]
                 .map(name => ({ text: Values.words(name), is: name }))
         }
@@ -31,11 +31,11 @@ Item {
         }
         TimeRow {
             name: "time"
-            label: qsTr("One round")
+            label: qsTr("Duration")
         }
         CheckRow {
             name: "running"
-            label: qsTr("Runs")
+            label: qsTr("Running")
         }
         PlateSection {}
         PlaceSection {}

@@ -24,7 +24,7 @@ Item {
         }
         ChoiceRow {
             name: "type"
-            label: qsTr("Kind")
+            label: qsTr("Style")
             choices: [
                 { text: qsTr("Default"), is: "default" },
                 { text: qsTr("Primary"), is: "primary" },
@@ -53,7 +53,7 @@ Item {
         }
         CodeRow {
             name: "onClicked"
-            label: qsTr("When it is pressed")
+            label: qsTr("On click")
         }
         PlaceSection {}
     }

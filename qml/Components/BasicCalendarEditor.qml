@@ -22,7 +22,7 @@ Item {
         }
         ColorRow {
             name: "backColor"
-            label: qsTr("Ground")
+            label: qsTr("Background")
         }
         ColorRow {
             name: "markColor"

@@ -3,12 +3,12 @@
 import QtQuick 2.15
 import "private"
 import "private/picture"
+import "private/picture/media.js" as Media
 
-/// A picture. While its file is missing or broken it shows a quiet placeholder; it comes back with the file.
-///
-/// The properties source, fillMode and status stand before those of Image, which itself stays empty: a Picture inside
-/// does the work, so that the pixels can go while the slide is absent, and come, without touching the source.
-Image {
+/// A picture: Image with all its properties, which comes back with its file and gives its pixels up while its slide is
+/// absent (see private/picture/Picture.qml). The property source stands before that of Image, so that the pixels can
+/// come and go without it being touched.
+Picture {
     id: root
 
     property int element: -1; function evaluate(str) {eval(str);}
@@ -22,22 +22,10 @@ Image {
 }"
 
     property url source: "qrc:///Nuvex/Components/icons/noImage.png"
-    property int fillMode: Image.PreserveAspectFit
-    readonly property int status: picture.status
 
-    width: picture.naturalWidth
-    height: picture.naturalHeight
+    address: Media.address(source)
+    fillMode: Image.PreserveAspectFit
     Component.onCompleted: editor = Qt.createComponent("BasicImageEditor.qml")
-
-    Picture {
-        id: picture
-        anchors.fill: parent
-        source: root.source
-        fillMode: root.fillMode
-        decodeSize: root.sourceSize
-        mirror: root.mirror
-        cache: root.cache
-    }
 
     Component {
         id: preview

@@ -31,7 +31,7 @@ Item {
         }
         ChoiceRow {
             name: "horizontalAlignment"
-            label: qsTr("Aligned")
+            label: qsTr("Alignment")
             choices: [
                 { text: qsTr("Left"), is: Text.AlignLeft, code: "Text.AlignLeft" },
                 { text: qsTr("Centre"), is: Text.AlignHCenter, code: "Text.AlignHCenter" },
@@ -40,7 +40,7 @@ Item {
         }
         CheckRow {
             name: "wordWrap"
-            label: qsTr("Wraps")
+            label: qsTr("Word wrap")
         }
         PlaceSection {}
     }

@@ -18,7 +18,6 @@ Video {
     width: 480
     height: 270
     source: ''
-    loops: MediaPlayer.Infinite
 }"
 
     readonly property int presence: Presence.presenceOf(root)

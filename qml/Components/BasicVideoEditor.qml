@@ -28,7 +28,7 @@ Item {
         }
         ChoiceRow {
             name: "fillMode"
-            label: qsTr("Filling")
+            label: qsTr("Fill mode")
             choices: [
                 { text: qsTr("Whole video"), is: 1, code: root.namesMedia ? "VideoOutput.PreserveAspectFit" : "1" },
                 { text: qsTr("Fill, cut edges"), is: 2,
@@ -38,12 +38,11 @@ Item {
         }
         ChoiceRow {
             name: "loops"
-            label: qsTr("Plays")
+            label: qsTr("Repeat")
             choices: [
-                { text: qsTr("Again and again"), is: -1, code: root.namesMedia ? "MediaPlayer.Infinite" : "-1" },
+                { text: qsTr("Endlessly"), is: -1, code: root.namesMedia ? "MediaPlayer.Infinite" : "-1" },
                 { text: qsTr("Once"), is: 1, code: "1" },
-                { text: qsTr("Twice"), is: 2,
-                  code: "2" }
+                { text: qsTr("Twice"), is: 2, code: "2" }
             ]
         }
         CheckRow {

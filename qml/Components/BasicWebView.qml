@@ -60,8 +60,8 @@ Item {
     }
 
     Placeholder {
-        anchors.fill: parent
-        visible: !root.isLoaded
+        target: root
+        isNeeded: !root.isLoaded
         icon: "missingPage"
     }
 

@@ -31,7 +31,7 @@ Item {
         }
         TimeRow {
             name: "reloadTime"
-            label: qsTr("Loads again after")
+            label: qsTr("Reload every")
         }
         PlaceSection {}
     }

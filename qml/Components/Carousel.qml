@@ -66,6 +66,7 @@ Item {
         path: CarouselPath {
             width: Math.max(1, Math.min(20000, root.width))
             height: Math.max(1, Math.min(20000, root.height))
+            isOpen: Math.min(ring.count, ring.pathItemCount) === 2
         }
     }
 

@@ -29,13 +29,13 @@ Item {
         }
         NumberRow {
             name: "pathItemCount"
-            label: qsTr("On the ring")
+            label: qsTr("Visible pictures")
             from: 1
             to: 15
         }
         TimeRow {
             name: "showTime"
-            label: qsTr("Each in front")
+            label: qsTr("Duration")
         }
         PlaceSection {}
     }

@@ -4,11 +4,11 @@ import QtQuick 2.15
 import "private"
 import "private/menu"
 import "private/menu/entries.js" as Entries
-import "private/presence.js" as Presence
 import "private/menu/samples.js" as Samples
 
 /// A price list: title, and a line with name, price and details for each entry of the model (objects with the members
-/// name, price, details). When the list is longer than its place, it turns pages.
+/// name, price, details). A long name takes a second line; where that is not enough, the whole list stands in a smaller
+/// size. When the list is longer than its place, it turns pages.
 ListView {
     id: root
 
@@ -62,13 +62,20 @@ ListView {
     delegate: CartaLine {
         menu: root
         entry: Entries.of(model)
+        share: pages.share
+        most: pages.room
+        opacity: pages.has(index) ? pages.shade : 0
+        LayoutMirroring.enabled: pages.fromRight
+        LayoutMirroring.childrenInherit: true
+    }
+    footer: Item {
+        height: pages.tail
     }
     Component.onCompleted: editor = Qt.createComponent("CartaMenuEditor.qml")
 
-    PageTurner {
-        view: root
-        running: root.visible && root.pageTime > 0 && Presence.presenceOf(root) === Presence.shown
-        pageTime: root.pageTime
+    CartaPages {
+        id: pages
+        menu: root
     }
 
     // They only hold the fonts, so that a document can set one part of a font and keep the others.

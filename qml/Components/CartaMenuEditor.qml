@@ -37,11 +37,11 @@ Item {
         }
         TimeRow {
             name: "pageTime"
-            label: qsTr("A page stays")
+            label: qsTr("Page duration")
         }
         ColorRow {
             name: "backColor"
-            label: qsTr("Ground")
+            label: qsTr("Background")
         }
         Section {
             title: qsTr("Title")

@@ -78,7 +78,8 @@ Item {
         height: root.height
         visible: false
         sourceItem: video
-        samples: 2
+        // The frame fills the copy, so its edges need no second sample; a small video is enlarged only as it is keyed.
+        textureSize: Media.copySize(video.metaData.resolution, root)
     }
 
     ChromaKey {

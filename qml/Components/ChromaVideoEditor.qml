@@ -25,7 +25,7 @@ Item {
         }
         CheckRow {
             name: "autoPlay"
-            label: qsTr("Plays by itself")
+            label: qsTr("Autoplay")
         }
         Section {
             title: qsTr("Key")
@@ -37,7 +37,7 @@ Item {
             }
             SliderRow {
                 name: "a2"
-                label: qsTr("Green over rest")
+                label: qsTr("Threshold")
                 to: 10
             }
             SliderRow {
@@ -51,7 +51,7 @@ Item {
             }
             SliderRow {
                 name: "plus"
-                label: qsTr("Brighter by")
+                label: qsTr("Brightness")
                 from: -0.5
                 to: 0.5
             }

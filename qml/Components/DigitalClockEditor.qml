@@ -23,7 +23,7 @@ Item {
 
         ChoiceRow {
             name: "format"
-            label: qsTr("Shows")
+            label: qsTr("Display")
             choices: ["hh:mm", "hh:mm:ss", "h:mm AP", "dddd", "d MMMM", "d MMMM yyyy", "dddd, d MMMM", "dd.MM.yyyy"]
                 .map(format => ({ text: root.sample.toLocaleString(Qt.locale(), format), is: format }))
         }

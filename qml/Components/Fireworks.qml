@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Particles 2.15
 import "private"
 import "private/picture"
+import "private/picture/media.js" as Media
 import "private/presence.js" as Presence
 
 /// Fireworks: rockets rise from the lower edge and burst in changing colours.
@@ -81,7 +82,7 @@ Item {
 
     ParticlePicture {
         id: picture
-        source: root.source
+        address: Media.address(root.source)
     }
 
     Component {

@@ -42,7 +42,7 @@ Item {
         }
         TimeRow {
             name: "showTime"
-            label: qsTr("Each stays")
+            label: qsTr("Duration")
         }
         ServiceSection {
             name: "service"

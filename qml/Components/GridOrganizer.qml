@@ -6,9 +6,11 @@ import "private/show"
 import "private/menu/entries.js" as Entries
 import "private/presence.js" as Presence
 import "private/menu/samples.js" as Samples
+import "private/show/tiles.js" as Tiles
 
 /// A grid of pictures with names. The model has texts (addresses of pictures) or objects with the members image and
-/// name. Tiles fill the given size; when there are more entries than tiles, an animated grid turns pages.
+/// name. Tiles fill the given size, in the last row too; when there are more entries than tiles, an animated grid turns
+/// pages.
 Grid {
     id: root
 
@@ -42,11 +44,13 @@ Grid {
     readonly property real tileWidth: Math.max(0, (width - (across - 1) * spacing) / across)
     readonly property int fittingRows:
         rows > 0 ? rows : Math.max(1, Math.floor((height + spacing) / Math.max(1, tileWidth * 0.75 + spacing)))
-    readonly property int neededRows: Math.ceil(Math.min(Entries.count(model), 1000) / across)
-    readonly property int down: Math.max(1, Math.min(fittingRows, neededRows))
-    readonly property real tileHeight: Math.max(0, (height - (down - 1) * spacing) / down)
-    readonly property int pageSize: Math.min(200, across * down)
-    readonly property int pages: Math.max(1, Math.ceil(Entries.count(model) / pageSize))
+    readonly property int count: Entries.count(model)
+    readonly property int most: Math.min(200, across * fittingRows)
+    readonly property int pages: Math.max(1, Math.ceil(count / most))
+    /// Entries on each page: as many on the last one as on the others, or nearly.
+    readonly property int pageSize: animated ? Math.ceil(count / pages) : Math.min(count, most)
+    readonly property int shown: Math.max(0, Math.min(pageSize, count - page * pageSize))
+    readonly property int down: Math.max(1, Math.min(shown, Math.ceil(pageSize / across)))
 
     width: 840
     height: 480
@@ -63,14 +67,16 @@ Grid {
     }
 
     Repeater {
-        model: Math.min(root.pageSize, Entries.count(root.model))
+        model: root.pageSize
 
         GridTile {
             width: root.tileWidth
-            height: root.tileHeight
-            place: index
+            height: root.height / root.down
+            place: Tiles.placeOf(Math.min(index, root.shown - 1), root.shown, root.down, root.width, root.height,
+                                 root.spacing)
+            order: index
             enters: root.animated
-            entry: Entries.at(root.model, root.page * root.pageSize + index)
+            entry: Entries.at(root.model, index < root.shown ? root.page * root.pageSize + index : -1)
         }
     }
 

@@ -35,17 +35,17 @@ Item {
         }
         NumberRow {
             name: "spacing"
-            label: qsTr("Between")
+            label: qsTr("Spacing")
             to: 200
             suffix: " px"
         }
         CheckRow {
             name: "animated"
-            label: qsTr("Moves")
+            label: qsTr("Animated")
         }
         TimeRow {
             name: "pageTime"
-            label: qsTr("A page stays")
+            label: qsTr("Page duration")
         }
         PlaceSection {}
     }

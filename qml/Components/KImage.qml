@@ -3,10 +3,11 @@
 import QtQuick 2.15
 import "private"
 import "private/picture"
+import "private/picture/media.js" as Media
 import "private/presence.js" as Presence
 
 /// A picture under a slowly moving camera: it zooms from one scale to the other while drifting to a side, and back,
-/// towards another side each time. As in BasicImage, a Picture inside does the work and Image itself stays empty.
+/// towards another side each time. What moves is a Picture inside, which all of Image's properties stand for.
 Image {
     id: root
 
@@ -24,8 +25,25 @@ Image {
 }"
 
     property url source: "qrc:///Nuvex/Components/icons/noImage.png"
-    property int fillMode: Image.PreserveAspectCrop
-    readonly property int status: picture.status
+    property alias fillMode: picture.fillMode
+    property alias horizontalAlignment: picture.horizontalAlignment
+    property alias verticalAlignment: picture.verticalAlignment
+    property alias mirror: picture.mirror
+    property alias smooth: picture.smooth
+    property alias mipmap: picture.mipmap
+    property alias sourceSize: picture.sourceSize
+    property alias sourceClipRect: picture.sourceClipRect
+    property alias currentFrame: picture.currentFrame
+    readonly property alias frameCount: picture.frameCount
+    property alias cache: picture.cache
+    property alias asynchronous: picture.asynchronous
+    property alias autoTransform: picture.autoTransform
+    readonly property alias status: picture.status
+    readonly property alias progress: picture.progress
+    readonly property alias paintedWidth: picture.paintedWidth
+    readonly property alias paintedHeight: picture.paintedHeight
+    readonly property alias implicitWidth: picture.implicitWidth
+    readonly property alias implicitHeight: picture.implicitHeight
     /// Course of the movement, of Easing's types.
     property int easingType: Easing.InOutSine
     /// Whether the camera moves.
@@ -39,8 +57,8 @@ Image {
     readonly property bool onAir: visible && Presence.presenceOf(root) === Presence.shown
     readonly property bool moves: onAir && kenburnsEnable && kTime > 0
     /// How far the camera is on its way, 0 to 1.
-    property real progress: 0
-    readonly property real zoom: bounded(kScale0 + (kScale1 - kScale0) * progress)
+    property real travelled: 0
+    readonly property real zoom: bounded(kScale0 + (kScale1 - kScale0) * travelled)
     // The side that the camera drifts to, changed at the beginning of each way, where there is no room to drift.
     property int side: 0
     readonly property var sides: [[1, 1], [-1, -0.6], [-0.7, 1], [1, -1]]
@@ -52,11 +70,11 @@ Image {
 
     // How far the zoomed picture can go to a side without uncovering the ground.
     function drift(length, direction) {
-        return Math.max(0, zoom - 1) / 2 * length * progress * direction * 0.8;
+        return Math.max(0, zoom - 1) / 2 * length * travelled * direction * 0.8;
     }
 
-    width: picture.naturalWidth
-    height: picture.naturalHeight
+    width: implicitWidth
+    height: implicitHeight
     clip: true
     Component.onCompleted: editor = Qt.createComponent("KImageEditor.qml")
 
@@ -66,11 +84,8 @@ Image {
         y: root.drift(height, root.way[1])
         width: root.width
         height: root.height
-        source: root.source
-        fillMode: root.fillMode
-        decodeSize: root.sourceSize
-        mirror: root.mirror
-        cache: root.cache
+        address: Media.address(root.source)
+        fillMode: Image.PreserveAspectCrop
         scale: root.zoom
     }
 
@@ -80,7 +95,7 @@ Image {
 
         NumberAnimation {
             target: root
-            property: "progress"
+            property: "travelled"
             from: 0
             to: 1
             duration: Math.max(1, root.kTime)
@@ -88,7 +103,7 @@ Image {
         }
         NumberAnimation {
             target: root
-            property: "progress"
+            property: "travelled"
             to: 0
             duration: Math.max(1, root.kTime)
             easing.type: root.easingType

@@ -28,31 +28,31 @@ Item {
 
             CheckRow {
                 name: "kenburnsEnable"
-                label: qsTr("Moves")
+                label: qsTr("Moving")
             }
             SliderRow {
                 name: "kScale0"
-                label: qsTr("From scale")
+                label: qsTr("Start scale")
                 from: 0.5
                 to: 4
             }
             SliderRow {
                 name: "kScale1"
-                label: qsTr("To scale")
+                label: qsTr("End scale")
                 from: 0.5
                 to: 4
             }
             TimeRow {
                 name: "kTime"
-                label: qsTr("One way takes")
+                label: qsTr("Duration")
             }
             ChoiceRow {
                 name: "easingType"
-                label: qsTr("Course")
+                label: qsTr("Easing")
                 choices: [
-                    { text: qsTr("Gentle"), is: Easing.InOutSine, code: "Easing.InOutSine" },
-                    { text: qsTr("Even"), is: Easing.Linear, code: "Easing.Linear" },
-                    { text: qsTr("Marked"), is: Easing.InOutCubic, code: "Easing.InOutCubic" },
+                    { text: qsTr("Smooth"), is: Easing.InOutSine, code: "Easing.InOutSine" },
+                    { text: qsTr("Linear"), is: Easing.Linear, code: "Easing.Linear" },
+                    { text: qsTr("Strong"), is: Easing.InOutCubic, code: "Easing.InOutCubic" },
                     { text: qsTr("Slows down"), is: Easing.OutQuad, code: "Easing.OutQuad" },
                     { text: qsTr("Speeds up"), is: Easing.InQuad, code: "Easing.InQuad" }
                 ]

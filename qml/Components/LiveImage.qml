@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import "private"
 import "private/picture"
+import "private/picture/media.js" as Media
 
 /// A picture that enters and exits: it rises into its place from a slight zoom, on a ground of its own.
 Item {
@@ -51,7 +52,7 @@ Item {
 
         Picture {
             anchors.fill: parent
-            source: root.source
+            address: Media.address(root.source)
             fillMode: root.fillMode
             scale: 1.12 - 0.12 * appearance.progress
         }

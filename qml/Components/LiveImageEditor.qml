@@ -25,7 +25,7 @@ Item {
         FillModeRow {}
         ColorRow {
             name: "backColor"
-            label: qsTr("Ground")
+            label: qsTr("Background")
         }
         AppearanceSection {}
         PlaceSection {}

@@ -31,7 +31,7 @@ Item {
         }
         ChoiceRow {
             name: "horizontalAlignment"
-            label: qsTr("Aligned")
+            label: qsTr("Alignment")
             choices: [
                 { text: qsTr("Left"), is: Text.AlignLeft, code: "Text.AlignLeft" },
                 { text: qsTr("Centre"), is: Text.AlignHCenter, code: "Text.AlignHCenter" },
@@ -39,11 +39,11 @@ Item {
             ]
         }
         Section {
-            title: qsTr("Plate")
+            title: qsTr("Background")
 
             ColorRow {
                 name: "backColor"
-                label: qsTr("Ground")
+                label: qsTr("Colour")
             }
             ColorRow {
                 name: "borderColor"

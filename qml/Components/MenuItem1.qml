@@ -40,6 +40,15 @@ Rectangle {
     radius: 16
     Component.onCompleted: editor = Qt.createComponent("MenuItem1Editor.qml")
 
+    // The price in full size: the name has the room that this leaves.
+    TextMetrics {
+        id: fullPrice
+        font.family: "Manrope"
+        font.bold: true
+        font.pixelSize: Math.max(1, Math.round(32 * root.unit))
+        text: root.price
+    }
+
     RoundedPicture {
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: lines.top }
         anchors.margins: 14 * root.unit
@@ -52,28 +61,29 @@ Rectangle {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         anchors.margins: 22 * root.unit
         spacing: 4 * root.unit
+        LayoutMirroring.enabled: title.isRightToLeft
+        LayoutMirroring.childrenInherit: true
 
         Item {
             width: parent.width
             height: title.height
 
-            MenuText {
+            MenuName {
                 id: title
-                width: parent.width - cost.width - 16 * root.unit
-                height: 44 * root.unit
+                anchors.left: parent.left
+                line: parent.width - 16 * root.unit
+                beside: fullPrice.width
+                face: fullPrice.font
                 text: root.name
                 color: root.nameColor
-                size: 32 * root.unit
-                isBold: true
             }
 
             MenuText {
                 id: cost
-                anchors.right: parent.right
-                anchors.baseline: title.baseline
+                anchors { right: parent.right; baseline: title.baseline }
                 text: root.price
                 color: root.priceColor
-                size: 32 * root.unit
+                size: 32 * root.unit * title.share
                 isBold: true
             }
         }
@@ -86,6 +96,7 @@ Rectangle {
             fontSizeMode: Text.FixedSize
             maximumLineCount: 2
             wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignLeft
         }
     }
 

@@ -41,54 +41,64 @@ Rectangle {
     radius: 16
     Component.onCompleted: editor = Qt.createComponent("MenuItem2Editor.qml")
 
-    RoundedPicture {
-        id: picture
-        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
-        anchors.margins: 14 * root.unit
-        width: Math.min(height * 1.15, root.width * 0.4)
-        radius: 10 * root.unit
-        source: root.image
-    }
+    // Where the name reads from right to left, the card does.
+    Item {
+        anchors.fill: parent
+        LayoutMirroring.enabled: title.isRightToLeft
+        LayoutMirroring.childrenInherit: true
 
-    MenuText {
-        id: title
-        anchors { left: picture.right; right: parent.right; top: parent.top }
-        anchors.leftMargin: 26 * root.unit
-        anchors.rightMargin: 26 * root.unit
-        anchors.topMargin: 24 * root.unit
-        text: root.name
-        color: root.nameColor
-        size: 36 * root.unit
-        isBold: true
-    }
+        RoundedPicture {
+            id: picture
+            anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+            anchors.margins: 14 * root.unit
+            width: Math.min(height * 1.15, root.width * 0.4)
+            radius: 10 * root.unit
+            source: root.image
+        }
 
-    MenuText {
-        anchors { left: title.left; right: title.right; top: title.bottom }
-        anchors.topMargin: 6 * root.unit
-        text: root.about
-        color: root.aboutColor
-        size: 22 * root.unit
-        fontSizeMode: Text.FixedSize
-        maximumLineCount: 2
-        wrapMode: Text.WordWrap
-    }
+        MenuName {
+            id: title
+            anchors { left: picture.right; top: parent.top }
+            anchors.leftMargin: 26 * root.unit
+            anchors.topMargin: 24 * root.unit
+            line: root.width - picture.width - 66 * root.unit
+            room: root.height - 98 * root.unit
+            face.family: "Manrope"
+            face.bold: true
+            face.pixelSize: Math.max(1, Math.round(36 * root.unit))
+            text: root.name
+            color: root.nameColor
+        }
 
-    MenuText {
-        id: cost
-        anchors { right: title.right; bottom: parent.bottom }
-        anchors.bottomMargin: 22 * root.unit
-        text: root.price
-        color: root.priceColor
-        size: 38 * root.unit
-        isBold: true
-    }
+        MenuText {
+            anchors { left: title.left; right: title.right; top: title.bottom; bottom: cost.top }
+            anchors.topMargin: 6 * root.unit
+            text: root.about
+            color: root.aboutColor
+            size: 22 * root.unit
+            fontSizeMode: Text.FixedSize
+            maximumLineCount: 2
+            wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignLeft
+        }
 
-    MenuText {
-        anchors { left: title.left; right: cost.left; baseline: cost.baseline }
-        anchors.rightMargin: 16 * root.unit
-        text: root.calories
-        color: root.aboutColor
-        size: 20 * root.unit
+        MenuText {
+            id: cost
+            anchors { right: title.right; bottom: parent.bottom }
+            anchors.bottomMargin: 22 * root.unit
+            text: root.price
+            color: root.priceColor
+            size: 38 * root.unit * title.share
+            isBold: true
+        }
+
+        MenuText {
+            anchors { left: title.left; right: cost.left; baseline: cost.baseline }
+            anchors.rightMargin: 16 * root.unit
+            text: root.calories
+            color: root.aboutColor
+            size: 20 * root.unit
+        }
     }
 
     Component {

@@ -24,7 +24,7 @@ Item {
         }
         TextRow {
             name: "about"
-            label: qsTr("About")
+            label: qsTr("Description")
         }
         TextRow {
             name: "calories"
@@ -47,7 +47,7 @@ Item {
             }
             ColorRow {
                 name: "aboutColor"
-                label: qsTr("About")
+                label: qsTr("Description")
             }
             ColorRow {
                 name: "priceColor"

@@ -46,7 +46,7 @@ Rectangle {
         id: ring
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top }
         anchors.topMargin: 20 * root.unit
-        width: 284 * root.unit
+        width: Math.max(0, Math.min(284 * root.unit, root.height - lines.height - 44 * root.unit))
         height: width
         radius: width / 2
         color: "transparent"
@@ -69,31 +69,34 @@ Rectangle {
         visible: root.price !== ""
         color: root.sealColor
 
-        MenuText {
-            anchors.fill: parent
-            anchors.margins: 10 * root.unit
+        MenuName {
+            anchors.centerIn: parent
+            line: parent.width - 20 * root.unit
+            room: parent.height - 28 * root.unit
+            face.family: "Manrope"
+            face.bold: true
+            face.pixelSize: Math.max(1, Math.round(30 * root.unit))
             text: root.price
             color: root.priceColor
-            size: 30 * root.unit
-            isBold: true
             horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
         }
     }
 
     Column {
+        id: lines
         anchors { left: parent.left; right: parent.right; top: ring.bottom }
         anchors.topMargin: 12 * root.unit
         anchors.leftMargin: 16 * root.unit
         anchors.rightMargin: 16 * root.unit
         spacing: 2 * root.unit
 
-        MenuText {
-            width: parent.width
+        MenuName {
+            line: parent.width
+            face.family: "Manrope"
+            face.bold: true
+            face.pixelSize: Math.max(1, Math.round(34 * root.unit))
             text: root.name
             color: root.nameColor
-            size: 34 * root.unit
-            isBold: true
             horizontalAlignment: Text.AlignHCenter
         }
 
@@ -102,6 +105,9 @@ Rectangle {
             text: root.about
             color: root.aboutColor
             size: 20 * root.unit
+            fontSizeMode: Text.FixedSize
+            maximumLineCount: 2
+            wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
         }
     }

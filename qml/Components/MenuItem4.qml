@@ -42,78 +42,101 @@ Rectangle {
     radius: 12
     Component.onCompleted: editor = Qt.createComponent("MenuItem4Editor.qml")
 
-    Row {
-        id: head
-        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
-        anchors.leftMargin: 18 * root.unit
-        spacing: 18 * root.unit
+    // The price in full size: the name has the room that this leaves.
+    TextMetrics {
+        id: fullPrice
+        font.family: "Manrope"
+        font.bold: true
+        font.pixelSize: Math.max(1, Math.round(36 * root.unit))
+        text: root.price
+    }
 
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            width: 52 * root.unit
-            height: width
-            radius: width / 2
-            visible: root.number !== ""
-            color: root.priceColor
+    // Where the name reads from right to left, the card does.
+    Item {
+        anchors.fill: parent
+        LayoutMirroring.enabled: title.isRightToLeft
+        LayoutMirroring.childrenInherit: true
 
-            MenuText {
-                anchors.fill: parent
-                anchors.margins: 6 * root.unit
-                text: root.number
-                color: root.numberColor
-                size: 28 * root.unit
-                isBold: true
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+        Row {
+            id: head
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+            anchors.leftMargin: 18 * root.unit
+            spacing: 18 * root.unit
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 52 * root.unit
+                height: width
+                radius: width / 2
+                visible: root.number !== ""
+                color: root.priceColor
+
+                MenuText {
+                    anchors.fill: parent
+                    anchors.margins: 6 * root.unit
+                    text: root.number
+                    color: root.numberColor
+                    size: 28 * root.unit
+                    isBold: true
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                }
+            }
+
+            RoundedPicture {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 76 * root.unit
+                height: width
+                radius: width / 2
+                visible: root.image != ""
+                source: root.image
             }
         }
 
-        RoundedPicture {
-            anchors.verticalCenter: parent.verticalCenter
-            width: 76 * root.unit
-            height: width
-            radius: width / 2
-            visible: root.image != ""
-            source: root.image
-        }
-    }
+        Column {
+            id: lines
+            anchors { left: head.right; verticalCenter: parent.verticalCenter }
+            anchors.leftMargin: 20 * root.unit
 
-    Column {
-        id: lines
-        anchors { left: head.right; verticalCenter: parent.verticalCenter }
-        anchors.leftMargin: 20 * root.unit
+            MenuName {
+                id: title
+                line: root.width - head.width - 84 * root.unit
+                beside: fullPrice.width
+                room: root.height - (root.calories === "" ? 12 : 40) * root.unit
+                face.family: "Manrope"
+                face.bold: true
+                face.pixelSize: Math.max(1, Math.round(32 * root.unit))
+                text: root.name
+                color: root.nameColor
+            }
+
+            MenuText {
+                id: calories
+                width: title.width
+                text: root.calories
+                color: root.caloriesColor
+                size: 19 * root.unit
+                horizontalAlignment: Text.AlignLeft
+            }
+        }
+
+        Leader {
+            anchors { left: lines.left; right: cost.left; bottom: cost.bottom }
+            anchors.margins: 12 * root.unit
+            anchors.leftMargin: 12 * root.unit + Math.max(title.contentWidth, calories.contentWidth)
+            size: 32 * root.unit
+            color: root.caloriesColor
+        }
 
         MenuText {
-            id: title
-            width: Math.max(0, Math.min(implicitWidth, cost.x - lines.x - 60 * root.unit))
-            text: root.name
-            color: root.nameColor
-            size: 32 * root.unit
+            id: cost
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            anchors.rightMargin: 26 * root.unit
+            text: root.price
+            color: root.priceColor
+            size: 36 * root.unit * title.share
             isBold: true
         }
-
-        MenuText {
-            text: root.calories
-            color: root.caloriesColor
-            size: 19 * root.unit
-        }
-    }
-
-    Leader {
-        anchors { left: lines.right; right: cost.left; bottom: cost.bottom }
-        anchors.margins: 12 * root.unit
-        size: 32 * root.unit
-        color: root.caloriesColor
-    }
-
-    MenuText {
-        id: cost
-        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-        anchors.rightMargin: 26 * root.unit
-        text: root.price
-        color: root.priceColor
-        size: 36 * root.unit
-        isBold: true
     }
 
     Component {

@@ -43,14 +43,14 @@ Item {
         }
         TimeRow {
             name: "showTime"
-            label: qsTr("Each entry")
+            label: qsTr("Duration")
         }
         Section {
             title: qsTr("Colours")
 
             ColorRow {
                 name: "backColor"
-                label: qsTr("Ground")
+                label: qsTr("Background")
             }
             ColorRow {
                 name: "titleColor"

@@ -4,6 +4,7 @@ import QtQuick 2.15
 import QtQuick.Particles 2.15
 import "private"
 import "private/picture"
+import "private/picture/media.js" as Media
 import "private/presence.js" as Presence
 
 /// A stream of particles: glowing dots that rise, or any small picture in any direction.
@@ -76,7 +77,7 @@ Item {
 
     ParticlePicture {
         id: picture
-        source: root.source
+        address: Media.address(root.source)
     }
 
     Component {

@@ -28,13 +28,13 @@ Item {
         }
         SliderRow {
             name: "emitRate"
-            label: qsTr("A second")
+            label: qsTr("Per second")
             to: 200
             decimals: 0
         }
         TimeRow {
             name: "lifeSpan"
-            label: qsTr("They live")
+            label: qsTr("Lifetime")
         }
         NumberRow {
             name: "size"

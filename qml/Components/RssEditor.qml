@@ -52,7 +52,7 @@ Item {
         }
         TimeRow {
             name: "showTime"
-            label: qsTr("A page stays")
+            label: qsTr("Page duration")
         }
         LocaleRow {
         }

@@ -21,7 +21,7 @@ Item {
 
         EntriesRow {
             name: "schedules"
-            label: qsTr("On at")
+            label: qsTr("Schedules")
             fields: [
                 { name: "name", label: qsTr("Name"), kind: "text" },
                 { name: "slide", label: qsTr("Slide"), kind: "number",

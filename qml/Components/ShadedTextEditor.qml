@@ -38,20 +38,20 @@ Item {
             }
             SliderRow {
                 name: "shadowItem.radius"
-                label: qsTr("Softness")
+                label: qsTr("Blur")
                 to: 48
                 decimals: 0
             }
             SliderRow {
                 name: "shadowItem.horizontalOffset"
-                label: qsTr("To the right")
+                label: qsTr("Horizontal offset")
                 from: -40
                 to: 40
                 decimals: 0
             }
             SliderRow {
                 name: "shadowItem.verticalOffset"
-                label: qsTr("Down")
+                label: qsTr("Vertical offset")
                 from: -40
                 to: 40
                 decimals: 0

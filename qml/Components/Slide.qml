@@ -20,8 +20,8 @@ Item {
     tagColor: '#3d8fd6'
 }"
 
-    /// By this a Slideshow knows its slides.
-    readonly property bool isSlide: true
+    /// By this a Slideshow knows its slides; without it the item is one that stays.
+    property bool isSlide: true
     /// How long the slide is shown, in milliseconds, from the start of its transition to the start of the next one.
     property int duration: 5000
     /// Marks the slide in the editor.
@@ -36,6 +36,8 @@ Item {
     property bool isGrouped: false
     property real reveal: 1
     property bool revealsDown: false
+    /// Set by the show during a transition: opacity of what stands before the slide's pictures.
+    property real front: 1
 
     width: parent ? parent.width : 640
     height: parent ? parent.height : 360
@@ -46,6 +48,11 @@ Item {
         down: root.revealsDown ? 1 : 0
     }
     Component.onCompleted: editor = Qt.createComponent("SlideEditor.qml")
+
+    SlideFront {
+        slide: root
+        shade: root.front
+    }
 
     EditorHint {
         target: root

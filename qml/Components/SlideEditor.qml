@@ -20,11 +20,11 @@ Item {
 
         TimeRow {
             name: "duration"
-            label: qsTr("Stays")
+            label: qsTr("Duration")
         }
         ColorRow {
             name: "tagColor"
-            label: qsTr("Mark")
+            label: qsTr("Tag colour")
         }
     }
 }

@@ -28,7 +28,8 @@ Rectangle {
     property int offsetTime: 0
     /// Whether the show turns its slides.
     property bool running: true
-    /// One of "cut", "fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover".
+    /// One of "cut", "fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover",
+    /// and "stagger" for slides with texts: these leave, the picture changes, and the next texts come.
     property string transType: "fade"
     /// Duration of a transition in milliseconds; 0 and less: a cut.
     property int transTime: 800

@@ -20,11 +20,11 @@ Item {
 
         TextRow {
             name: "phrase"
-            label: qsTr("Phrase")
+            label: qsTr("Search")
         }
         NumberRow {
             name: "limit"
-            label: qsTr("At most")
+            label: qsTr("Maximum")
             from: 1
             to: 50
         }
@@ -48,11 +48,11 @@ Item {
         }
         ColorRow {
             name: "backColor"
-            label: qsTr("Ground")
+            label: qsTr("Background")
         }
         TimeRow {
             name: "showTime"
-            label: qsTr("A page stays")
+            label: qsTr("Page duration")
         }
         LocaleRow {
         }

@@ -44,6 +44,8 @@ Rectangle {
     property string localeName: ""
 
     readonly property var current: client.weather ? client.weather.current : null
+    /// Name of the drawing; "" while nothing is known, and for a weather that has none.
+    readonly property string icon: current && showIcon ? Forecast.icon(current.code, current.isDay) : ""
     readonly property bool isTall: height > width * 0.75
     readonly property real measure: Math.max(1, isTall ? Math.min(width * 0.8, height * 0.62)
                                                       : Math.min(height, width * 0.48))
@@ -79,15 +81,13 @@ Rectangle {
             id: picture
             width: root.measure * 0.72
             height: width
-            visible: root.showIcon
-            opacity: root.current ? 1 : 0.4
+            visible: root.icon !== ""
             mipmap: true
-            source: "icons/" + (root.current ? Forecast.icon(root.current.code, root.current.isDay)
-                                             : "weatherFair") + ".png"
+            source: root.icon === "" ? "" : "icons/" + root.icon + ".png"
         }
 
         WeatherText {
-            room: root.width * 0.92 - (root.showIcon && !root.isTall ? picture.width + grid.spacing : 0)
+            room: root.width * 0.92 - (root.icon !== "" && !root.isTall ? picture.width + grid.spacing : 0)
             isCentred: root.isTall
             measure: root.measure
             color: root.textColor

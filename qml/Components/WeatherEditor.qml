@@ -42,11 +42,11 @@ Item {
         }
         CheckRow {
             name: "showIcon"
-            label: qsTr("Drawing")
+            label: qsTr("Icon")
         }
         CheckRow {
             name: "showDescription"
-            label: qsTr("In words")
+            label: qsTr("Description")
         }
         CheckRow {
             name: "fahrenheit"

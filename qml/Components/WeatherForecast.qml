@@ -80,6 +80,7 @@ Rectangle {
                 width: root.isVertical ? grid.width : grid.width / grid.count
                 height: root.isVertical ? grid.height / grid.count : grid.height
                 day: modelData
+                isAlone: client.weather === null
                 isRow: root.isVertical
                 color: root.textColor
                 pixelSize: root.textPixelSize

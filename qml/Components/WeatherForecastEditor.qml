@@ -44,7 +44,7 @@ Item {
         }
         CheckRow {
             name: "isVertical"
-            label: qsTr("Below each other")
+            label: qsTr("Vertical")
         }
         CheckRow {
             name: "fahrenheit"

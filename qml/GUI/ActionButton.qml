@@ -6,7 +6,7 @@ import "private"
 import "private/press.js" as Press
 
 /// A flat icon button for tool bars and page headers; with a text, a tile: a large icon above its caption.
-/// The tool tip names it where it has no text of its own.
+/// The tool tip names it where it has no text of its own. `growth` enlarges icon and caption.
 T.Button {
     id: root
 
@@ -14,6 +14,7 @@ T.Button {
     property string faIcon
     property string toolTip
     property bool busy: false
+    property real growth: 1
     // For dark ground.
     property bool onDark: false
     property color color: onDark ? Theme.barInk : (isTile ? Theme.accent : Theme.ink)
@@ -42,6 +43,7 @@ T.Button {
         stacked: root.isTile
         strong: root.isTile
         busy: root.busy
+        growth: root.growth
         color: root.color
     }
 

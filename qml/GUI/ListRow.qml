@@ -5,7 +5,8 @@ import QtQuick.Templates 2.15 as T
 import "private"
 import "private/press.js" as Press
 
-/// A row of a list: icon, text, a second line of detail, and what is declared inside it at the right end.
+/// A row of a list: icon, text, a second line of detail, and what is declared inside it at the right end. Where rows
+/// have a `pictureWidth`, the icon stands in the middle of that place until there is a `picture`.
 /// `highlighted` marks the chosen row. Space and Enter click it.
 T.ItemDelegate {
     id: root
@@ -13,6 +14,10 @@ T.ItemDelegate {
     property string size: "base"
     property string faIcon
     property string detail
+    /// Whether the text stands out, as a head does.
+    property bool strong: highlighted
+    property url picture
+    property real pictureWidth: 0
     property color iconColor: highlighted ? Theme.accent : Theme.mutedInk
     property int elide: Text.ElideRight
     default property alias trailing: tail.data
@@ -37,17 +42,29 @@ T.ItemDelegate {
 
         FontAwesomeIcon {
             id: icon
-            width: font.pixelSize * 1.4
+            width: root.pictureWidth || font.pixelSize * 1.4
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.faIcon !== ""
+            visible: root.faIcon !== "" && !picture.visible
             faIcon: root.faIcon
             size: root.size
             color: root.iconColor
         }
 
+        Image {
+            id: picture
+            width: root.pictureWidth
+            height: parent.height
+            visible: status === Image.Ready
+            source: root.picture
+            sourceSize.width: 2 * width
+            asynchronous: true
+            fillMode: Image.PreserveAspectFit
+            mipmap: true
+        }
+
         Column {
             id: lines
-            x: icon.visible ? icon.width + root.spacing : 0
+            x: root.pictureWidth > 0 ? root.pictureWidth + 2 * root.spacing : (icon.visible ? icon.width + root.spacing : 0)
             width: parent.width - x
             anchors.verticalCenter: parent.verticalCenter
 
@@ -56,7 +73,7 @@ T.ItemDelegate {
                 text: root.text
                 textFormat: Text.PlainText
                 size: root.size
-                strong: root.highlighted
+                strong: root.strong
                 wrapMode: Text.NoWrap
                 elide: root.elide
             }

@@ -56,8 +56,14 @@ FormPage {
             }
         }
 
+        Item {
+            width: parent.width
+            height: BGUI.Theme.unit
+        }
+
         BGUI.Button {
             focus: true
+            size: "large"
             type: "primary"
             text: qsTr("Go back")
             onClicked: root.back()

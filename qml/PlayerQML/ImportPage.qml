@@ -2,14 +2,17 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Native 1.1
 import "private"
 
-/// Looks for the archive of a project, from the current project's folder on.
+/// Looks for the archive of a project, from the current project's folder on, and begins to import it. How that goes
+/// on shows the page of projects.
 StackPage {
     id: root
 
-    // The user chose that archive; the page has closed.
-    signal chosen(url archive)
+    function urlOf(path) {
+        return "file://" + path.split("/").map(encodeURIComponent).join("/");
+    }
 
     objectName: "ImportPage"
 
@@ -18,11 +21,15 @@ StackPage {
         focus: true
         title: qsTr("Import a project")
         nameFilters: ["*.zip"]
-        folder: "file://" + CAPI.getBaseFolder()
+        folder: root.urlOf(CAPI.getBaseFolder())
         onCanceled: root.back()
         onFileSelected: {
+            imports.start(file);
             root.back();
-            root.chosen(file);
         }
+    }
+
+    Imports {
+        id: imports
     }
 }

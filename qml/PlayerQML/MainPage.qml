@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Nuvex.Editor 1.0 as Editor
 import "private"
 import "private/limits.js" as Limits
 import "SharedVars.js" as SS
@@ -51,8 +52,13 @@ StackPage {
         shell.open(page);
     }
 
+    // A project that is not there is not edited: the editor would have nothing to show and nowhere to save.
     function edit() {
-        whenDrawn(shell.edit);
+        const problem = workspaceProblem();
+        if (problem === "")
+            whenDrawn(shell.edit);
+        else
+            view.item.showMessage(problem);
     }
 
     function play() {
@@ -90,7 +96,10 @@ StackPage {
         // At the start another page may follow at once.
         Qt.callLater(show);
     }
-    Component.onCompleted: SS.JCAPI = CAPI
+    Component.onCompleted: {
+        SS.JCAPI = CAPI;
+        Editor.Ejs.JCAPI = CAPI;
+    }
 
     Loader {
         id: view

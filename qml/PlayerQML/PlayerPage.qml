@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import Nuvex.Native 1.1
 import "private"
+import "private/limits.js" as Limits
 import "SharedVars.js" as SS
 
 /// Shows a project's document over the whole page, and follows the account's wishes.
@@ -79,6 +81,19 @@ StackPage {
         anchors.fill: parent
         acceptedButtons: Qt.NoButton
         cursorShape: Qt.BlankCursor
+    }
+
+    ProjectStill {
+        id: still
+        project: root.project
+    }
+
+    // Later than any board needs to be whole.
+    Timer {
+        objectName: "stillTimer"
+        running: thePlayer.isShown
+        interval: Limits.firstStill
+        onTriggered: still.take(thePlayer.item)
     }
 
     StayFullScreen {}

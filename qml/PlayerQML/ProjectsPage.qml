@@ -3,13 +3,14 @@
 import QtQuick 2.15
 import Nuvex.Deployment 1.0
 import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Native 1.1
 import "private"
 
 /// The projects to choose from: those on this computer, the store's and the account's.
 FormPage {
     id: root
 
-    property int tab: local.count === 0 ? 1 : 0
+    property int tab: 0
 
     readonly property var tabs: [qsTr("Local"), "Store", "Cloud"]
 
@@ -18,32 +19,43 @@ FormPage {
         back();
     }
 
-    function remove(index, name) {
+    function remove(name) {
         if (CAPI.getSSetting("lastProject") === name)
             CAPI.setSetting("lastProject", "");
         if (CAPI.removeProject(name))
             message.text = "";
         else
             message.text = qsTr("The project %1 could not be deleted completely.").arg(name);
-        local.removeRow(index);
+        local.reload();
     }
 
     function browse() {
-        shell.open("ImportPage").chosen.connect(importArchive);
+        notice.text = "";
+        shell.open("ImportPage");
     }
 
-    function importArchive(url) {
-        const name = CAPI.extractToWorkDirectory(url);
-        if (name === "") {
-            message.text = qsTr("That archive cannot be imported. The log says why.");
+    function tell(type, text) {
+        notice.type = type;
+        notice.text = text;
+    }
+
+    function showImported(archive, error, projects, cancelled) {
+        const name = archive.split("/").pop();
+        if (error !== "")
+            tell("danger", qsTr("%1 could not be imported: %2.").arg(name).arg(error));
+        else if (projects.length === 0 && !cancelled)
+            tell("warning", qsTr("%1 holds no project's folder. Its files are in %2 now.")
+                            .arg(name).arg(CAPI.getWorkDirectory()));
+        if (projects.length === 0)
             return;
-        }
-        local.addRow(name);
+        local.reload();
+        local.select(projects[0]);
         tab = 0;
     }
 
     objectName: "ProjectsPage"
     title: qsTr("Projects")
+    Component.onCompleted: tab = local.count === 0 ? 1 : 0
 
     actions: [
         BGUI.Button {
@@ -71,17 +83,43 @@ FormPage {
         onActivated: root.tab = index
     }
 
+    Column {
+        id: news
+        anchors.top: tabRow.bottom
+        anchors.topMargin: 1.5 * BGUI.Theme.unit
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: local.width
+        spacing: 1.5 * BGUI.Theme.unit
+        bottomPadding: notice.visible || imports.running ? 1.5 * BGUI.Theme.unit : 0
+
+        BGUI.Notice {
+            id: notice
+            objectName: "importNotice"
+            closable: true
+        }
+
+        ProgressStrip {
+            width: parent.width
+            visible: imports.running
+            text: qsTr("Importing %1").arg(imports.archive.split("/").pop())
+            progress: imports.progress
+            onCanceled: {
+                imports.cancel();
+                (root.tab === 0 ? local : tabRow).forceActiveFocus(Qt.TabFocusReason);
+            }
+        }
+    }
+
     ProjectList {
         id: local
-        anchors.top: tabRow.bottom
-        anchors.topMargin: BGUI.Theme.unit
+        anchors.top: news.bottom
         anchors.bottom: message.top
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 90 * BGUI.Theme.unit)
+        width: Math.min(parent.width - 4 * BGUI.Theme.unit, 110 * BGUI.Theme.unit)
         visible: root.tab === 0
         focus: visible
         onChosen: root.choose(name)
-        onRemoveRequested: root.remove(index, name)
+        onRemoveRequested: root.remove(name)
     }
 
     BGUI.EmptyState {
@@ -118,6 +156,11 @@ FormPage {
         id: message
         anchors.bottom: parent.bottom
         width: parent.width
+    }
+
+    Imports {
+        id: imports
+        onFinished: root.showImported(archive, error, projects, cancelled)
     }
 
     Shortcut {

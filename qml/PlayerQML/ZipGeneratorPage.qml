@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Native 1.1
 import "private"
 
 /// Saves a project as a zip archive.
@@ -20,14 +21,20 @@ FormPage {
         return localPath(picturesPath) + "/" + project + ".zip";
     }
 
-    // The archive replaces a file of its name only once it is complete.
     function save() {
-        const target = path.text;
-        const partial = target + ".part";
-        CAPI.generateZipFile(partial, project);
-        const saved = CAPI.fileExist(partial) && (!CAPI.fileExist(target) || CAPI.removeFile(target))
-                      && CAPI.renameFile(partial, target);
-        busy.finish(saved ? qsTr("Saved as %1").arg(target) : qsTr("%1 could not be written").arg(target), !saved);
+        notice.text = "";
+        exports.target = path.text;
+        exports.start(path.text, project);
+        stopper.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function showOutcome(error, cancelled) {
+        saver.forceActiveFocus(Qt.TabFocusReason);
+        if (cancelled)
+            return;
+        notice.type = error === "" ? "success" : "danger";
+        notice.text = error === "" ? qsTr("Saved as %1").arg(exports.target)
+                                   : qsTr("%1 could not be written: %2.").arg(exports.target).arg(error);
     }
 
     objectName: "ZipGeneratorPage"
@@ -56,6 +63,7 @@ FormPage {
             width: parent.width
             height: Math.min(contentHeight, 30 * BGUI.Theme.unit)
             clip: true
+            enabled: !exports.running
             focus: true
             activeFocusOnTab: true
             boundsBehavior: Flickable.StopAtBounds
@@ -83,26 +91,40 @@ FormPage {
             id: path
             objectName: "path"
             width: parent.width
+            enabled: !exports.running
             faIcon: "fa-archive"
         }
 
+        BGUI.Notice {
+            id: notice
+        }
+
         BGUI.Button {
+            id: saver
+            visible: !exports.running
             enabled: path.text !== ""
             type: "primary"
             size: "large"
             faIcon: "fa-floppy-o"
             text: qsTr("Export")
-            onClicked: {
-                root.busy.start("Please wait...");
-                later.start();
-            }
+            onClicked: root.save()
+        }
+
+        ProgressStrip {
+            id: stopper
+            width: parent.width
+            visible: exports.running
+            text: "Please wait..."
+            progress: exports.progress
+            onCanceled: exports.cancel()
         }
     }
 
-    // Gives the busy indicator time to be drawn before the packing, which blocks.
-    Timer {
-        id: later
-        interval: 50
-        onTriggered: root.save()
+    Exports {
+        id: exports
+
+        property string target
+
+        onFinished: root.showOutcome(error, cancelled)
     }
 }

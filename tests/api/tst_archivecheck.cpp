@@ -22,6 +22,13 @@ QuaZipFileInfo64 entry(const QString& name, quint64 size = 10, quint64 packedSiz
     return info;
 }
 
+QuaZipFileInfo64 deflated(quint64 size, quint64 packedSize)
+{
+    QuaZipFileInfo64 info = entry("a", size, packedSize);
+    info.method = 8;
+    return info;
+}
+
 QVector<QuaZipFileInfo64> named(const QStringList& names)
 {
     QVector<QuaZipFileInfo64> entries;
@@ -121,21 +128,18 @@ void TestArchiveCheck::sizes_data()
     using Entries = QVector<QuaZipFileInfo64>;
     QTest::addColumn<Entries>("entries");
     QTest::addColumn<bool>("safe");
-    constexpr quint64 free = limits::archiveRatioFreeBytes;
-    constexpr quint64 most = 10'000 * quint64(limits::archiveRatio);
+    constexpr quint64 most = 10'000 * limits::deflateRatio;
     constexpr quint64 max = std::numeric_limits<quint64>::max();
-    QTest::newRow("small, any ratio") << Entries{entry("a", free, 1)} << true;
-    QTest::newRow("small, nothing packed") << Entries{entry("a", 5, 0)} << true;
-    QTest::newRow("just above small") << Entries{entry("a", free + 1, 1)} << false;
-    QTest::newRow("above small, good ratio") << Entries{entry("a", free + 1, free / 200 + 1)} << true;
-    QTest::newRow("ratio at the limit") << Entries{entry("a", most, 10'000)} << true;
-    QTest::newRow("ratio above") << Entries{entry("a", most + 1, 10'000)} << false;
-    QTest::newRow("ratio of all together") << Entries{entry("a", free, 1), entry("b", free, 1)} << false;
+    QTest::newRow("deflated as well as can be") << Entries{deflated(most, 10'000)} << true;
+    QTest::newRow("better than can be") << Entries{deflated(most + 1, 10'000)} << false;
+    QTest::newRow("out of nothing") << Entries{deflated(1, 0)} << false;
+    QTest::newRow("stored, larger than it is") << Entries{entry("a", 11, 10)} << false;
     QTest::newRow("as large as the archive") << Entries{entry("a", archiveBytes, archiveBytes)} << true;
-    QTest::newRow("larger than the archive") << Entries{entry("a", 1, archiveBytes + 1)} << false;
-    QTest::newRow("overlapping") << Entries{entry("a", 1, archiveBytes), entry("b", 1, 1)} << false;
-    QTest::newRow("sum overflows") << Entries{entry("a", max, archiveBytes), entry("b", max, 1)} << false;
-    QTest::newRow("packed sum overflows") << Entries{entry("a", 1, max), entry("b", 1, 2)} << false;
+    QTest::newRow("larger than the archive")
+        << Entries{entry("a", archiveBytes + 1, archiveBytes + 1)} << false;
+    QTest::newRow("overlapping") << Entries{entry("a", archiveBytes, archiveBytes), entry("b", 1, 1)}
+                                 << false;
+    QTest::newRow("packed sum overflows") << Entries{entry("a", max, max), entry("b", 2, 2)} << false;
     QTest::newRow("all ones") << Entries{entry("a", max, max)} << false;
 }
 

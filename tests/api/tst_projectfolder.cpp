@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "api/projectfolder.h"
+#include "api/textencoding.h"
 #include "api/workspace.h"
 #include "tests/support/files.h"
+#include "tests/support/httpserver.h"
+#include "tests/support/logcapture.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,7 +38,11 @@ private slots:
     void resolvedUrl();
     void sourcesAreFilesOfThreeKinds();
     void fontsAreRegisteredOnce();
+    void otherEncodingsAreKept_data();
+    void otherEncodingsAreKept();
+    void downloadsOfOneFileDoNotMix();
     void projectsAreListedMadeRenamedRemoved();
+    void projectThatIsALink();
     void namesThatReachBeyondOneProjectAreRefused_data();
     void namesThatReachBeyondOneProjectAreRefused();
 
@@ -205,6 +212,65 @@ void TestProjectFolder::fontsAreRegisteredOnce()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Not a usable font"));
     QCOMPARE(m_project->fonts(true), loaded);
     QCOMPARE(m_project->fonts(false), loaded);
+}
+
+void TestProjectFolder::otherEncodingsAreKept_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isUtf8");
+    QTest::newRow("UTF-8") << QByteArray("Käse 😀") << true;
+    QTest::newRow("with a mark") << QByteArray("\xef\xbb\xbftext") << true;
+    QTest::newRow("Latin-1") << QByteArray("K\xe4se") << false;
+    QTest::newRow("cut in a character") << QByteArray("K\xc3") << false;
+    QTest::newRow("UTF-16") << QByteArray("\xff\xfeK\0", 4) << false;
+}
+
+void TestProjectFolder::otherEncodingsAreKept()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, isUtf8);
+    write(in("main.qml"), bytes);
+    write(in("main.qml.orig"), "an earlier one");
+    QCOMPARE(isUtf8File(in("main.qml")), isUtf8);
+    const LogCapture log;
+    for (int round = 0; round < 2; ++round)
+        QVERIFY(m_project->write("new", "main.qml"));
+    QCOMPARE(contents(in("main.qml")), QByteArray("new"));
+    QCOMPARE(contents(in("main.qml.orig")), QByteArray("an earlier one"));
+    QCOMPARE(contents(in("main.qml.orig2")), isUtf8 ? QByteArray("(cannot be read)") : bytes);
+    QVERIFY(!QFile::exists(in("main.qml.orig3")));
+    QCOMPARE(log.contains("is not UTF-8"), !isUtf8);
+}
+
+// The second begins and ends in the event loop in which the first waits.
+void TestProjectFolder::downloadsOfOneFileDoNotMix()
+{
+    HttpServer server;
+    const QByteArray slow(300'000, 's');
+    const QByteArray quick(200'000, 'q');
+    server.setAnswer("/slow", HttpAnswer::drip(slow, 3, std::chrono::milliseconds(100)));
+    server.setAnswer("/quick", HttpAnswer::complete(200, quick));
+    bool quickCame = false;
+    QTimer::singleShot(150, this, [&] {
+        quickCame =
+            m_project->download(server.url("/quick"), "media", "file") && contents(in("media/file")) == quick;
+    });
+    QVERIFY(m_project->download(server.url("/slow"), "media", "file"));
+    QVERIFY(quickCame);
+    QCOMPARE(contents(in("media/file")), slow);
+    QVERIFY(!m_project->download(server.url("/missing"), "media", "file"));
+    QCOMPARE(contents(in("media/file")), slow);
+    QCOMPARE(QDir(in("media")).entryList(QDir::Files | QDir::Hidden), QStringList("file"));
+}
+
+void TestProjectFolder::projectThatIsALink()
+{
+    Workspace workspace(m_home->filePath("root"));
+    write(m_home->filePath("elsewhere/main.qml"), "kept");
+    QVERIFY(QFile::link(m_home->filePath("elsewhere"), workspace.workDirectory() + "/Linked"));
+    QVERIFY(workspace.remove("Linked"));
+    QCOMPARE(workspace.listProjects(), QStringList());
+    QCOMPARE(contents(m_home->filePath("elsewhere/main.qml")), QByteArray("kept"));
 }
 
 void TestProjectFolder::projectsAreListedMadeRenamedRemoved()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/atomicfile.h"
+#include "base/jobcontrol.h"
 #include "tests/support/faults.h"
 #include "tests/support/files.h"
 #include "tests/support/logcapture.h"
@@ -34,6 +35,8 @@ private slots:
     void faultsLeaveTheOldFile();
     void refusesOtherThanFiles();
     void replaceFileFails();
+    void twoWritersOfOneFile();
+    void onlyAbandonedFilesAreRemoved();
 
 private:
     QString path(const char* name) const { return m_dir->filePath(QString::fromUtf8(name)); }
@@ -115,6 +118,38 @@ void TestAtomicFile::replaceFileFails()
     QVERIFY(replaceFile(path("from"), path("to")));
     QCOMPARE(contents(path("to")), QByteArray("new"));
     QCOMPARE(everything(m_dir->path()), QStringList{QStringLiteral("to")});
+}
+
+void TestAtomicFile::twoWritersOfOneFile()
+{
+    AtomicFile one(path("file"));
+    AtomicFile other(path("file"));
+    for (AtomicFile* file : {&one, &other}) {
+        QVERIFY(file->open());
+        QCOMPARE(file->device().write("first half, "), 12);
+    }
+    QCOMPARE(other.device().write("other"), 5);
+    QVERIFY(other.commit());
+    QCOMPARE(contents(path("file")), QByteArray("first half, other"));
+    QCOMPARE(one.device().write("one"), 3);
+    QVERIFY(one.commit());
+    QCOMPARE(contents(path("file")), QByteArray("first half, one"));
+}
+
+// What this process is writing is locked, as what another one writes is.
+void TestAtomicFile::onlyAbandonedFilesAreRemoved()
+{
+    write(path("deep/.hidden/.main.qml.0123456789abcdef.tmp"), "left by a killed write");
+    const QStringList others{".main.qml.123-4.tmp", "main.qml.0123456789abcdef.tmp", ".0123456789abcdef.tmp"};
+    for (const QString& name : others)
+        write(m_dir->filePath("deep/.hidden/" + name), "not ours");
+    AtomicFile file(path("deep/.hidden/file"));
+    QVERIFY(file.open());
+    removeAbandonedFiles(m_dir->path(), JobControl());
+    QVERIFY(file.commit());
+    QStringList left = everything(path("deep/.hidden"));
+    left.removeOne("file");
+    QCOMPARE(QSet<QString>(left.begin(), left.end()), QSet<QString>(others.begin(), others.end()));
 }
 
 QTEST_GUILESS_MAIN(TestAtomicFile)

@@ -100,7 +100,7 @@ class Profile:
 class Program:
     """The running program. What it shows is asked anew each time, so it may restart itself meanwhile."""
 
-    def __init__(self, setup, screen, profile, *arguments):
+    def __init__(self, setup, screen, profile, *arguments, environment=None):
         self.screen = screen
         self.profile = profile
         self.nudge = 4
@@ -112,7 +112,7 @@ class Program:
         environment = {**os.environ, "DISPLAY": screen.name, "NUVEX_PROBE": str(self.probe),
                        "QT_PLUGIN_PATH": setup.plugins, "QT_QPA_GENERIC_PLUGINS": "probe",
                        "XDG_RUNTIME_DIR": str(profile.folder), "LC_ALL": "C.UTF-8", "ASAN_OPTIONS": "detect_leaks=0",
-                       "PATH": f"{fake_tools}:{os.environ['PATH']}"}
+                       "PATH": f"{fake_tools}:{os.environ['PATH']}", **(environment or {})}
         with self.log_file.open("wb") as log:
             self.process = subprocess.Popen([setup.program, "--profile", str(profile.folder), *arguments],
                                             env=environment, stdout=log, stderr=log)
@@ -262,6 +262,7 @@ def read_setup():
     parser = argparse.ArgumentParser()
     parser.add_argument("--program", required=True)
     parser.add_argument("--plugins", required=True)
+    parser.add_argument("--killpoint", help="the library of tests/support/killpoint.cpp")
     return parser.parse_known_args()
 
 
@@ -274,11 +275,18 @@ class ProgramTest(unittest.TestCase):
         self.profile = Profile()
         self.addCleanup(self.profile.remove)
 
-    def start(self, *arguments):
+    def start(self, *arguments, environment=None):
         """Starts the program; it ends with the test at the latest."""
-        program = Program(self.setup, self.screen, self.profile, *arguments)
+        program = Program(self.setup, self.screen, self.profile, *arguments, environment=environment)
         self.addCleanup(program.close)
         return program
+
+    def start_with_killpoint(self, **settings):
+        """Starts the program on a disk that is slow (pause=MS a change) or with a kill (at=CALL)."""
+        if not self.setup.killpoint:
+            self.skipTest("nothing can be preloaded into this build")
+        return self.start(environment={"LD_PRELOAD": self.setup.killpoint, "KILLPOINT_BELOW": str(self.profile.work),
+                                       **{"KILLPOINT_" + name.upper(): str(value) for name, value in settings.items()}})
 
 
 def run_tests(**screen):

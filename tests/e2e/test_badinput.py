@@ -4,7 +4,9 @@
 
 import random
 import shutil
+import signal
 import struct
+import zipfile
 import zlib
 
 from driver import ProgramTest, run_tests, wait_for
@@ -139,21 +141,39 @@ class BadInputTest(ProgramTest):
                         program.wait_log(str(self.profile.config))
                 wait_for(lambda: self.profile.setting("playerUID"), "settings that can be stored again")
 
-    def test_import_of_a_broken_archive(self):
-        self.profile.add_project("Shop")
-        (self.profile.work / "Shop/broken.zip").write_bytes(b"PK\x03\x04" + random.Random(1).randbytes(500))
+    def test_edit_makes_no_stub_of_a_missing_project(self):
         self.use("Shop", doOnStart="")
         with self.start() as program:
-            program.click("Open")
-            program.wait_page("ProjectsPage")
-            program.key("ctrl+i")
-            program.wait_page("ImportPage")
-            program.wait_text("broken.zip")
-            program.key("Down", "Return")
-            program.wait_page("ProjectsPage")
-            program.wait_text("That archive cannot be imported. The log says why.")
-            program.wait_log("broken.zip")
+            program.wait_text("The project Shop is not in the workspace.")
+            wait_for(lambda: not program.find("footerMessage")["text"], "the message to clear itself")
+            program.click("Edit")
+            program.wait_text("The project Shop is not in the workspace.")
+        self.use("Shop", doOnStart="edit")
+        with self.start() as program:
+            program.wait_page("RADEditorPage")
             self.assert_usable(program)
+        self.assertFalse((self.profile.work / "Shop").exists())
+
+    def test_killed_import(self):
+        """The program is killed while it imports; its next start finds the old or the new project and tidies up."""
+        folder = self.profile.add_project("Shop", "old")
+        (folder / "kept").write_text("kept")
+        with zipfile.ZipFile(folder / "in.zip", "w") as archive:
+            for name in ("main.qml", "new.qml"):
+                archive.writestr("Shop/" + name, "new")
+        self.use("Shop", doOnStart="")
+        for call in (6, 14):
+            with self.subTest(call), self.start_with_killpoint(at=call) as program:
+                program.click("Open")
+                program.key("ctrl+i")
+                program.wait_text("in.zip")
+                program.key("Return")
+                self.assertEqual(program.process.wait(20), -signal.SIGKILL)
+            with self.start() as program:
+                program.wait_page("MainPage")
+                wait_for(lambda: [path.name for path in self.profile.work.iterdir()] == ["Shop"], "the tidying up")
+            self.assertIn({path.name: path.read_text() for path in folder.iterdir() if path.suffix != ".zip"},
+                          [{"main.qml": "old", "kept": "kept"}, {"main.qml": "new", "new.qml": "new", "kept": "kept"}])
 
 
 if __name__ == "__main__":

@@ -183,49 +183,110 @@ class PagesTest(ProgramTest):
         self.assertEqual(sorted(p.name for p in self.profile.work.iterdir()), ["Shop"])
         self.assert_clean(program)
 
-    def test_import(self):
-        archive = self.profile.work / "Shop/Museum.zip"
-        with zipfile.ZipFile(archive, "w") as zipped:
-            zipped.mkdir("Museum")
-            zipped.writestr("Museum/main.qml", "import QtQuick 2.15\nItem {}\n")
-        program = self.start()
+    def make_archive(self, name, files):
+        with zipfile.ZipFile(self.profile.work / "Shop" / name, "w") as archive:
+            for file, text in files.items():
+                archive.writestr(file, text)
+
+    def import_archive(self, program, name):
+        """Chooses it in the browser, which begins at the current project."""
         self.go_to(program, "ProjectsPage")
         program.key("ctrl+i")
         program.wait_page("ImportPage")
-        program.wait_text("Museum.zip")
-        program.key("Down", "Return")
+        program.wait_text(name)
+        program.click(name)
+        program.click("Open")
         program.wait_page("ProjectsPage")
+
+    def test_import(self):
+        self.profile.write_settings(**{**ACCOUNT, "lastProject": "100%20 #1?"})
+        (self.profile.work / "Shop").rename(self.profile.work / "100%20 #1?")
+        (self.profile.work / "Shop").symlink_to("100%20 #1?")
+        self.make_archive("m #1 50%20?.zip", {"Museum/": "", "Museum/main.qml": "new"})
+        self.make_archive("broken.zip", {"Broken/a": "x", "Broken/A": "x"})
+        program = self.start()
+        document = self.profile.work / "Museum/main.qml"
+        self.import_archive(program, "m #1 50%20?.zip")
         program.wait_text("Museum")
-        wait_for((self.profile.work / "Museum/main.qml").exists, "the imported project")
+        document.write_text("old")
+        self.import_archive(program, "m #1 50%20?.zip")  # again: it is listed once
+        wait_for(lambda: document.read_text() == "new", "the second import")
+        self.import_archive(program, "broken.zip")
+        program.wait_text("broken.zip could not be imported: a name occurs twice: Broken/A.")
+        self.assertEqual(program.buttons().count("Museum"), 1)
+        self.assertNotIn("Broken", program.buttons())
+        program.click("Close")
+        wait_for(lambda: not program.find("importNotice"), "the message to close")
         program.key("ctrl+i")
         program.wait_page("ImportPage")
         program.key("Escape")
         program.wait_page("ProjectsPage")
 
-    def test_export(self):
-        program = self.start()
-        for by_keyboard in (False, True):
-            target = self.profile.folder / f"out{by_keyboard}.zip"
-            program.key("ctrl+e")
-            program.wait_page("ZipGeneratorPage")
-            program.tab_to("path")
-            program.key("ctrl+a")
-            program.type(str(target))
-            program.press("Export", by_keyboard)
-            program.wait_text(f"Saved as {target}")
-            self.assertEqual(zipfile.ZipFile(target).namelist(), ["main.qml"])
+    def test_import_can_be_stopped(self):
+        self.make_archive("large.zip", {f"Shop/{number}.txt": "x" for number in range(1000)})
+        for way in ("cancel", "quit"):
+            program = self.start_with_killpoint(pause=50)  # the import would take longer than any test waits
+            self.import_archive(program, "large.zip")
+            program.wait_text("Importing large.zip")
+            wait_for(lambda: program.find("1 %"), "progress")
+            if way == "cancel":
+                program.press("Cancel", by_keyboard=True)
+                wait_for(lambda: not program.find("Cancel"), "the import to stop")
+                self.assertIn("Shop", program.texts())
             program.key("Escape")
             program.wait_page("MainPage")
+            program.key("Escape")
+            self.assertEqual(program.process.wait(20), 0)
+            self.assertEqual(len(list((self.profile.work / "Shop").iterdir())), 2)
+            with self.start():
+                wait_for(lambda: [path.name for path in self.profile.work.iterdir()] == ["Shop"], "the tidying up")
 
-    def test_export_into_nothing(self):
+    def test_last_project_goes(self):
         program = self.start()
+        self.go_to(program, "ProjectsPage")
+        program.click("Delete Shop")
+        program.wait_text("There is no project on this computer")  # and not another tab
+        program.key("Escape")
+        program.wait_page("MainPage")
+        program.click("Open")
+        program.wait_text("The store's ready-made projects need a cloud.")
+
+    def export(self, program, target, by_keyboard=False):
         program.key("ctrl+e")
         program.wait_page("ZipGeneratorPage")
         program.tab_to("path")
         program.key("ctrl+a")
-        program.type("/proc/nowhere/out.zip")
-        program.click("Export")
-        program.wait_text("/proc/nowhere/out.zip could not be written")
+        program.type(str(target))
+        program.press("Export", by_keyboard)
+
+    def test_export(self):
+        program = self.start()
+        for by_keyboard in (False, True):
+            target = self.profile.folder / "out.zip"
+            self.export(program, target, by_keyboard)
+            program.wait_text(f"Saved as {target}")
+            self.assertEqual(zipfile.ZipFile(target).namelist(), ["main.qml"])
+            target.write_text("older")
+            program.key("Escape")
+            program.wait_page("MainPage")
+        self.export(program, "/proc/nowhere/out.zip")
+        program.wait_text("/proc/nowhere/out.zip could not be written: No such file or directory.")
+        self.assert_clean(program)
+
+    def test_export_can_be_stopped(self):
+        (self.profile.work / "Shop/noise.mp4").write_bytes(bytes(range(256)) * 100_000)
+        program = self.start_with_killpoint(pause=100)
+        target = self.profile.work / "out.zip"
+        target.write_text("older")
+        for way in ("Return", "Escape"):  # the button, and leaving the page
+            self.export(program, target)
+            wait_for(lambda: program.find("1 %"), "progress")
+            program.key(way)
+            wait_for(lambda: not list(self.profile.work.glob(".*")), "the export to stop")
+            self.assertEqual(target.read_text(), "older")
+            if way == "Return":
+                program.key("Escape")
+            program.wait_page("MainPage")
 
     def test_settings_choices(self):
         program = self.start()

@@ -7,6 +7,7 @@ NUVEX_RESTARTS sets how often; twenty times proves more than the three of every 
 """
 
 import os
+from contextlib import closing
 
 from driver import ProgramTest, Screen, run_tests, wait_for
 
@@ -16,38 +17,38 @@ RESTARTING = "import QtQuick 2.15\nRectangle { Timer { interval: 200; running: t
 
 
 class RestartTest(ProgramTest):
-    def each_screen(self):
+    def on_each_screen(self, test):
+        """Runs `test` with the program on a screen of each kind."""
         for options in ((), ("-terminate",)):
-            with self.subTest(options=options):
-                self.screen = Screen(options=options)
-                try:
-                    yield
-                finally:
-                    self.screen.close()
+            with self.subTest(options=options), closing(Screen(options=options)) as self.screen, \
+                    self.start() as program:
+                test(program)
 
     def test_as_a_new_process(self):
         self.profile.write_settings(**ACCOUNT, doOnStart="")
         self.profile.add_project("Shop")
-        for _ in self.each_screen():
-            with self.start() as program:
-                for _ in range(RESTARTS):
-                    program.wait_page("MainPage")
-                    pid = program.tree()["pid"]
-                    program.click("fa-cog")
-                    program.click("Settings")
-                    program.wait_page("SettingsPage")
-                    program.click("save")
-                    program.wait_restarted(pid)
+        self.on_each_screen(self.save_settings)
+
+    def save_settings(self, program):
+        for _ in range(RESTARTS):
+            program.wait_page("MainPage")
+            pid = program.tree()["pid"]
+            program.click("fa-cog")
+            program.click("Settings")
+            program.wait_page("SettingsPage")
+            program.click("save")
+            program.wait_restarted(pid)
 
     def test_in_place(self):
         self.profile.write_settings(**ACCOUNT, doOnStart="play")
         self.profile.add_project("Shop", RESTARTING)
-        for _ in self.each_screen():
-            with self.start() as program:
-                pid = program.tree()["pid"]
-                wait_for(lambda: program.log().count("page PlayerPage") > RESTARTS,
-                         lambda: "restarts; log:\n" + program.log())
-                wait_for(lambda: program.tree().get("pid") == pid, "the same process")
+        self.on_each_screen(self.wait_for_restarts)
+
+    def wait_for_restarts(self, program):
+        pid = program.tree()["pid"]
+        wait_for(lambda: program.log().count("page PlayerPage") > RESTARTS,
+                 lambda: "restarts; log:\n" + program.log())
+        wait_for(lambda: program.tree().get("pid") == pid, "the same process")
 
 
 if __name__ == "__main__":

@@ -18,11 +18,11 @@ constexpr rlim_t fullDiskBytes = 8192;
 
 std::atomic<Fault> activeFault{Fault::None};
 
-bool fails(Fault fault)
+bool fails(Fault fault, int error = EIO)
 {
     if (activeFault != fault)
         return false;
-    errno = EIO;
+    errno = error;
     return true;
 }
 
@@ -34,9 +34,26 @@ extern "C" int fsync(int fd)
     return fails(Fault::Fsync) ? -1 : int(::syscall(SYS_fsync, fd));
 }
 
+extern "C" int syncfs(int fd) noexcept
+{
+    return fails(Fault::Fsync) ? -1 : int(::syscall(SYS_syncfs, fd));
+}
+
+extern "C" int renameat2(int fromDir, const char* from, int toDir, const char* to, unsigned flags) noexcept
+{
+    const bool failing = fails(Fault::Rename) || (flags != 0 && fails(Fault::NoExchange, EINVAL));
+    return failing ? -1 : int(::syscall(SYS_renameat2, fromDir, from, toDir, to, flags));
+}
+
 extern "C" int rename(const char* from, const char* to) noexcept
 {
-    return fails(Fault::Rename) ? -1 : int(::syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
+    return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, 0);
+}
+
+extern "C" int linkat(int fromDir, const char* from, int toDir, const char* to, int flags) noexcept
+{
+    const bool failing = fails(Fault::NoLinks, EPERM) || fails(Fault::Mounted, EXDEV);
+    return failing ? -1 : int(::syscall(SYS_linkat, fromDir, from, toDir, to, flags));
 }
 
 FaultInjection::FaultInjection(Fault fault)

@@ -10,9 +10,12 @@
 /// Kinds of failing disk.
 enum class Fault {
     None,
-    DiskFull, ///< no file grows beyond some kilobytes: write() fails
-    Fsync,    ///< fsync() fails with EIO
-    Rename,   ///< rename() fails with EIO
+    DiskFull,   ///< no file grows beyond some kilobytes: write() fails
+    Fsync,      ///< fsync() and syncfs() fail with EIO
+    Rename,     ///< rename() and its kin fail with EIO
+    NoExchange, ///< the file system cannot exchange two names
+    NoLinks,    ///< the file system has no hard links
+    Mounted,    ///< what is to be linked lies on another file system
 };
 Q_DECLARE_METATYPE(Fault)
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "picture"
+import "picture/media.js" as Media
 
 /// Preview tile of an item that shows a picture.
 PreviewTile {
@@ -11,7 +12,8 @@ PreviewTile {
 
     Picture {
         anchors.fill: parent
-        source: root.source
-        decodeSize: Qt.size(128, 0)
+        address: Media.address(root.source)
+        fillMode: Image.PreserveAspectFit
+        sourceSize.width: 128
     }
 }

@@ -26,3 +26,6 @@ var shortestSlide = 200;
 
 /// A clock looks at the time at least this often, so that it follows when the computer's clock is set.
 var clockLookup = 60000;
+
+/// A menu shows at most so many entries: it measures each before it shows the first.
+var menuEntries = 1000;

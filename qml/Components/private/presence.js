@@ -44,6 +44,15 @@ function isEdited(item) {
     return item.element !== undefined && item.element !== -1;
 }
 
+/// Whether `item` is somewhere in such a document.
+function isInEditor(item) {
+    for (let at = item; at; at = at.parent) {
+        if (isEdited(at))
+            return true;
+    }
+    return false;
+}
+
 // Plain Image items have no `settled`; Image.Loading is 2.
 function isLoadingImage(item) {
     return item.paintedWidth !== undefined && item.sourceSize !== undefined && item.status === 2;

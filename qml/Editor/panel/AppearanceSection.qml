@@ -4,14 +4,14 @@ import QtQuick 2.15
 
 /// When a live item enters and exits.
 Section {
-    title: qsTr("Entering and exiting")
+    title: qsTr("Entrance and exit")
 
     TimeRow {
         name: "enterTime"
-        label: qsTr("Enters after")
+        label: qsTr("Enter after")
     }
     TimeRow {
         name: "exitTime"
-        label: qsTr("Exits after")
+        label: qsTr("Exit after")
     }
 }

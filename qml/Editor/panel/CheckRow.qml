@@ -3,18 +3,17 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// A property that is true or false.
-PanelRow {
+/// A property that is true or false: a box and its label in one line.
+BGUI.CheckBox {
     id: root
 
-    readonly property alias box: box
+    property string name
+    property string label
+    readonly property Item form: parent.form
+    readonly property var value: form.revision > 0 ? form.value(name) : undefined
 
-    onValueChanged: box.checked = value === true
-
-    BGUI.CheckBox {
-        id: box
-        size: root.size
-        Accessible.name: root.label
-        onToggled: root.form.commit(root.name, String(checked))
-    }
+    size: form.size
+    text: label
+    onValueChanged: checked = value === true
+    onToggled: form.commit(name, String(checked))
 }

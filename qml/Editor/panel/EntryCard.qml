@@ -49,7 +49,7 @@ Rectangle {
                 objectName: "remove"
                 size: root.row.size
                 faIcon: "fa-trash-o"
-                toolTip: qsTr("Take it out")
+                toolTip: qsTr("Remove")
                 onClicked: root.row.remove(root.place)
             }
         }

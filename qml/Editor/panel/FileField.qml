@@ -3,6 +3,7 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "../../Components/private/picture"
+import "../../Components/private/picture/media.js" as Media
 
 /// Shows a file by picture and name, and lets the user choose another or none.
 Item {
@@ -37,9 +38,9 @@ Item {
             anchors.fill: parent
             anchors.margins: parent.border.width
             visible: status === Image.Ready
-            source: root.kind === "picture" ? root.path : ""
+            address: root.kind === "picture" ? Media.address(root.path) : ""
             fillMode: Image.PreserveAspectCrop
-            decodeSize: Qt.size(2 * width, 0)
+            sourceSize.width: 2 * width
         }
 
         BGUI.FontAwesomeIcon {

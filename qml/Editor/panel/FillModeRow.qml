@@ -5,7 +5,7 @@ import QtQuick 2.15
 /// How a picture fills its item.
 ChoiceRow {
     name: "fillMode"
-    label: qsTr("Filling")
+    label: qsTr("Fill mode")
     choices: [
         { text: qsTr("Whole picture"), is: Image.PreserveAspectFit, code: "Image.PreserveAspectFit" },
         { text: qsTr("Fill, cut edges"), is: Image.PreserveAspectCrop, code: "Image.PreserveAspectCrop" },

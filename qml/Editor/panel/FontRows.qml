@@ -35,14 +35,14 @@ Column {
             readonly property Item form: root.form
             spacing: 2 * BGUI.Theme.unit
 
-            FontSwitch {
+            CheckRow {
                 name: root.name + ".bold"
-                text: qsTr("Bold")
+                label: qsTr("Bold")
             }
 
-            FontSwitch {
+            CheckRow {
                 name: root.name + ".italic"
-                text: qsTr("Italic")
+                label: qsTr("Italic")
             }
         }
     }

@@ -9,7 +9,7 @@ Section {
     /// Whether the item's size can be set.
     property bool hasSize: true
 
-    title: qsTr("Place")
+    title: qsTr("Position and size")
     isOpen: false
 
     NumberRow {
@@ -47,7 +47,7 @@ Section {
     }
     SliderRow {
         name: "rotation"
-        label: qsTr("Turned by")
+        label: qsTr("Rotation")
         from: -180
         to: 180
         decimals: 0

@@ -4,7 +4,7 @@ import QtQuick 2.15
 
 /// The ground of an item that is a rectangle.
 Section {
-    title: qsTr("Ground")
+    title: qsTr("Background")
 
     ColorRow {
         name: "color"
@@ -12,7 +12,7 @@ Section {
     }
     NumberRow {
         name: "radius"
-        label: qsTr("Corners")
+        label: qsTr("Corner radius")
         to: 500
         suffix: " px"
     }

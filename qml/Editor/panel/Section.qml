@@ -15,10 +15,17 @@ Column {
     width: parent.width
     spacing: BGUI.Theme.unit
 
+    Rectangle {
+        width: parent.width
+        height: Math.max(1, dp)
+        color: BGUI.Theme.line
+    }
+
     BGUI.ListRow {
         width: parent.width
         size: root.form.size
         text: root.title
+        strong: true
         leftPadding: 0
         faIcon: root.isOpen ? "fa-angle-down" : "fa-angle-right"
         iconColor: BGUI.Theme.mutedInk

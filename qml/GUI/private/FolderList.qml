@@ -9,7 +9,7 @@ import ".."
 ListView {
     id: root
 
-    property alias folder: entries.folder
+    property url folder
     property alias nameFilters: entries.nameFilters
     property alias showHidden: entries.showHidden
     property string size: "base"
@@ -85,6 +85,12 @@ ListView {
 
     model: FolderListModel {
         id: entries
+
+        property bool isCompleted: false
+
+        // The model decodes the path twice, but not when it looks at its first folder.
+        folder: isCompleted ? String(root.folder).replace(/%/g, "%25") : root.folder
+        Component.onCompleted: isCompleted = true
         showDirsFirst: true
         showDotAndDotDot: false
         sortCaseSensitive: false

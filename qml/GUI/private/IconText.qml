@@ -16,6 +16,7 @@ Item {
     property bool busy: false
     property bool stacked: false
     property bool strong: false
+    property real growth: 1
 
     readonly property bool hasIcon: faIcon !== "" || busy
     readonly property bool hasText: text !== ""
@@ -45,7 +46,7 @@ Item {
                 anchors.centerIn: parent
                 visible: !root.busy
                 faIcon: root.faIcon
-                size: root.iconSize
+                font.pixelSize: Math.round(Theme.fontSize(root.iconSize) * root.growth)
                 color: root.color
             }
 
@@ -67,7 +68,7 @@ Item {
             elide: Text.ElideRight
             color: root.color
             font.family: Theme.fontFamily
-            font.pixelSize: Theme.fontSize(root.size)
+            font.pixelSize: Math.round(Theme.fontSize(root.size) * root.growth)
             font.weight: root.strong ? Font.DemiBold : Font.Normal
         }
     }

@@ -3,8 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// One large square button of the main page.
+/// One large button of the main page.
 BGUI.ActionButton {
-    height: 0.75 * width
+    objectName: "mainTile"
     size: "xlarge"
+    growth: Math.max(1, Math.min(width / 0.75, height) / (20 * BGUI.Theme.unit))
 }

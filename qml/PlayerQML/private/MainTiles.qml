@@ -3,12 +3,14 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// The main page's large buttons, three in a row. The arrow keys go from one to the next.
+/// The main page's large buttons, in a row or, where `upright`, one above the other. They and their type
+/// grow with the page. The arrow keys go from one to the next.
 FocusScope {
     id: root
 
     property bool canEdit: true
     property bool canPlay: false
+    property bool upright: false
 
     signal openChosen()
     signal editChosen()
@@ -16,7 +18,14 @@ FocusScope {
     signal dashboardChosen()
 
     readonly property real gap: 3 * BGUI.Theme.unit
-    readonly property real tileSize: Math.min(40 * BGUI.Theme.unit, (width - 4 * gap) / 3, height - 2 * gap)
+    readonly property int count: 1 + 2 * canEdit + canPlay
+    readonly property int columns: upright ? 1 : Math.min(3, count)
+    readonly property int rows: Math.ceil(count / columns)
+    readonly property real roomAcross: (width - (columns - 1) * gap) / columns
+    readonly property real roomDown: (height - (rows - 1) * gap) / rows
+    // A row's tiles keep their shape, those above each other fill the place.
+    readonly property real tileWidth: upright ? roomAcross : Math.min(roomAcross, roomDown / 0.75)
+    readonly property real tileHeight: upright ? roomDown : 0.75 * tileWidth
 
     function step(by) {
         const reachable = Array.from(grid.children).filter(tile => tile.visible);
@@ -26,17 +35,20 @@ FocusScope {
     }
 
     Keys.onLeftPressed: step(-1)
+    Keys.onUpPressed: step(-1)
     Keys.onRightPressed: step(1)
+    Keys.onDownPressed: step(1)
 
     Grid {
         id: grid
         anchors.centerIn: parent
-        columns: 3
+        columns: root.columns
         spacing: root.gap
 
         MainTile {
             focus: true
-            width: root.tileSize
+            width: root.tileWidth
+            height: root.tileHeight
             text: "Open"
             faIcon: "fa-folder-open"
             onClicked: root.openChosen()
@@ -44,7 +56,8 @@ FocusScope {
 
         MainTile {
             visible: root.canEdit
-            width: root.tileSize
+            width: root.tileWidth
+            height: root.tileHeight
             text: "Edit"
             faIcon: "fa-pencil"
             onClicked: root.editChosen()
@@ -52,7 +65,8 @@ FocusScope {
 
         MainTile {
             visible: root.canPlay
-            width: root.tileSize
+            width: root.tileWidth
+            height: root.tileHeight
             text: "Play"
             faIcon: "fa-play"
             onClicked: root.playChosen()
@@ -60,7 +74,8 @@ FocusScope {
 
         MainTile {
             visible: root.canEdit
-            width: root.tileSize
+            width: root.tileWidth
+            height: root.tileHeight
             text: "Dashboard"
             faIcon: "fa-inbox"
             onClicked: root.dashboardChosen()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
+import Nuvex.Native 1.1
 
 /// What one sees of the main page.
 FocusScope {
@@ -37,19 +38,26 @@ FocusScope {
         project: root.page.project
     }
 
-    MainTiles {
-        id: tiles
+    ProjectStill {
+        id: still
+        // Looked for again whenever the page is.
+        project: root.page.active ? root.page.project : ""
+    }
+
+    MainDesk {
+        id: desk
         anchors.top: banner.bottom
         anchors.bottom: message.top
         width: parent.width
         focus: true
         enabled: !root.page.busy
-        canEdit: !CAPI.isDevice() || CAPI.haveTouch()
-        canPlay: CAPI.isDevice()
-        onOpenChosen: root.page.open("ProjectsPage")
-        onEditChosen: root.page.edit()
-        onPlayChosen: root.page.play()
-        onDashboardChosen: root.page.openDashboard()
+        still: still.source
+        tiles.canEdit: !CAPI.isDevice() || CAPI.haveTouch()
+        tiles.canPlay: CAPI.isDevice()
+        tiles.onOpenChosen: root.page.open("ProjectsPage")
+        tiles.onEditChosen: root.page.edit()
+        tiles.onPlayChosen: root.page.play()
+        tiles.onDashboardChosen: root.page.openDashboard()
     }
 
     FooterMessage {
@@ -63,7 +71,7 @@ FocusScope {
         anchors.fill: parent
         anchors.topMargin: header.height
         onChosen: root.page.open(page)
-        onClosed: tiles.forceActiveFocus()
+        onClosed: desk.forceActiveFocus()
     }
 
     BGUI.CustomBuzyInd {

@@ -13,6 +13,9 @@ var screenshotPeriod = 20;
 /// How long a request to the account's database or to the sign-in service may take.
 var requestDeadline = 10000;
 
+/// After a project's document came on the screen, its still is taken.
+var firstStill = 8000;
+
 /// How long a line at a page's foot stays.
 var footerMessage = 5000;
 

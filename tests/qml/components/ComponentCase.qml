@@ -13,6 +13,18 @@ TestCase {
     visible: true
     when: windowShown
 
+    // What a document may count on wherever the editor puts an item: the imports that it pastes below.
+    readonly property string pasteImports: "import QtQuick 2.15\nimport Nuvex.Editor 1.0\nimport Nuvex.Components 1.0\n"
+        + "import Nuvex.GUI 1.0 as BGUI\nimport QtQuick.Controls 1.4\nimport Nuvex.Native 1.0\nimport QtQuick.Layouts 1.15\n"
+        + "import QtQml 2.2\n"
+
+    // A fresh instance of `component`, a file name, as a document holds it. Two components are in no module.
+    function makePrototype(component) {
+        const prototype = CAPI.getItemPrototype(":/Nuvex/Components/" + component);
+        const folder = fixture.source("qmldir").indexOf(component) < 0 ? "import 'qrc:/Nuvex/Components'\n" : "";
+        return createTemporaryQmlObject(pasteImports + folder + prototype, root);
+    }
+
     // A document with `text` as its root object, made inside the case and destroyed with the test.
     function make(text) {
         return createTemporaryQmlObject("import QtQuick 2.15; import QtMultimedia 5.15; import QtQuick.Layouts 1.15; "

@@ -73,9 +73,9 @@ ComponentCase {
         });
     }
 
-    function makeVideo(clip, extra) {
+    function makeVideo(clip, extra, kind) {
         fixture.makeClip(clip + ".mp4", clip, 1);
-        return make("Rectangle { width: 320; height: 180; color: 'blue'; property alias video: video; ChromaVideo { "
+        return make("Rectangle { width: 320; height: 180; color: 'blue'; property alias video: video; " + (kind || "ChromaVideo") + " { "
                     + "id: video; anchors.fill: parent; muted: true; source: '" + fixture.url(clip + ".mp4") + "'; " + extra + " } }");
     }
 
@@ -86,10 +86,36 @@ ComponentCase {
         verify(isNear(colorAt(green, 160, 90), "blue"), colorAt(green, 160, 90));
         var red = makeVideo("red", "");
         tryVerify(function() { return isNear(colorAt(red, 160, 90), "red"); }, 8000, colorAt(red, 160, 90));
+        // Enlarged, at a width that is no whole number of pixels, it is keyed out to its edges.
+        red.width = 500.5;
+        red.height = 400;
+        tryVerify(function() { return [[0, 0], [499, 0], [250, 399], [0, 399], [499, 399]].every(
+                      at => isNear(colorAt(red, at[0], at[1]), "red")); });
     }
 
-    function test_playsWhileSeen() {
-        var ground = makeVideo("red", "");
+    // Without autoPlay it goes on as it was when it was hidden: at rest, or playing when somebody has started it.
+    function test_goesOnWithoutAutoPlay_data() {
+        return [{ tag: "ChromaVideo" }, { tag: "BasicVideo" }];
+    }
+    function test_goesOnWithoutAutoPlay(data) {
+        const video = makeVideo("red", "autoPlay: false", data.tag).video;
+        tryCompare(video, "playbackState", MediaPlayer.PausedState, 8000);
+        [MediaPlayer.PausedState, MediaPlayer.PlayingState, MediaPlayer.PausedState].forEach((state, i) => {
+            [() => {}, video.play, video.pause][i]();
+            tryCompare(video, "playbackState", state);
+            video.visible = false;
+            tryCompare(video, "playbackState", MediaPlayer.PausedState);
+            video.visible = true;
+            wait(50);
+            tryCompare(video, "playbackState", state);
+        });
+    }
+
+    function test_playsWhileSeen_data() {
+        return test_goesOnWithoutAutoPlay_data();
+    }
+    function test_playsWhileSeen(data) {
+        var ground = makeVideo("red", "", data.tag);
         tryCompare(ground.video, "playbackState", MediaPlayer.PlayingState, 8000);
         ground.video.visible = false;
         tryCompare(ground.video, "playbackState", MediaPlayer.PausedState);

@@ -40,8 +40,7 @@ ComponentCase {
         var records = CAPI.parseAndGetMap("\n" + prototype + "\n");
         compare(records.length, 1);
         compare(records[0].typename, data.tag);
-        var imports = "import 'qrc:/Nuvex/Components'; ";
-        var item = createTemporaryQmlObject("import QtQuick 2.15; import QtMultimedia 5.15; " + imports + prototype, test);
+        var item = makePrototype(data.file);
         verify(item.width > 0 && item.height > 0);
         compare(item.cPrototype, prototype);
         waitForRendering(item);
@@ -57,8 +56,7 @@ ComponentCase {
         var dropped = createTemporaryObject(component, test, { "element": 7, "x": 3, "y": 4 });
         compare(dropped.element, 7);
         var record = CAPI.parseAndGetMap(dropped.cPrototype)[0];
-        var prototype = createTemporaryQmlObject("import QtQuick 2.15; import QtMultimedia 5.15; "
-                                                 + "import 'qrc:/Nuvex/Components'; " + dropped.cPrototype, test);
+        var prototype = makePrototype(data.file);
         Object.keys(record.properties).forEach(function(key) {
             var path = key.split(".");
             var read = function(item) { return String(path.reduce(function(at, part) { return at[part]; }, item)); };

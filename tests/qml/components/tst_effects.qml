@@ -62,17 +62,17 @@ ComponentCase {
         tryCompare(image, "status", Image.Ready);
         var turned = 0, last = 0, rising = true;
         while (turned < 2) {
-            compare(drawn(ground, "#ff0000"), 0, "the ground shows at " + image.progress);
+            compare(drawn(ground, "#ff0000"), 0, "the ground shows at " + image.travelled);
             wait(5);
-            if (image.progress !== last && (image.progress > last) !== rising) {
+            if (image.travelled !== last && (image.travelled > last) !== rising) {
                 rising = !rising;
                 ++turned;
             }
-            last = image.progress;
+            last = image.travelled;
         }
         image.kenburnsEnable = false;
-        var still = image.progress;
+        var still = image.travelled;
         wait(60);
-        compare(image.progress, still);
+        compare(image.travelled, still);
     }
 }

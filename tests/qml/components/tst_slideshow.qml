@@ -127,13 +127,44 @@ ComponentCase {
         compare(show.slides[0].visible, false);
     }
 
+    // White on grounds without green: what is green in a frame is a headline.
+    function test_staggerNeverLaysTextOverText() {
+        var slide = (x, color) => "Slide { id: " + color + "; property real level: 0.8; property alias text: text" + x
+            + "; Rectangle { width: 320; height: 180; color: '" + color + "'; "
+            + "Rectangle { id: text" + x + "; x: " + x + "; y: 40; width: 100; height: 60; opacity: " + color + ".level } } }";
+        var show = make("Slideshow { width: 320; height: 180; running: false; transTime: 600; transType: 'stagger'; "
+                        + slide(20, "red") + slide(200, "blue") + "}");
+        waitForRendering(show);
+        for (var from = 0; from < 2; ++from) {
+            show.next();
+            var leaving = 0, coming = 0, changing = 0;
+            do {
+                var frame = grabImage(show);
+                var greens = [frame.green(70, 70), frame.green(250, 70)];
+                verify(Math.min(greens[0], greens[1]) < 10, "two texts: " + greens);
+                if (Math.min(frame.red(5, 5), frame.blue(5, 5)) > 20) {
+                    ++changing;
+                    verify(Math.max(greens[0], greens[1]) < 10, "a text while the picture changes: " + greens);
+                }
+                leaving += greens[from] >= 10 && greens[from] < 195 ? 1 : 0;
+                coming += greens[1 - from] >= 10 && greens[1 - from] < 195 ? 1 : 0;
+                wait(10);
+            } while (show.turning);
+            verify(leaving > 0 && changing > 0 && coming > 0, [leaving, changing, coming] + " frames");
+        }
+        show.slides.forEach(slide => compare(slide.text.opacity, 0.8));
+        show.currentSlide.level = 0.5;
+        compare(show.currentSlide.text.opacity, 0.5, "the document's binding holds again");
+    }
+
     function test_slidesComeAndGo() {
         var show = makeShow("running: false; transTime: 0", ["red", "blue", "white"]);
         show.slides[0].destroy();
         tryVerify(function() { return show.slides.length === 2; });
         tryCompare(show, "currentIndex", 0);
         compare(colorAt(show, 10, 10), "#0000ff");
-        createTemporaryQmlObject("import Nuvex.Components 1.0; Slide {}", show);
+        createTemporaryQmlObject("import Nuvex.Components 1.0; Slide { isSlide: true }", show);
+        createTemporaryQmlObject("import Nuvex.Components 1.0; Slide { isSlide: false }", show);
         compare(show.slides.length, 3);
         compare(show.slides[2].visible, false);
         show.slides[1].destroy();

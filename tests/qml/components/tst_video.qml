@@ -50,15 +50,6 @@ ComponentCase {
         verify(isShown(ground, "red"));
     }
 
-    function test_hiddenVideoHolds() {
-        var ground = makeVideo("white.mp4", "");
-        tryCompare(ground.video, "playbackState", MediaPlayer.PlayingState, 8000);
-        ground.video.visible = false;
-        tryCompare(ground.video, "playbackState", MediaPlayer.PausedState);
-        ground.video.visible = true;
-        tryCompare(ground.video, "playbackState", MediaPlayer.PlayingState);
-    }
-
     function test_withoutAutoPlayShowsFirstFrame() {
         var ground = makeVideo("red.mp4", "autoPlay: false");
         tryVerify(function() { return isShown(ground, "red"); }, 8000);
@@ -68,15 +59,15 @@ ComponentCase {
     }
 
     function test_missingOrBroken_data() {
-        return [{ tag: "missing" }, { tag: "broken" }];
+        return [{ tag: "missing" }, { tag: "broken" }, { tag: "edited", isEdited: true }];
     }
     function test_missingOrBroken(data) {
         var name = data.tag + ".mp4";
         if (data.tag === "broken")
             fixture.makeGarbage(name);
-        var ground = makeVideo(name, "");
+        var ground = makeVideo(name, data.isEdited ? "element: 3" : "");
         tryVerify(function() { return ground.video.settled && ground.video.status === MediaPlayer.InvalidMedia; }, 8000);
-        verify(colorAt(ground, 2, 2) !== "#000000", "a placeholder is drawn");
+        compare(colorAt(ground, 2, 2) !== "#000000", data.isEdited === true, "a mark is drawn in the editor alone");
         fixture.makeClip(name, "white", 1);
         tryVerify(function() { return isShown(ground, "white"); }, 8000);
         expectWarnings(1, new RegExp(name));

@@ -7,7 +7,7 @@ import QtTest 1.15
 TestCase {
     id: testCase
 
-    /// URL of a folder to browse: the folders Archives, Empty and "Zoo & Ärger 100%", and alpha.zip, beta.zip,
+    /// URL of a folder to browse: the folders Archives, Empty and "Zoo & Ä%25 #1?", and alpha.zip, beta.zip,
     /// "gamma #1.zip" and notes.txt.
     readonly property string testFolder: fixture.url("browse")
 
@@ -17,7 +17,7 @@ TestCase {
     }
 
     function initTestCase() {
-        ["beta.zip", "alpha.zip", "gamma #1.zip", "notes.txt", "Archives/a", "Zoo & Ärger 100%/a", "Empty/a"].forEach(
+        ["beta.zip", "alpha.zip", "gamma #1.zip", "notes.txt", "Archives/a", "Zoo & Ä%25 #1?/a", "Empty/a"].forEach(
             name => CAPI.writeToFile("test", "browse/" + name));
         CAPI.removeFile("browse/Empty/a");
         fixture.recordWarnings(true);

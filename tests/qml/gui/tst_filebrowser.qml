@@ -58,8 +58,8 @@ Item {
             keyClick("z");
             keyClick(Qt.Key_Return);
             tryVerify(() => findBy(browser, "title", "Nothing to choose here").visible);
-            compare(nameOf(browser.folder), "Zoo & Ärger 100%");
-            verify(row(browser, "Zoo & Ärger 100%").visible);
+            compare(nameOf(browser.folder), "Zoo & Ä%25 #1?");
+            verify(row(browser, "Zoo & Ä%25 #1?").visible);
             keyClick(Qt.Key_Backspace);
             tryVerify(() => row(browser, "alpha.zip") !== null);
             compare(String(browser.folder), String(testFolder));

@@ -241,6 +241,29 @@ NetworkCase {
     }
 
     // Days that have passed go, days beyond the answer show their names alone.
+    // Of what is not known nothing is drawn; the names of days stand on one line with those that are.
+    function test_unknownWeather_data() {
+        const known = goodAnswer("Weather");
+        return [
+            { tag: "Weather, no answer", answer: "", drawings: 0 },
+            { tag: "Weather, strange code", answer: known.replace("\"weather_code\":71", "\"weather_code\":42"), drawings: 0 },
+            { tag: "WeatherForecast, no answer", answer: "", drawings: 0 },
+            { tag: "WeatherForecast, two of five days", answer: known, drawings: 2 }
+        ];
+    }
+    function test_unknownWeather(data) {
+        if (data.answer !== "")
+            server.serve(path("feed"), data.answer);
+        const item = makeItem(data.tag.split(",")[0], "color: 'black'");
+        tryVerify(() => data.answer === "" || words(item).indexOf("°") > 0);
+        waitForRendering(item);
+        const drawings = all(item, child => child.sourceSize !== undefined && child.visible && child.status === Image.Ready);
+        compare(drawings.length, data.drawings);
+        const names = texts(item).filter(text => /^(Mon|Tue|Wed|Thu|Fri|Sat|Sun)/.test(text.text) && data.tag.startsWith("WeatherF"));
+        names.forEach(name => compare(name.mapToItem(item, 0, 0).y, names[0].mapToItem(item, 0, 0).y));
+        fixture.takeWarnings();
+    }
+
     function test_forecastDays() {
         server.serve(path("feed"), goodAnswer("WeatherForecast").split(dateIn(0)).join(dateIn(-1)));
         const item = makeItem("WeatherForecast", "days: 3; localeName: 'de_DE'");

@@ -25,7 +25,7 @@ ComponentCase {
 
     // Opens a document with `body` inside its root object.
     function open(body, imports) {
-        const source = "import QtQuick 2.15\nimport QtMultimedia 5.15\nimport Nuvex.Components 1.0\n" + (imports || "")
+        const source = pasteImports + (imports || "")
             + "\nRectangle {\n    width: 640\n    height: 480\n" + body.split("\n").map(line => "    " + line).join("\n") + "\n}\n";
         CAPI.writeToFile(source, "main.qml");
         CAPI.readSourceCode("main.qml");

@@ -399,11 +399,21 @@ PanelCase {
                 verify(left >= -1 && left + item.width <= data.width + 1 || isInside(item), row.label + " " + item);
             });
         });
-        const byTop = rows.filter(row => !isInside(row)).map(row => ({ top: row.mapToItem(panel, 0, 0).y, row: row }))
+        const byTop = rows.filter(row => !isInside(row) && !isInRow(row)).map(row => ({ top: row.mapToItem(panel, 0, 0).y, row: row }))
             .sort((a, b) => a.top - b.top);
         for (let i = 1; i < byTop.length; ++i)
             verify(byTop[i].top >= byTop[i - 1].top + byTop[i - 1].row.height - 1, byTop[i].row.label);
+        all(panel, item => item.checkState !== undefined).forEach(box => verify(box.text !== "", "a box without its label"));
         fixture.takeWarnings();
+    }
+
+    // Whether the item is one of several in a row of the form.
+    function isInRow(item) {
+        for (let at = item.parent; at && at !== panel; at = at.parent) {
+            if (at.form !== undefined && at.label !== undefined)
+                return true;
+        }
+        return false;
     }
 
     // Whether the item is inside something that cuts it off, as text in a field.

@@ -70,7 +70,7 @@ PanelCase {
         const kinds = { put: row.put && row.isPlain !== undefined ? driveEntries : row.code !== undefined ? driveCode : driveFile,
                         input: driveText, slider: driveSlider, button: driveColor, area: driveLines };
         if (row.box)
-            return row.box.realValue !== undefined ? driveNumber : row.choices !== undefined ? driveChoice : driveCheck;
+            return row.box.realValue !== undefined ? driveNumber : driveChoice;
         if (row.toggled !== undefined && row.checked !== undefined)
             return driveCheck;
         const kind = Object.keys(kinds).find(name => row[name] !== undefined);
@@ -136,7 +136,7 @@ PanelCase {
     }
 
     function driveCheck(row) {
-        mouseClick(row.box || row);
+        mouseClick(row);
     }
 
     function driveChoice(row) {

@@ -191,8 +191,7 @@ void TestReference::fill(const QString& file, int element)
     pinned::restartRandomNumbers();
     QQmlComponent component(m_engine.get());
     const QString prototype = m_fixture->capi().getItemPrototype(":/Nuvex/Components/" + file);
-    component.setData("import QtQuick 2.15; import QtMultimedia 5.15; import 'qrc:/Nuvex/Components'; " +
-                          prototype.toUtf8(),
+    component.setData("import QtQuick 2.15; import 'qrc:/Nuvex/Components'; " + prototype.toUtf8(),
                       QUrl(QStringLiteral("qrc:/Nuvex/reference.qml")));
     if (!component.isReady())
         qFatal("%s", qPrintable(component.errorString()));

@@ -3,6 +3,7 @@
 
 #include "tests/qml/shell/shell.h"
 
+#include <QQmlComponent>
 #include <QtTest>
 
 /// What the shell opens at its start, and what the main page makes of it.
@@ -16,6 +17,9 @@ private slots:
     void playerGetsAName();
     void startedProjectIsForOneShow();
     void mainPageFollowsTheSettings();
+    void stillOfTheProject_data();
+    void stillOfTheProject();
+    void typesOfThePages();
 };
 
 namespace {
@@ -26,6 +30,11 @@ QVariantMap account(const QString& action, const QString& project)
             {"playerUID", "west.wing_12"},
             {"doOnStart", action},
             {"lastProject", project}};
+}
+
+QRectF sceneRect(const QQuickItem* item)
+{
+    return item->mapRectToScene(item->boundingRect());
 }
 
 const QVariantMap nobody{{"playerUID", "west_12"}, {"doOnStart", "play"}, {"lastProject", "Shop"}};
@@ -136,6 +145,75 @@ void TestShell::mainPageFollowsTheSettings()
     QCOMPARE(shell.api().getBaseProjectName(), QString("Shop & <Co>"));
     QCOMPARE(shell.find("footerMessage")->property("text").toString(), QString());
     QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
+
+void TestShell::stillOfTheProject_data()
+{
+    QTest::addColumn<QSize>("page");
+    QTest::addColumn<QSize>("document");
+    QTest::newRow("landscape") << QSize(1920, 1080) << QSize(1280, 720);
+    QTest::newRow("small, of an upright board") << QSize(1280, 720) << QSize(720, 1280);
+    QTest::newRow("portrait") << QSize(1080, 1920) << QSize(1920, 1080);
+}
+
+// Playing makes it; the main page shows it beside its tiles, the list of projects in the project's row; it
+// goes with the project.
+void TestShell::stillOfTheProject()
+{
+    QFETCH(QSize, page);
+    QFETCH(QSize, document);
+    TestProfile::reset(account("play", "Shop"));
+    TestProfile::addProject("Shop",
+                            QString("import QtQuick 2.15\nRectangle { width: %1; height: %2; color: 'teal' }")
+                                .arg(document.width())
+                                .arg(document.height()));
+    Shell shell({}, page);
+    const QString still = shell.api().workspace().stillOf("Shop");
+    QVERIFY(!QFile::exists(still));
+    shell.root()->findChild<QObject*>("stillTimer")->setProperty("interval", 1);
+    QTRY_VERIFY(QFile::exists(still));
+    const QImage image(still);
+    QCOMPARE(image.size(), document.scaled(960, 960, Qt::KeepAspectRatio));
+    QVERIFY(qAbs(image.pixelColor(5, 5).blue() - QColor("teal").blue()) < 4);
+
+    shell.goBack();
+    QTRY_COMPARE(shell.pageName(), QString("MainPage"));
+    QTRY_VERIFY(shell.find("projectStill") && shell.find("projectStill")->isVisible());
+    const QRectF window(QPointF(), shell.root()->size());
+    const QRectF shown = sceneRect(shell.find("projectStill"));
+    QVERIFY(window.contains(shown));
+    QVERIFY(shown.width() * shown.height() > 0.1 * window.width() * window.height());
+    QVERIFY(qAbs(shown.width() / shown.height() - qreal(document.width()) / document.height()) < 0.02);
+    for (const QQuickItem* tile : shell.root()->findChildren<QQuickItem*>("mainTile")) {
+        QVERIFY(window.contains(sceneRect(tile)));
+        QVERIFY(!shown.intersects(sceneRect(tile)));
+    }
+    QVERIFY(shell.api().removeProject("Shop"));
+    QVERIFY(!QFile::exists(still));
+}
+
+// The second door: what projects' documents import does not have the types that are for the program's own
+// pages.
+void TestShell::typesOfThePages()
+{
+    TestProfile::reset(account("", "Shop"));
+    TestProfile::addProject("Shop", "text");
+    Shell shell;
+    QFile latin1(shell.api().getBaseFolder() + "/latin1.txt");
+    QVERIFY(latin1.open(QIODevice::WriteOnly) && latin1.write("K\xe4se") == 4 && latin1.flush());
+    const auto value = [&](const QByteArray& version, const QByteArray& object) {
+        QQmlComponent component(qmlEngine(shell.root()));
+        component.setData("import Nuvex.Native " + version + "\n" + object, QUrl());
+        const std::unique_ptr<QObject> made(component.create());
+        return made ? made->property("value") : QVariant("no such type");
+    };
+    QCOMPARE(value("1.1", "TextFile { property bool value: isUtf8; path: 'main.qml' }"), QVariant(true));
+    QCOMPARE(value("1.1", "TextFile { property bool value: isUtf8; path: 'latin1.txt' }"), QVariant(false));
+    QCOMPARE(value("1.1", "Imports { property bool value: running }"), QVariant(false));
+    QCOMPARE(value("1.1\nimport Nuvex.Editor 1.0\nimport QtQml 2.15",
+                   "QtObject { property bool value: Ejs.JCAPI === CAPI }"),
+             QVariant(true));
+    QCOMPARE(value("1.0", "Imports { property bool value: running }"), QVariant("no such type"));
 }
 
 int main(int argc, char* argv[])

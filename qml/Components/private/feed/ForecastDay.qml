@@ -8,8 +8,9 @@ import "forecast.js" as Forecast
 Item {
     id: root
 
-    /// A day as forecast.js reads it; with a date alone it shows its name.
+    /// A day as forecast.js reads it; with a date alone it shows its name, above where the rest stands on other days.
     property var day
+    property bool isAlone: false
     property bool isRow: false
     property color color: "white"
     property int pixelSize: 28
@@ -17,6 +18,7 @@ Item {
     property var locale: Qt.locale()
 
     readonly property bool isKnown: day.code !== undefined
+    readonly property string icon: isKnown ? Forecast.icon(day.code, true) : ""
     readonly property real fontSize: Math.max(1, Math.min(pixelSize, isRow ? height * 0.5 : height * 0.17,
                                                           isRow ? width * 0.08 : width * 0.3))
 
@@ -36,16 +38,16 @@ Item {
             width: Math.max(0, root.isRow ? Math.min(root.height * 0.9, root.width * 0.18, root.fontSize * 2.6)
                                           : Math.min(root.width * 0.8, root.height - 4.2 * root.fontSize))
             height: width
-            opacity: root.isKnown ? 1 : 0.3
+            visible: root.isRow || !root.isAlone
             mipmap: true
-            source: "../../icons/" + (root.isKnown ? Forecast.icon(root.day.code, true) : "weatherFair") + ".png"
+            source: root.icon === "" ? "" : "../../icons/" + root.icon + ".png"
         }
 
         DayText {
             day: root
             room: root.width * (root.isRow ? 0.18 : 1)
             horizontalAlignment: root.isRow ? Text.AlignRight : Text.AlignHCenter
-            visible: root.isRow || root.isKnown
+            visible: root.isRow || !root.isAlone
             text: root.isKnown ? Forecast.temperature(root.day.high, root.fahrenheit) : ""
             font.weight: Font.DemiBold
         }
@@ -54,7 +56,7 @@ Item {
             day: root
             room: root.width * (root.isRow ? 0.18 : 1)
             horizontalAlignment: root.isRow ? Text.AlignRight : Text.AlignHCenter
-            visible: root.isRow || root.isKnown
+            visible: root.isRow || !root.isAlone
             text: root.isKnown ? Forecast.temperature(root.day.low, root.fahrenheit) : ""
             opacity: 0.7
             font.pixelSize: root.fontSize * 0.85

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "../picture"
+import "../picture/media.js" as Media
 
 /// Shows pictures one after the other, each fading in over the one before once it is complete. A picture that cannot be
 /// loaded is passed over; while none can, the one that is there stays.
@@ -26,7 +27,7 @@ Item {
         if (!root.running || root.sources.length === 0 || fade.running)
             return;
         root.wanted = (root.wanted + 1) % root.sources.length;
-        root.back.source = root.sources[root.wanted];
+        root.back.address = Media.address(root.sources[root.wanted]);
         if (root.back.status === Image.Ready)
             show();
     }
@@ -48,7 +49,7 @@ Item {
     }
 
     function pass() {
-        root.back.source = "";
+        root.back.address = "";
         if (++root.misses < root.sources.length)
             next();
     }
@@ -58,7 +59,7 @@ Item {
         root.front = root.back;
         root.currentIndex = root.wanted;
         old.opacity = 0;
-        old.source = "";
+        old.address = "";
     }
 
     onSourcesChanged: {

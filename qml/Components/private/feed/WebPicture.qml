@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "../picture"
+import "../picture/media.js" as Media
 
 /// A small picture of an entry with rounded corners. Until it is there, and where there is none, its place holds the
 /// first letter of `label` on a colour of its own.
@@ -28,9 +29,9 @@ Rectangle {
     Picture {
         anchors.fill: parent
         visible: status === Image.Ready
-        source: root.source
+        address: Media.address(root.source)
         fillMode: Image.PreserveAspectCrop
-        decodeSize: Qt.size(Math.ceil(root.width) * 2, 0)
+        sourceSize.width: Math.ceil(root.width) * 2
         layer.enabled: visible && root.radius > 0 && width > 0 && height > 0
         layer.smooth: true
         layer.samplerName: "_image"

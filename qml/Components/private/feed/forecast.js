@@ -35,16 +35,15 @@ function temperature(celsius, isFahrenheit) {
     return (value < 0 ? "−" + -value : value === 0 ? "0" : String(value)) + "°";
 }
 
-/// Name of the drawing below "icons" for a weather code.
+/// Name of the drawing below "icons" for a weather code; "" for an unknown one.
 function icon(code, isDay) {
-    const kind = _kind(code);
-    return "weather" + kind + (!isDay && (kind === "Clear" || kind === "Fair") ? "Night" : "");
+    const kind = _nameOf(code, _kinds);
+    return kind === "" ? "" : "weather" + kind + (!isDay && (kind === "Clear" || kind === "Fair") ? "Night" : "");
 }
 
 /// What a weather code is called; "" for an unknown one.
 function description(code) {
-    const found = _descriptions.find(entry => code >= entry[0] && code <= entry[1]);
-    return found ? found[2] : "";
+    return _nameOf(code, _descriptions);
 }
 
 const _kinds = [[0, 0, "Clear"], [1, 2, "Fair"], [3, 3, "Cloudy"], [45, 48, "Fog"], [51, 55, "Drizzle"],
@@ -59,9 +58,10 @@ const _descriptions = [[0, 0, qsTr("Clear sky")], [1, 1, qsTr("Mainly clear")], 
                        [80, 82, qsTr("Showers")], [85, 86, qsTr("Snow showers")], [95, 95, qsTr("Thunderstorm")],
                        [96, 99, qsTr("Thunderstorm with hail")]];
 
-function _kind(code) {
-    const found = _kinds.find(entry => code >= entry[0] && code <= entry[1]);
-    return found ? found[2] : "Cloudy";
+// The name of `code` in `table`, of lines with the first code, the last one and the name; "" where it is in none.
+function _nameOf(code, table) {
+    const found = table.find(line => code >= line[0] && code <= line[1]);
+    return found ? found[2] : "";
 }
 
 function _current(answer) {

@@ -4,64 +4,84 @@ import QtQuick 2.15
 import "entries.js" as Entries
 import "../fonts.js" as Fonts
 
-/// One entry of a CartaMenu: name, dots, price, and the details below.
-Column {
+/// One entry of a CartaMenu: name, dots, price, and the details below. Where the name takes two lines, the dots and the
+/// price stand on the second.
+Item {
     id: root
 
     /// The CartaMenu and the entry of its model.
     property Item menu
     property var entry
-    // A line that is cut off at the lower edge waits for the next page.
-    readonly property bool fits: y + height <= menu.contentY + menu.height || height > menu.height
+    /// The share of their full size that its texts stand in, and the most that it may be high, in pixels.
+    property real share: 1
+    property real most: Infinity
+    readonly property string name: Entries.text(entry, "name", "name")
+    /// The font of the name in full size, and the length that it has with the price and the price has, in pixels.
+    readonly property alias face: title.face
+    readonly property real line: width - (price.text === "" ? 0 : 24 * menu.unit)
+    readonly property real beside: price.width
 
-    opacity: fits ? 1 : 0
-    width: Math.max(0, menu.width - menu.leftMargin - menu.rightMargin)
-    spacing: 2
 
-    Behavior on opacity {
-        NumberAnimation { duration: 400 }
+    function sized(font, share) {
+        return Fonts.sized(font, font.pixelSize * menu.unit * share);
     }
 
-    Item {
-        width: parent.width
-        height: Math.max(name.height, price.height)
+    width: Math.max(0, menu.width - menu.leftMargin - menu.rightMargin)
+    height: title.height + (details.text === "" ? 0 : details.height + 2)
 
-        Text {
-            id: name
-            width: Math.max(0, Math.min(implicitWidth, parent.width - price.width - 40 * root.menu.unit))
-            text: Entries.text(root.entry, "name", "name")
-            color: root.menu.nameColor
-            font: Fonts.sized(root.menu.nameFont, root.menu.nameFont.pixelSize * root.menu.unit)
-            elide: Text.ElideRight
-            textFormat: Text.PlainText
-        }
+    NameText {
+        id: title
+        // Place of the last line: its upper edge and its length in pixels.
+        property real lastTop: 0
+        property real lastLength: 0
 
-        Leader {
-            anchors { left: name.right; right: price.left; baseline: name.baseline }
-            anchors.margins: 10 * root.menu.unit
-            baselineOffset: height
-            visible: price.text !== ""
-            size: name.font.pixelSize
-            color: root.menu.detailsColor
+        anchors.left: parent.left
+        // A little more than it was measured for, as letters come in whole pixels.
+        width: Math.max(0, root.line - root.beside + 4 * root.menu.unit)
+        face: root.sized(root.menu.nameFont, 1)
+        share: root.share
+        text: root.name
+        color: root.menu.nameColor
+        horizontalAlignment: Text.AlignLeft
+        onLineLaidOut: {
+            lastTop = line.y;
+            lastLength = line.implicitWidth;
         }
+    }
 
-        Text {
-            id: price
-            anchors { right: parent.right; baseline: name.baseline }
-            text: Entries.text(root.entry, "price")
-            color: root.menu.priceColor
-            font: Fonts.sized(root.menu.priceFont, root.menu.priceFont.pixelSize * root.menu.unit)
-            textFormat: Text.PlainText
-        }
+    Leader {
+        anchors { left: parent.left; right: price.left }
+        anchors.leftMargin: title.lastLength + 10 * root.menu.unit
+        anchors.rightMargin: 10 * root.menu.unit
+        y: title.lastTop + title.baselineOffset - height
+        visible: price.text !== ""
+        size: title.font.pixelSize
+        color: root.menu.detailsColor
     }
 
     Text {
-        width: parent.width
-        visible: root.menu.showDetails && text !== ""
-        text: Entries.text(root.entry, "details")
-        color: root.menu.detailsColor
-        font: Fonts.sized(root.menu.detailsFont, root.menu.detailsFont.pixelSize * root.menu.unit)
-        wrapMode: Text.WordWrap
+        id: price
+        anchors.right: parent.right
+        y: title.lastTop + title.baselineOffset - baselineOffset
+        width: Math.min(implicitWidth, root.width / 2)
+        text: Entries.text(root.entry, "price")
+        color: root.menu.priceColor
+        font: root.sized(root.menu.priceFont, root.share)
+        elide: Text.ElideRight
         textFormat: Text.PlainText
+    }
+
+    Text {
+        id: details
+        anchors { left: parent.left; right: parent.right; top: title.bottom }
+        anchors.topMargin: 2
+        text: root.menu.showDetails ? Entries.text(root.entry, "details") : ""
+        color: root.menu.detailsColor
+        font: root.sized(root.menu.detailsFont, (1 + root.share) / 2)
+        wrapMode: Text.WordWrap
+        maximumLineCount: Math.max(1, Math.min(99, Math.floor((root.most - title.height) / (1.5 * font.pixelSize))))
+        elide: Text.ElideRight
+        textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignLeft
     }
 }

@@ -14,16 +14,15 @@ Rectangle {
     width: Math.max(0, menu.width - menu.leftMargin - menu.rightMargin)
     height: (menu.title === "" ? 24 : 40) * menu.unit + (menu.title === "" ? 0 : label.height)
     color: menu.backColor
-    // The list would keep its place as if the title still had its old height.
-    onHeightChanged: Qt.callLater(menu.positionViewAtBeginning)
 
-    Text {
+    MenuName {
         id: label
         y: 22 * root.menu.unit
-        width: parent.width
+        line: parent.width
+        // A second line only in the smallest letters.
+        room: 1.7 * face.pixelSize
         text: root.menu.title
         color: root.menu.titleColor
-        font: Fonts.sized(root.menu.titleFont, root.menu.titleFont.pixelSize * root.menu.unit)
-        elide: Text.ElideRight
+        face: Fonts.sized(root.menu.titleFont, root.menu.titleFont.pixelSize * root.menu.unit)
     }
 }

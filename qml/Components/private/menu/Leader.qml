@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-/// The dots that lead from a name to its price.
+/// The dots that lead from a name to its price, where there is room for a few.
 Item {
     id: root
 
@@ -10,6 +10,7 @@ Item {
     property real size: 24
     property color color: "gray"
     readonly property real step: Math.max(2, size * 0.36)
+    readonly property int dots: Math.min(400, Math.max(0, Math.floor(width / step)))
 
     implicitHeight: size * 0.3
     clip: true
@@ -19,7 +20,7 @@ Item {
         spacing: root.step * 0.7
 
         Repeater {
-            model: Math.min(400, Math.max(0, Math.floor(root.width / root.step)))
+            model: root.dots < 4 ? 0 : root.dots
 
             Rectangle {
                 width: root.step * 0.3

@@ -34,3 +34,11 @@ function at(model, index) {
         return undefined;
     return model.get !== undefined ? model.get(index) : model[index];
 }
+
+/// The entries of `model` as an array, `most` of them at the most.
+function list(model, most) {
+    const entries = [];
+    for (let i = 0; i < Math.min(most, count(model)); ++i)
+        entries.push(at(model, i));
+    return entries;
+}

@@ -9,9 +9,9 @@ import QtQuick.Window 2.15
 Picture {
     id: root
 
-    readonly property bool isUsable: status === Image.Ready && Math.max(naturalWidth, naturalHeight) <= 1024
+    readonly property bool isUsable: status === Image.Ready && Math.max(implicitWidth, implicitHeight) <= 1024
     /// The address to draw particles with.
-    readonly property url dot: isUsable ? shownAddress : "qrc:///Nuvex/Components/icons/particle.png"
+    readonly property url dot: isUsable ? address : "qrc:///Nuvex/Components/icons/particle.png"
     property int frames: 0
     /// Whether particles may come.
     readonly property bool isReady: settled && frames >= 4

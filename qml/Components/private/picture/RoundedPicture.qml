@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import "media.js" as Media
 import "../limits.js" as Limits
 
 /// A Picture with rounded corners, which crops to fill its place.
 Item {
     id: root
 
-    property alias source: picture.source
+    property var source: ""
     property alias status: picture.status
     /// Corner radius in pixels; half the size and more makes a circle or a stadium.
     property real radius: 12
@@ -34,6 +35,7 @@ Item {
     Picture {
         id: picture
         anchors.fill: parent
+        address: Media.address(root.source)
         fillMode: Image.PreserveAspectCrop
     }
 }

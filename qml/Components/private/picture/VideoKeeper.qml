@@ -6,7 +6,7 @@ import QtMultimedia 5.15
 import ".."
 import "../presence.js" as Presence
 
-/// Looks after its parent, a Video: makes it hold, play and rest with its slide, shows a quiet placeholder while it
+/// Looks after its parent, a Video: makes it hold, play and rest with its slide, marks its place in the editor while it
 /// cannot be played, and tries again when its file comes back.
 Item {
     id: root
@@ -14,6 +14,8 @@ Item {
     property Item video
     property int presence: Presence.shown
     property bool onAir: true
+    /// Whether it played when it was hidden, whoever had started it: then it goes on when it is seen again.
+    property bool hasPlayed: false
     readonly property bool isMissing: video.error !== MediaPlayer.NoError || video.status === MediaPlayer.InvalidMedia
     readonly property bool isEmpty: video.source == ""
     readonly property bool isReady: video.playbackState !== MediaPlayer.StoppedState
@@ -30,9 +32,12 @@ Item {
         // The document may have gone meanwhile.
         if (!root || root.isEmpty || root.isMissing)
             return;
+        const isPlaying = root.video.playbackState === MediaPlayer.PlayingState;
+        const plays = isPlaying || root.hasPlayed;
+        root.hasPlayed = plays && !root.onAir && root.presence !== Presence.absent;
         if (root.presence === Presence.absent)
             root.video.stop();
-        else if (root.onAir && root.video.autoPlay)
+        else if (root.onAir && (root.video.autoPlay || plays))
             root.video.play();
         else
             root.video.pause();
@@ -86,11 +91,9 @@ Item {
         onWorthTrying: root.loadAgain()
     }
 
-    Loader {
-        anchors.fill: parent
-        active: root.isMissing || root.isEmpty
-        sourceComponent: Placeholder {
-            icon: "missingVideo"
-        }
+    Placeholder {
+        target: root.video
+        isNeeded: root.isMissing || root.isEmpty
+        icon: "missingVideo"
     }
 }

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// Media addresses and sizes. Not a shared library: it needs the importing document's CAPI.
-.import "../limits.js" as Limits
+// Media addresses. Not a shared library: it needs the importing document's CAPI.
 
 /// The address to load for `source`, a url or text as written in a project: a path is the project's own file, else one
 /// of the component library; an url stays as it is. "" for nothing.
@@ -21,33 +20,10 @@ function expectedAddress(path) {
     return "file://" + file.split("/").map(encodeURIComponent).join("/");
 }
 
-// Image.PreserveAspectFit and Image.PreserveAspectCrop, which scripts cannot see.
-const fit = 1;
-const crop = 2;
-
-/// Size to decode the picture `source` at: `wanted` if that says something; vector drawings large enough for an item
-/// of width x height, in steps, so that a small change does not load them again; photos at their own size up to the
-/// limit.
-function decodedSize(source, wanted, width, height) {
-    const edge = Limits.pictureEdge;
-    if (wanted.width > 0 || wanted.height > 0)
-        return Qt.size(Math.min(wanted.width, edge), Math.min(wanted.height, edge));
-    if (!/\.svgz?$/i.test(String(source)))
-        return Qt.size(edge, edge);
-    const longest = Math.max(64, width, height);
-    const step = Math.min(edge, Math.pow(2, Math.ceil(Math.log(longest) / Math.LN2)));
-    return Qt.size(step, step);
-}
-
-/// Where a picture of `pictureWidth` x `pictureHeight` stands in an item of width x height, for one of Image's fill
-/// modes.
-function placeOf(fillMode, pictureWidth, pictureHeight, width, height) {
-    if (!(fillMode === fit || fillMode === crop) || !(pictureWidth > 0) || !(pictureHeight > 0))
-        return Qt.rect(0, 0, width, height);
-    const byWidth = width / pictureWidth;
-    const byHeight = height / pictureHeight;
-    const scale = fillMode === fit ? Math.min(byWidth, byHeight) : Math.max(byWidth, byHeight);
-    const w = pictureWidth * scale;
-    const h = pictureHeight * scale;
-    return Qt.rect(Math.round((width - w) / 2), Math.round((height - h) / 2), w, h);
+/// Size in pixels of a copy of a video's frame for `item`: the video's own, `resolution`, where it is known and smaller
+/// than the item; else 0 x 0, which stands for the item's.
+function copySize(resolution, item) {
+    const isSmall = resolution !== undefined && resolution.width > 0 && resolution.height > 0
+        && resolution.width * resolution.height < item.width * item.height;
+    return isSmall ? resolution : Qt.size(0, 0);
 }

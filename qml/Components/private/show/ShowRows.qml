@@ -18,7 +18,7 @@ Column {
     }
     TimeRow {
         name: "transTime"
-        label: qsTr("It takes")
+        label: qsTr("Duration")
         to: 10
         step: 0.1
     }
@@ -30,6 +30,6 @@ Column {
     }
     CheckRow {
         name: "running"
-        label: qsTr("Runs")
+        label: qsTr("Running")
     }
 }

@@ -5,7 +5,8 @@
 // The transitions between two slides, as functions from progress to placement.
 
 /// Names of all transitions, as they are written in documents.
-const names = ["cut", "fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover"];
+const names = ["cut", "fade", "slideLeft", "slideRight", "slideUp", "slideDown", "zoom", "wipe", "wipeDown", "cover",
+               "stagger"];
 
 /// `name` if there is such a transition, else the gentlest one.
 function known(name) {
@@ -15,11 +16,12 @@ function known(name) {
 /// Whether the incoming slide is drawn as one picture during the transition, so that its parts do not shine through
 /// each other.
 function isGrouped(name) {
-    return ["fade", "zoom", "wipe", "wipeDown"].indexOf(name) >= 0;
+    return ["fade", "zoom", "wipe", "wipeDown", "stagger"].indexOf(name) >= 0;
 }
 
 /// Where both slides stand at `progress` (0 to 1) of transition `name` in a frame of width x height. Members: x, y,
-/// opacity, scale, reveal (share of the slide that a wipe has uncovered) and down (whether the wipe runs downwards).
+/// opacity, scale, reveal (share of the slide that a wipe has uncovered), down (whether the wipe runs downwards) and
+/// front (opacity of what stands before the slide's pictures).
 function placement(name, progress, width, height) {
     const result = { incoming: standing(), outgoing: standing() };
     const step = steps[name];
@@ -36,11 +38,12 @@ function place(slide, at) {
     slide.scale = at.scale;
     slide.reveal = at.reveal;
     slide.revealsDown = at.down;
+    slide.front = at.front;
 }
 
 /// A slide's placement between transitions.
 function standing() {
-    return { x: 0, y: 0, opacity: 1, scale: 1, reveal: 1, down: false };
+    return { x: 0, y: 0, opacity: 1, scale: 1, reveal: 1, down: false, front: 1 };
 }
 
 // What lies under a slide that fades in stays until it is covered, then goes: no dip to the background between two
@@ -69,11 +72,18 @@ function wipe(down) {
     };
 }
 
+function fade(incoming, outgoing, progress) {
+    incoming.opacity = coveredShare(progress);
+    outgoing.opacity = leavingOpacity(progress);
+}
+
+// How far `progress` has come between `from` and `to`, 0 to 1.
+function part(progress, from, to) {
+    return Math.max(0, Math.min(1, (progress - from) / (to - from)));
+}
+
 const steps = {
-    fade: function(incoming, outgoing, progress) {
-        incoming.opacity = coveredShare(progress);
-        outgoing.opacity = leavingOpacity(progress);
-    },
+    fade: fade,
     slideLeft: push(-1, 0),
     slideRight: push(1, 0),
     slideUp: push(0, -1),
@@ -88,5 +98,12 @@ const steps = {
     cover: function(incoming, outgoing, progress, width) {
         incoming.x = width * (1 - progress);
         outgoing.x = -0.3 * width * progress;
+    },
+    // Texts leave, the picture changes, texts come: never two texts over each other. Progress is slow at both ends:
+    // each of the three takes about a third of the time.
+    stagger: function(incoming, outgoing, progress) {
+        outgoing.front = 1 - part(progress, 0, 0.1);
+        fade(incoming, outgoing, part(progress, 0.1, 0.9));
+        incoming.front = part(progress, 0.9, 1);
     }
 };

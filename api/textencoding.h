@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/// Whether the file at `path` can be written as text and loses nothing: it is UTF-8, missing, or larger than
+/// a text file may be, which is never shown as text. Any thread.
+bool isUtf8File(const QString& path);
+
+/// Keeps a file that is about to be overwritten with UTF-8 and is not UTF-8 itself as "NAME.orig" beside it,
+/// or "NAME.orig2" and so on, and says so in the log. False when that is not possible.
+bool keepOtherEncoding(const QString& path);
