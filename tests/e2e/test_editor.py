@@ -308,6 +308,63 @@ class DesktopEditorTest(EditorTest):
         wait_for(lambda: not program.find("keySheet"), "its end")
         self.assertGreater(self.rect("page")[2], page[2])
 
+    def test_outline(self):
+        program = self.open()
+        program.click("Items")
+        program.click("outline spot")
+        self.wait_selected("spot")
+        self.rename("page", "board")
+        self.wait_selected("board")
+        self.assertEqual(self.saved(), DOCUMENT.replace("id: page", "id: board").replace("page.width", "board.width"))
+        self.rename("red", "blue")
+        program.wait_text('"blue" is used already')
+        self.click("findItem")
+        program.type("fir")
+        wait_for(lambda: not program.find("outline blue"), "the rows that hold it alone")
+        program.click("outline first")
+        self.wait_selected("first")
+
+    def rename(self, item, name):
+        self.click(f"outline {item}", times=2)
+        wait_for(lambda: (self.program.find("newId") or {}).get("focus"), "a field for the id")
+        self.program.key("ctrl+a")
+        self.program.type(name)
+        self.program.key("Return")
+
+    def test_starting(self):
+        self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", shareFolder="false")
+        program = self.program = self.start()
+        self.begin("Cafe")
+        program.wait_page("RADEditorPage")
+        program.wait_text("Nothing on the page yet")
+        self.drag("palette BasicRectangle", by=(500, 0))
+        self.wait_selected("BasicRectangle")
+        program.click("Back")
+        wait_for(lambda: program.find("Save and leave"), "the question")
+        program.key("Escape")
+        wait_for(lambda: not program.find("Save and leave"), "its end")
+        program.click("Back")
+        program.click("Save and leave")
+        program.wait_page("MainPage")
+        folder = self.profile.work / "Cafe"
+        self.assertIn("BasicRectangle {", (folder / "main.qml").read_text())
+        self.assertIn("width: 1080\n    height: 1920", (folder / "main.qml").read_text())
+        self.assertIn("main.qml 2", (folder / "dirmap").read_text())
+        self.begin("Cafe")
+        program.wait_text("There is a project of that name.")
+
+    def begin(self, name):
+        program = self.program
+        program.wait_page("MainPage")
+        program.click("Open")
+        program.wait_page("ProjectsPage")
+        program.key("ctrl+n")
+        program.wait_page("NewProjectPage")
+        wait_for(lambda: program.find("projectName")["focus"], "the field for the name")
+        program.type(name)
+        program.click("Portrait")
+        program.click("Create and edit")
+
     def test_documents_that_cannot_be_shown(self):
         cases = {"Item {\n    width: }": "Line 2: ", "import QtQuick 2.15\nItm {}": "Line 2: Itm is not a type",
                  "import QtQml 2.15\nQtObject {}": "its root is no visual item", "": "It is empty.",
