@@ -68,7 +68,8 @@ QString Workspace::shareFolder() const
 
 QString Workspace::stillOf(const QString& name) const
 {
-    return isFolderName(name) ? stillsFolder(m_root) + QLatin1Char('/') + name + QStringLiteral(".jpg") : QString();
+    return isFolderName(name) ? stillsFolder(m_root) + QLatin1Char('/') + name + QStringLiteral(".jpg")
+                              : QString();
 }
 
 QStringList Workspace::listProjects()

@@ -7,8 +7,8 @@
 
 /// The folders that the program keeps its projects in, and the list of projects. GUI thread.
 ///
-/// Below the root lie "Work", with one folder a project, "ShareFolder", the area of shared projects, and "Stills",
-/// with one picture a project.
+/// Below the root lie "Work", with one folder a project, "ShareFolder", the area of shared projects, and
+/// "Stills", with one picture a project.
 class Workspace
 {
 public:
@@ -24,8 +24,8 @@ public:
     QString workDirectory() const;
     /// The area of shared projects.
     QString shareFolder() const;
-    /// The file that holds a still picture of the project, made when it was last seen playing or being edited;
-    /// empty when `name` cannot name a project. The file need not exist.
+    /// The file that holds a still picture of the project, made when it was last seen playing or being
+    /// edited; empty when `name` cannot name a project. The file need not exist.
     QString stillOf(const QString& name) const;
 
     /// Names of the projects, in file-system order; also remembered as the cached list.

@@ -64,7 +64,8 @@ T.ItemDelegate {
 
         Column {
             id: lines
-            x: root.pictureWidth > 0 ? root.pictureWidth + 2 * root.spacing : (icon.visible ? icon.width + root.spacing : 0)
+            x: root.pictureWidth > 0 ? root.pictureWidth + 2 * root.spacing
+                                     : (icon.visible ? icon.width + root.spacing : 0)
             width: parent.width - x
             anchors.verticalCenter: parent.verticalCenter
 
