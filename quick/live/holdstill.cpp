@@ -80,9 +80,8 @@ private:
     static void pausePlayer(QObject& object)
     {
         const QVariant state = object.property("playbackState");
-        if (state.isValid() && state.toInt() == QMediaPlayer::PlayingState)
-            QMetaObject::invokeMethod(&object, "pause");
-        else if (object.inherits("TransparentVideo"))
+        const bool isPlaying = state.isValid() && state.toInt() == QMediaPlayer::PlayingState;
+        if (isPlaying || object.inherits("TransparentVideo"))
             QMetaObject::invokeMethod(&object, "pause");
     }
 

@@ -4,6 +4,7 @@
 #include "quick/live/livescene.h"
 
 #include "quick/limits.h"
+#include "quick/live/holdstill.h"
 #include "quick/live/scriptwatch.h"
 
 #include <QQmlComponent>
@@ -90,7 +91,8 @@ void LiveScene::clear()
 {
     if (!m_root)
         return;
-    m_context.reset(); // else bindings would miss the parents that go before them
+    holdStill(*m_root, Particles::Hold); // particles would miss the context
+    m_context.reset();                   // with it, bindings would miss the parents that go before them
     m_root->setParentItem(nullptr);
     m_root->deleteLater(); // it may be one of its own handlers that asks
     m_root.clear();

@@ -29,7 +29,7 @@ BGUI.ModalPopup {
 
         Column {
             id: sheet
-            width: pane.width
+            width: pane.width - 2 * BGUI.Theme.unit
             spacing: 2 * BGUI.Theme.unit
 
             BGUI.Label {

@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// One object of the outline: its id, if it has one, and its type.
+/// One object of the outline: its id or its text, if it has one, and its type.
 Item {
     id: root
 
@@ -58,7 +58,7 @@ Item {
         height: parent.height
         size: "small"
         strong: root.isSelected
-        text: root.row.id === "" ? root.row.type : qsTr("%1 · %2").arg(root.row.id).arg(root.row.type)
+        text: root.row.name === "" ? root.row.type : qsTr("%1 · %2").arg(root.row.name).arg(root.row.type)
         textFormat: Text.PlainText
         wrapMode: Text.NoWrap
         elide: Text.ElideRight

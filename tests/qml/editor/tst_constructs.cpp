@@ -55,6 +55,10 @@ void TestConstructs::constructs_data()
     shown("attached", "Item { Keys.onPressed: { } Component.onCompleted: x = 3; Text { } }");
     shown("names of the editor",
           "Item { property var desk: 1; property int root: 2; Text { text: root; x: desk } }");
+    shown("particles",
+          "import QtQuick.Particles 2.15\nItem { width: 99; height: 99; ParticleSystem {\n"
+          "Emitter { width: 9; height: 9; emitRate: 300 } ImageParticle { source: 'particle.png' }\n"
+          "Affector { onAffectParticles: { } } } Text { } }");
     QTest::newRow("window") << "import QtQuick.Window 2.15\nWindow { }"
                             << "its root is no visual item";
     QTest::newRow("no item") << "Timer { }"
