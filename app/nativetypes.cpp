@@ -9,11 +9,13 @@
 #include "api/projectstill.h"
 #include "api/textfile.h"
 #include "api/transfers.h"
+#include "app/livedocument.h"
 #include "cloud/deployment.h"
 #include "lan/projectexchange.h"
 #include "qmldoc/documentfaults.h"
 #include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
+#include "quick/live/snapper.h"
 #include "quick/picture/boundedimage.h"
 #include "quick/video/transparentvideo.h"
 
@@ -38,6 +40,8 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     qmlRegisterType<Exchange>("Nuvex.Native", 1, 1, "Exchange");
     qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
+    qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");
+    qmlRegisterType<Snapper>("Nuvex.Native", 1, 1, "Snapper");
     // The engine owns a singleton that its provider returns.
     qmlRegisterSingletonType<SourceEdits>(
         "Nuvex.Native", 1, 1, "SourceEdits",

@@ -94,12 +94,19 @@ FormPage {
     title: qsTr("Projects")
     Component.onCompleted: tab = local.count === 0 ? 1 : 0
 
-    actions: BGUI.Button {
-        visible: false
-        faIcon: "fa-upload"
-        text: "Import"
-        onClicked: root.browse()
-    }
+    actions: [
+        BGUI.Button {
+            visible: false
+            faIcon: "fa-upload"
+            text: "Import"
+            onClicked: root.browse()
+        },
+        BGUI.Button {
+            faIcon: "fa-plus"
+            text: qsTr("New")
+            onClicked: root.shell.open("NewProjectPage")
+        }
+    ]
 
     BGUI.SwitchTabs {
         id: tabRow
@@ -177,7 +184,7 @@ FormPage {
         visible: root.tab === 0 && local.count === 0
         faIcon: "fa-folder-open-o"
         title: qsTr("There is no project on this computer")
-        text: qsTr("Press Ctrl+I to import a zip archive, or put a folder with a main.qml into %1.")
+        text: qsTr("Press Ctrl+N to make one, Ctrl+I to import a zip archive, or put a folder with a main.qml into %1.")
               .arg(CAPI.getWorkDirectory())
     }
 
@@ -223,6 +230,12 @@ FormPage {
 
     RequestTimer {
         id: timeOut
+    }
+
+    Shortcut {
+        sequence: "Ctrl+N"
+        enabled: root.active
+        onActivated: root.shell.open("NewProjectPage")
     }
 
     Shortcut {

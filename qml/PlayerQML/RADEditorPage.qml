@@ -1,15 +1,155 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
+import QtQuick.Window 2.15
+import Nuvex.Editor.desk 1.0
+import Nuvex.Editor.workbench 1.0
+import Nuvex.GUI 1.0 as BGUI
 import "private"
+import "SharedVars.js" as SS
 
-/// The editor for mouse and keyboard.
-ComingPage {
+/// The editor for mouse and keyboard: palette at the left, canvas in the middle, properties at the right, the source
+/// below, one toolbar above. What is done to the document stands in its desk.
+StackPage {
+    id: root
+
+    readonly property Item focused: Window.activeFocusItem
+    readonly property bool isWriting: focused !== null && focused.cursorPosition !== undefined
+
+    // Escape and the back key: out of what goes on, out of a text, up to what holds the item, out of the page.
+    function back() {
+        if (canvas.cancelDrag())
+            return;
+        if (isWriting)
+            canvas.takeKeyboard();
+        else if (desk.selection.item !== null)
+            desk.selection.goUp();
+        else
+            leave();
+    }
+
+    function leave() {
+        desk.settle();
+        if (desk.isChanged)
+            question.open();
+        else
+            shell.pop();
+    }
+
+    function undo() {
+        desk.undo();
+        side.tab = 0;
+    }
+
+    function play() {
+        const file = desk.preparePlay();
+        if (file === "")
+            return;
+        SS.qmlFileName = file;
+        CAPI.trimComponentCache();
+        shell.open("PlayerPage");
+        SS.isPlaying = true;
+    }
+
     objectName: "RADEditorPage"
-    title: qsTr("Editor")
-    faIcon: "fa-pencil-square-o"
-    headline: qsTr("The visual editor is on its way")
-    text: qsTr("Here you will arrange a project by mouse and keyboard. "
-               + "Until then, change the project's main.qml with a text editor; "
-               + "the player shows it at the next start.")
+    onActiveChanged: {
+        if (!active)
+            return;
+        SS.isPlaying = false;
+        SS.qmlFileName = CAPI.editorVersion();
+        CAPI.setFullScreen(false);
+        canvas.takeKeyboard();
+    }
+    Component.onCompleted: desk.open()
+
+    EditingDesk {
+        id: desk
+        objectName: "desk"
+        frameHost: canvas.frameHost
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: BGUI.Theme.ground
+    }
+
+    Toolbar {
+        id: toolbar
+        width: parent.width
+        desk: desk
+        project: CAPI.getBaseProjectName()
+        zoom: canvas.frame ? canvas.frame.viewport.zoom : 1
+        onLeave: root.leave()
+        onUndone: root.undo()
+        onZoomed: canvas.zoomBy(notches)
+        onZoomedTo: canvas.zoomTo(scale)
+        onFitted: canvas.fit()
+        onKeysWanted: sheet.open()
+        onPlayWanted: root.play()
+    }
+
+    LeftPane {
+        id: left
+        anchors.top: toolbar.bottom
+        anchors.bottom: parent.bottom
+        width: 26 * BGUI.Theme.unit
+        desk: desk
+        dragArea: root
+    }
+
+    CanvasPane {
+        id: canvas
+        anchors.top: toolbar.bottom
+        anchors.left: left.right
+        anchors.right: side.left
+        anchors.bottom: source.visible ? source.top : parent.bottom
+        focus: true
+        desk: desk
+        hand: toolbar.handIsOn
+    }
+
+    SourcePane {
+        id: source
+        anchors.left: left.right
+        anchors.right: side.left
+        anchors.bottom: parent.bottom
+        height: Math.round(0.4 * (parent.height - toolbar.height))
+        visible: toolbar.sourceIsShown || desk.fault !== null
+        desk: desk
+    }
+
+    SidePane {
+        id: side
+        anchors.top: toolbar.bottom
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        width: 42 * BGUI.Theme.unit
+        desk: desk
+    }
+
+    KeySheet {
+        id: sheet
+    }
+
+    LeaveQuestion {
+        id: question
+        project: toolbar.project
+        onLeaveWanted: root.shell.pop()
+        onSaveWanted: {
+            if (desk.save())
+                root.shell.pop();
+        }
+    }
+
+    EditorKeys {
+        desk: desk
+        isActive: root.active
+        isWriting: root.isWriting
+        onPlayWanted: root.play()
+        onFitted: canvas.fit()
+        onZoomedTo: canvas.zoomTo(scale)
+        onSourceToggled: toolbar.sourceIsShown = !toolbar.sourceIsShown
+        onKeysWanted: sheet.open()
+        onUndone: root.undo()
+    }
 }

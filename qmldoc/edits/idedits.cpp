@@ -56,14 +56,16 @@ int idOf(const Outline& outline, int object)
     return -1;
 }
 
-// The source of a binding's value, without a semicolon.
+// The id that a binding gives, which may stand in quotes.
 QString valueOf(const Outline& outline, int binding)
 {
     const Member& member = outline.member(binding);
     QString value = outline.text().mid(member.valueBegin, member.end - member.valueBegin);
     if (value.endsWith(';'))
         value.chop(1);
-    return value.trimmed();
+    value = value.trimmed();
+    const bool isQuoted = value.size() > 1 && (value.startsWith('"') || value.startsWith('\''));
+    return isQuoted ? value.mid(1, value.size() - 2) : value;
 }
 
 // Whether `member`, and all within it, is made for each entry of a model, whose roles are names there.

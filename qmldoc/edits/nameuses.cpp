@@ -37,6 +37,8 @@ public:
         const auto* statement = cast<ExpressionStatement*>(binding->statement);
         if (const auto* id = statement ? cast<IdentifierExpression*>(statement->expression) : nullptr)
             add(NameUse::Id, id->name, id->identifierToken);
+        else if (const auto* text = statement ? cast<StringLiteral*>(statement->expression) : nullptr)
+            addQuoted(*text);
         return false;
     }
 
@@ -104,6 +106,13 @@ private:
         if (name == m_name)
             m_uses.push_back({kind, begin(at), int(at.startLine)});
         return true;
+    }
+
+    // An id may stand in quotes.
+    void addQuoted(const StringLiteral& id)
+    {
+        if (id.value == m_name && int(id.literalToken.length) == m_name.size() + 2)
+            m_uses.push_back({NameUse::Id, begin(id.literalToken) + 1, int(id.literalToken.startLine)});
     }
 
     bool owner(ExpressionNode* base)

@@ -300,6 +300,8 @@ void TestEdits::freshIds_data()
                           << "Text { x: a.x }";
     QTest::newRow("taken") << "Text { id: a; x: a.x; Row { id: b9; y: b9.y } Row { id: c } }"
                            << "Text { id: a3; x: a3.x; Row { id: b2; y: b2.y } Row { id: c } }";
+    QTest::newRow("quoted") << "Text { id: \"a\"; x: a.x }"
+                            << "Text { id: \"a3\"; x: a3.x }";
     QTest::newRow("two objects") << "Text { id: a } // c\nRow { x: a.x }"
                                  << "Text { id: a3 } // c\nRow { x: a3.x }";
     QTest::newRow("parameter") << "Text { id: a; function f(a) { return a } }"

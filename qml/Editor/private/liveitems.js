@@ -8,10 +8,17 @@
 /// The visible numbered items below `parent` at the point (x, y) of `root`: parents before children, and of
 /// siblings the one drawn on top last.
 function under(x, y, parent, root) {
-    return _drawingOrder(parent.children).filter(child => child.visible).reduce((found, child) => {
-        const hit = _isNumbered(child) && child.contains(root.mapToItem(child, x, y));
-        return found.concat(hit ? [child] : [], under(x, y, child, root));
-    }, []);
+    const found = [];
+    _gatherUnder(x, y, parent, root, found);
+    return found;
+}
+
+function _gatherUnder(x, y, parent, root, found) {
+    _drawingOrder(parent.children).filter(child => child.visible).forEach(child => {
+        if (_isNumbered(child) && child.contains(root.mapToItem(child, x, y)))
+            found.push(child);
+        _gatherUnder(x, y, child, root, found);
+    });
 }
 
 /// The item with the number `element`: `parent` or an item below it; null when there is none.

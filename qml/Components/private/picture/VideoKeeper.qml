@@ -29,7 +29,8 @@ Item {
     }
 
     function follow() {
-        if (root.isEmpty || root.isMissing)
+        // The document may have gone meanwhile.
+        if (!root || root.isEmpty || root.isMissing)
             return;
         const isPlaying = root.video.playbackState === MediaPlayer.PlayingState;
         const plays = isPlaying || root.hasPlayed;

@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.Editor 1.0
+import Nuvex.Native 1.1
+import "limits.js" as Limits
+import "outline.js" as Outline
+import "placing.js" as Placing
+
+/// The document that is being edited, as the pages and panels of an editor work on it: opened, shown, undone, saved,
+/// played. What is done to its items stands in the desk's parts. Source, item map and live document go together; when
+/// a change cannot be shown, all three are what they were before.
+QtObject {
+    id: root
+
+    /// Loads the editing frame; the page has it on its canvas.
+    property Loader frameHost
+    readonly property Item frame: frameHost ? frameHost.item : null
+
+    readonly property LiveDocument live: LiveDocument {}
+    readonly property Selection selection: Selection { desk: root }
+    readonly property Changes changes: Changes { desk: root }
+    readonly property Insertion insertion: Insertion { desk: root }
+    readonly property FileDrop fileDrop: FileDrop { desk: root }
+    readonly property Arrangement arrangement: Arrangement { desk: root }
+
+    /// Counts changes of source and selection, so that what is read from them follows.
+    property int revision: 0
+    property bool canUndo: false
+    property bool canRedo: false
+    /// Whether the source differs from what was saved last.
+    property bool isChanged: false
+    /// Why the document cannot be shown: a map of "line", "column" and "message"; null when it is shown.
+    property var fault: null
+
+    property string savedSource
+
+    /// Something to say to the user for so many milliseconds; `kind` is "info" or "danger".
+    signal told(string text, string kind, int duration)
+    /// The document was made anew.
+    signal shown()
+    /// What goes on is to be ended before something else is done.
+    signal settling()
+
+    Component.onDestruction: live.clear()
+
+    function open() {
+        Ejs.JCAPI = CAPI;
+        Ejs.selectItem = refresh;
+        CAPI.readSourceCode("main.qml");
+        root.savedSource = CAPI.editedSourceCode();
+        if (begin())
+            frame.viewport.fit();
+        Ejs.dirmap = CAPI.dirmap();
+        refresh();
+    }
+
+    // Shows the source for the first time. False when it cannot be shown; `fault` says why.
+    function begin() {
+        CAPI.generateEditor();
+        const isMade = make(CAPI.editedSourceCode());
+        Ejs.map = isMade ? CAPI.getMap() : [];
+        selection.clear();
+        root.shown();
+        return isMade;
+    }
+
+    // Makes the source the live document, in the frame. The first time it brings the frame.
+    function make(source) {
+        const isMade = live.load(source, CAPI.baseFolder(), frame ? frame.viewport : frameHost);
+        root.fault = isMade ? null : source.trim() === "" ? { line: 0, column: 0, message: qsTr("It is empty.") }
+                                                          : live.faults[0];
+        if (!isMade)
+            return false;
+        if (!frame)
+            frameHost.setSource(frameUrl(), { myfill: live.root, desk: root });
+        else
+            frame.myfill = live.root;
+        Ejs.editorObj = live.root;
+        return true;
+    }
+
+    // Puts `code` in place of a source that cannot be shown.
+    function replaceAll(code) {
+        CAPI.setSourceCode(code);
+        if (begin()) {
+            frame.viewport.fit();
+            finish();
+        }
+    }
+
+    function frameUrl() {
+        const path = CAPI.baseFolder() + "/" + CAPI.editorVersion();
+        return "file:///" + encodeURI(path).replace(/[?#]/g, encodeURIComponent);
+    }
+
+    // Shows the document as its source is now instead of `before`. On failure it says why and leaves the view as it is.
+    function reload(before) {
+        const places = selection.places();
+        CAPI.generateEditor();
+        if (!live.load(CAPI.editedSourceCode(), CAPI.baseFolder(), frame.viewport)) {
+            sayFault(live.faults[0]);
+            return false;
+        }
+        frame.myfill = live.root;
+        Ejs.editorObj = live.root;
+        Ejs.map = CAPI.getMap();
+        selection.restore(places, before);
+        root.fault = null;
+        root.shown();
+        return true;
+    }
+
+    // Shows the source as it is now. When that fails the source is again `before`.
+    function showSource(before) {
+        if (reload(before))
+            return true;
+        const fault = live.faults[0];
+        CAPI.setSourceCode(before);
+        reload(before);
+        sayFault(fault);
+        return false;
+    }
+
+    // Makes the live document anew from an unchanged source.
+    function showAgain() {
+        const source = CAPI.editedSourceCode();
+        showSource(source);
+    }
+
+    // Ends a change: one state of the history, whatever it held.
+    function finish() {
+        Ejs.propertyEdited = true;
+        Ejs.codeEdited = true;
+        Ejs.element = selection.item ? selection.item.element : -1;
+        CAPI.saveEditingState();
+        refresh();
+    }
+
+    // Reads anew what the selected item's source says.
+    function refresh() {
+        ++revision;
+        root.isChanged = CAPI.editedSourceCode() !== root.savedSource;
+    }
+
+    // Ends what goes on: a burst of keys, a text that is being written become changes.
+    function settle() {
+        changes.settle();
+        settling();
+    }
+
+    function undo() {
+        settle();
+        step(() => CAPI.getBackwardSource(), () => CAPI.getForwardSource(), () => root.canUndo);
+    }
+
+    function redo() {
+        settle();
+        step(() => CAPI.getForwardSource(), () => CAPI.getBackwardSource(), () => root.canRedo);
+    }
+
+    // Goes to the next state that was filled; where there is none, it stays.
+    function step(go, back, canGo) {
+        const before = CAPI.editedSourceCode();
+        let text = "";
+        while (text === "" && canGo())
+            text = go();
+        if (text === "" || !reload(before)) {
+            while (CAPI.editedSourceCode() !== before)
+                back();
+        }
+        refresh();
+    }
+
+    // Puts `code` in place of the selected item's source, and selects the item that it describes.
+    function applySource(code) {
+        settle();
+        const before = CAPI.editedSourceCode();
+        const identification = code.slice(0, code.lastIndexOf("}") + 1);
+        if (!Ejs.replaceElement(code)) {
+            say(Ejs.problem);
+            return false;
+        }
+        if (!showSource(before))
+            return false;
+        const element = Ejs.map.findIndex(record => CAPI.sourceCode(record.pfirst, record.plast) === identification);
+        const item = Ejs.childrenByElement(live.root, element);
+        selection.set(item ? [item] : []);
+        finish();
+        return true;
+    }
+
+    function save() {
+        settle();
+        const source = CAPI.editedSourceCode();
+        if (CAPI.parseAndGetMap(source).length === 0) {
+            say(qsTr("Not saved: the source is no document."));
+            return false;
+        }
+        if (!CAPI.writeToFile(source, "main.qml")) {
+            say(qsTr("Not saved: the file cannot be written. Is the disk full?"));
+            return false;
+        }
+        Ejs.dirmap["main.qml"] = (Ejs.dirmap["main.qml"] || 0) + 1;
+        CAPI.updateDirmapFile(Ejs.dirmap);
+        root.savedSource = source;
+        root.isChanged = false;
+        tell("Saved local", "info", Limits.doneMessage);
+        return true;
+    }
+
+    // Writes the source where it can be played from; the file's name, "" when that failed.
+    function preparePlay() {
+        settle();
+        if (root.fault) {
+            sayFault(root.fault);
+            return "";
+        }
+        CAPI.removeFile("main2.qml");
+        if (CAPI.writeToFile(CAPI.editedSourceCode(), "main2.qml"))
+            return "main2.qml";
+        say(qsTr("It cannot be played: the file cannot be written."));
+        return "";
+    }
+
+    function tell(text, kind, duration) {
+        root.told(text, kind, duration);
+    }
+
+    // Says why something was not done.
+    function say(problem) {
+        tell(problem, "danger", Limits.faultMessage);
+    }
+
+    function sayFault(fault) {
+        say(fault.line > 0 ? qsTr("Line %1: %2").arg(fault.line).arg(fault.message) : fault.message);
+    }
+
+    /// The import lines of the document.
+    function imports() {
+        const record = live.root ? Ejs.map[live.root.element] : null;
+        return record ? CAPI.sourceCode(0, record.pfirst) : "";
+    }
+
+    /// What the source calls the item: its id, else "".
+    function nameOf(item) {
+        const record = item ? Ejs.map[item.element] : null;
+        return record ? Outline.idOf(record) : "";
+    }
+
+    /// The item's type and, if it has one, its name.
+    function titleOf(item) {
+        const record = item ? Ejs.map[item.element] : null;
+        const name = nameOf(item);
+        return record ? (name === "" ? record.typename : qsTr("%1 · %2").arg(record.typename).arg(name)) : "";
+    }
+
+    /// What decides where the item stands; see placing.js.
+    function placingOf(item) {
+        const record = Ejs.map[item.element];
+        const placement = live.placement(item);
+        if (item === live.root || !record)
+            return { by: "", words: "", x: true, y: true, width: true, height: true };
+        if (item.isSlide === true && item.parent && item.parent.slides !== undefined)
+            return { by: "slideshow", words: Placing.placers.slideshow, x: true, y: true, width: true, height: true };
+        return Placing.withBindings(placement, record);
+    }
+
+    function isReorderable(item) {
+        return ["row", "column", "grid", "flow", "layout"].indexOf(placingOf(item).by) >= 0;
+    }
+
+    readonly property Connections states: Connections {
+        target: CAPI
+
+        function onOlderEditingState(ok) {
+            root.canUndo = !ok;
+        }
+
+        function onNewerEditingState(ok) {
+            root.canRedo = !ok;
+        }
+    }
+}

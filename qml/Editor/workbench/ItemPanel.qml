@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.GUI 1.0 as BGUI
+
+/// The panel that an item's component brings with it, else the general one.
+Item {
+    id: root
+
+    property var desk
+    property Item item: null
+    /// How many items are selected.
+    property int count: 0
+
+    readonly property bool hasPanel: item !== null && item.editor !== undefined && item.editor !== null
+                                     && item.editor.status === Component.Ready
+
+    Loader {
+        anchors.fill: parent
+        sourceComponent: root.hasPanel ? root.item.editor : null
+        onLoaded: item.radEditor = true
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: root.item !== null && !root.hasPanel
+        sourceComponent: GeneralPanel {
+            desk: root.desk
+        }
+    }
+
+    BGUI.EmptyState {
+        anchors.centerIn: parent
+        width: parent.width - 4 * BGUI.Theme.unit
+        visible: root.count > 1
+        faIcon: "fa-list-alt"
+        title: qsTr("Several items")
+        text: qsTr("Move, align and order them together; for anything else select one.")
+    }
+}
