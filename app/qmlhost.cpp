@@ -86,6 +86,14 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
     return code;
 }
 
+// Mesa keeps compiled shaders in a file that it maps into memory: a disk that is full kills the program
+// there. Qt keeps those of its own in files that it writes.
+void keepMesaFromTheDisk()
+{
+    if (!qEnvironmentVariableIsSet("MESA_SHADER_CACHE_DISABLE"))
+        qputenv("MESA_SHADER_CACHE_DISABLE", "true");
+}
+
 } // namespace
 
 int runHost(int& argc, char** argv, const Options& options)
@@ -93,6 +101,7 @@ int runHost(int& argc, char** argv, const Options& options)
     prepareIconTable();
     const Deployment deployment = Deployment::find(options.deployment);
     const DisplayHold display;
+    keepMesaFromTheDisk();
     // Lets a web view be shown later without loading its library now.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     int code = 0;

@@ -27,6 +27,9 @@ StackPage {
         CAPI.getFonts();
         project = CAPI.getBaseProjectName();
         documentUrl = fileUrl(CAPI.baseFolder() + "/" + SS.qmlFileName);
+        // What hangs or crashes from here on has a name in the log.
+        if (shell)
+            console.info(shell.log, "plays", documentUrl);
         if (CAPI.fileExist(documentUrl))
             return documentUrl;
         // There is no `api`: without the document this ends here with a script error, and nothing is fetched.
