@@ -3,6 +3,8 @@
 
 #include "api/capi.h"
 
+#include "api/localnetwork.h"
+
 #include <QCoreApplication>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -16,7 +18,6 @@ CAPI* currentInstance = nullptr;
 CAPI::CAPI(QQuickView* view, QObject* parent, const Deployment& deployment, WindowMode windowMode)
     : QObject(parent)
     , m_view(view)
-    , m_deployment(deployment)
     , m_windowMode(windowMode)
     , m_workspace(Workspace::defaultRoot())
     , m_leftovers(m_workspace)
@@ -25,9 +26,12 @@ CAPI::CAPI(QQuickView* view, QObject* parent, const Deployment& deployment, Wind
     , m_projectName(m_settings.text(QStringLiteral("lastProject")))
     , m_editing(
           [this](const QString& text, const QString& fileName) { return m_folder.write(text, fileName); })
+    , m_cloud(deployment, m_workspace, m_settings, m_imports, view)
+    , m_localNetwork(std::make_unique<LocalNetwork>(*this, view, deployment))
 {
     connect(&m_imports, &ImportQueue::runningChanged, this,
             [this](bool running) { emit onExtractFinishedChanged(!running); });
+    passCloudSignalsOn();
     currentInstance = this;
 }
 

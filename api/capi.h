@@ -3,18 +3,21 @@
 
 #pragma once
 
+#include "api/cloudservices.h"
 #include "api/importqueue.h"
 #include "api/leftovers.h"
 #include "api/projectfolder.h"
 #include "api/settings.h"
 #include "api/workspace.h"
-#include "cloud/deployment.h"
 #include "cloud/projectupdatelist.h"
 #include "qmldoc/editingsession.h"
 
 #include <QObject>
 #include <QVariant>
 
+#include <memory>
+
+class LocalNetwork;
 class QQuickView;
 
 /// The one native service object of the QML side, published as the context property "CAPI".
@@ -39,8 +42,9 @@ public:
     };
 
     /// Opens the settings, creates the workspace folders and writes first-run defaults; becomes current().
-    /// `view` is not owned and must outlive this object; it may be null in tests without a window.
-    /// `deployment` is the customer's cloud; one that is not set leaves the cloud's members without effect.
+    /// Projects that were being pulled when the program last ended are whole then, old or new. `view` is not
+    /// owned and must outlive this object; it may be null in tests without a window. `deployment` is the
+    /// customer's cloud; one that is not set leaves the cloud's members without effect.
     CAPI(QQuickView* view, QObject* parent, const Deployment& deployment = {},
          WindowMode windowMode = WindowMode::FullScreenAllowed);
     ~CAPI() override;
@@ -60,10 +64,15 @@ public:
     /// Stores the value and emits iConnectedChanged every time, also when it did not change.
     void setIConnected(bool connected);
 
+    /// The local network, for the QML types that show it.
+    LocalNetwork& localNetwork() { return *m_localNetwork; }
+
     /// `path` as a local path, by the rule of ProjectFolder.
     QString resolvedPath(const QString& path) const { return m_folder.resolved(path); }
     /// The imports into this instance's work directory.
     ImportQueue& imports() { return m_imports; }
+    /// This instance's part in the customer's cloud.
+    CloudServices& cloud() { return m_cloud; }
     /// Where the projects lie.
     const Workspace& workspace() const { return m_workspace; }
 
@@ -92,9 +101,9 @@ signals:
     void newerEditingState(bool ok);
     /// `ok`: the edited source is the oldest recorded state, there is nothing to undo.
     void olderEditingState(bool ok);
-    /// A transfer with the player `name` on the local network began.
+    /// A connection to the player `name` on the local network is up; there may be several to one player.
     void playerConnectionStarted(QString name);
-    /// A transfer with the player `name` on the local network ended.
+    /// A connection to the player `name` has ended; empty when it never said its name.
     void playerConnectionFinished(QString name);
 
 public:
@@ -118,7 +127,8 @@ public:
     Q_INVOKABLE int getISetting(QString name);
     /// Stores a setting at once.
     Q_INVOKABLE void setSetting(QString name, QVariant value);
-    /// Name of the local-network player that the next transfer talks to.
+    /// Exchanges the deployment's project, or the current one, with a connected player of the local network:
+    /// sends or fetches by chance. Returns when that is over; events are processed meanwhile.
     Q_INVOKABLE void setConnectedPlayerName(QString);
 
     // --- files and projects -------------------------------------------------------------------------------
@@ -199,19 +209,26 @@ public:
 
     // --- cloud, updates, local network --------------------------------------------------------------------
 
-    /// Demo projects offered in the cloud: maps with the key "folder".
+    // Those that go to the cloud wait for it in a nested event loop, which ends when the program quits. Pages
+    // use the type Transfers. The signals of transfers tell of these members, and of pulls.
+
+    /// Demo projects offered in the cloud: maps with the key "folder", the name of an archive.
     Q_INVOKABLE QVariantList getDemosList(QString demoFolder);
-    /// Downloads a demo archive and unpacks it into the work directory.
+    /// Downloads the demo archive `cloudDir` + `cloudFile` and imports it into the work directory, which goes
+    /// on in the background.
     Q_INVOKABLE void downloadDemoProject(QString cloudDir, QString cloudFile);
     /// Performs no update; always false.
     Q_INVOKABLE bool updateApp(int version);
-    /// Pushes the changed files of a project to the account's shared folder.
+    /// Pushes the changed files of a project to the account's shared folder. Where a file has changed on both
+    /// sides, this one wins.
     Q_INVOKABLE void doOneShareUp(QString folder);
-    /// Pulls the changed files of a project from the account's shared folder, in the background.
+    /// Pulls the changed files of a project from the account's shared folder, in the background, unless
+    /// `cloudrevision` is empty or pulled already; tries again until it succeeds.
     Q_INVOKABLE void doOneShareDown(QString folder, QString cloudrevision);
-    /// Cloud projects of an account: maps with the key "folder".
+    /// Names of the folders directly below `folder`, an account and perhaps a path: maps with the key
+    /// "folder".
     Q_INVOKABLE QVariantList getCloudProjectList(QString folder);
-    /// Downloads a cloud project.
+    /// Downloads the cloud project `m_menuFolder`, an account and a path, into the work directory.
     Q_INVOKABLE void downloadProject(QString m_menuFolder);
     /// Names of the projects in the work directory, in file-system order.
     Q_INVOKABLE QStringList getProjectList();
@@ -233,7 +250,7 @@ public:
     Q_INVOKABLE bool updateDirmapFile(QVariantMap dirmap);
     /// A new realtime subscriber, owned by the QML engine; null without a cloud.
     Q_INVOKABLE QObject* newFirebaseSubscriber();
-    /// Starts serving players of the local network.
+    /// Starts serving players of the local network, and announcing this one where the deployment says.
     Q_INVOKABLE void startLocalServer();
     /// Downloads one URL into a folder of the project; blocks while events are processed.
     Q_INVOKABLE bool getFile(QString url, QString destDir, QString destName);
@@ -274,9 +291,9 @@ public:
 private:
     void setGenerateZipFinished(bool finished);
     void emitEditingState();
+    void passCloudSignalsOn();
 
     QQuickView* m_view;
-    Deployment m_deployment;
     WindowMode m_windowMode;
     ProjectUpdateList m_projectsToUpdate;
     bool m_generateZipFinished = true;
@@ -288,4 +305,6 @@ private:
     ProjectFolder m_folder;
     QString m_projectName;
     EditingSession m_editing;
+    CloudServices m_cloud;
+    std::unique_ptr<LocalNetwork> m_localNetwork; // last: its threads end before anything else goes
 };

@@ -3,10 +3,40 @@
 
 #include "api/capi.h"
 
+#include "api/localnetwork.h"
 #include "api/logging.h"
 #include "cloud/dirmap.h"
+#include "cloud/realtime/firebasesubscriber.h"
+
+#include <QBuffer>
+#include <QQuickView>
 
 namespace {
+
+const QString root = QStringLiteral("NUVEX/");
+const QString users = QStringLiteral("NUVEX/users/");
+
+QString withSlash(const QString& folder)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+QVariantList toFolderMaps(const QStringList& names)
+{
+    QVariantList maps;
+    for (const QString& name : names)
+        maps.append(QVariantMap{{QStringLiteral("folder"), name}});
+    return maps;
+}
+
+QByteArray jpegOf(const QImage& image, int size)
+{
+    constexpr int quality = 87;
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    image.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation).save(&buffer, "JPG", quality);
+    return jpeg;
+}
 
 void notAvailableYet(const char* member)
 {
@@ -15,15 +45,36 @@ void notAvailableYet(const char* member)
 
 } // namespace
 
-QVariantList CAPI::getDemosList(QString)
+// What the worker and the storage client tell, in the words of this interface.
+void CAPI::passCloudSignalsOn()
 {
-    notAvailableYet(__func__);
-    return {};
+    const SharedFolderThread* worker = &m_cloud.worker();
+    connect(worker, &SharedFolderThread::startUpdating, this, &CAPI::startUpdating);
+    connect(worker, &SharedFolderThread::projectUpdated, this, &CAPI::projectUpdated);
+    connect(worker, &SharedFolderThread::reloadPlayer, this, &CAPI::reloadPlayer);
+    connect(worker, &SharedFolderThread::progressed, this, [this](int, const SyncProgress& progress) {
+        if (progress.bytes == 0)
+            emit(this->*(progress.uploading ? &CAPI::uploadingFile : &CAPI::downloadingFile))(progress.file);
+        else
+            emit(this->*(progress.uploading ? &CAPI::uploadProgress : &CAPI::downloadProgress))(
+                progress.bytes, progress.bytesTotal);
+    });
+    connect(&m_cloud.storage(), &GCloud::uploadProgress, this, &CAPI::uploadProgress);
+    connect(&m_cloud.storage(), &GCloud::downloadProgress, this, &CAPI::downloadProgress);
 }
 
-void CAPI::downloadDemoProject(QString, QString)
+QVariantList CAPI::getDemosList(QString demoFolder)
 {
-    notAvailableYet(__func__);
+    return toFolderMaps(m_cloud.storage().listFiles(root + withSlash(demoFolder), QStringLiteral("zip")));
+}
+
+void CAPI::downloadDemoProject(QString cloudDir, QString cloudFile)
+{
+    const QString archive = m_cloud.store().pathOf(cloudFile);
+    if (archive.isEmpty() || !m_cloud.storage().downloadFile(cloudDir + cloudFile, archive))
+        return;
+    if (extractToWorkDirectory(archive).isEmpty())
+        m_cloud.store().remove(archive);
 }
 
 bool CAPI::updateApp(int)
@@ -31,25 +82,26 @@ bool CAPI::updateApp(int)
     return false;
 }
 
-void CAPI::doOneShareUp(QString)
+void CAPI::doOneShareUp(QString folder)
 {
-    notAvailableYet(__func__);
+    const int job = m_cloud.worker().push(folder, SharedFolderThread::Conflicts::LocalWins);
+    m_cloud.worker().waitFor(job);
 }
 
-void CAPI::doOneShareDown(QString, QString)
+void CAPI::doOneShareDown(QString folder, QString cloudrevision)
 {
-    notAvailableYet(__func__);
+    m_cloud.worker().pull(folder, cloudrevision);
 }
 
-QVariantList CAPI::getCloudProjectList(QString)
+QVariantList CAPI::getCloudProjectList(QString folder)
 {
-    notAvailableYet(__func__);
-    return {};
+    return toFolderMaps(m_cloud.storage().listFolders(users + withSlash(folder)));
 }
 
-void CAPI::downloadProject(QString)
+void CAPI::downloadProject(QString m_menuFolder)
 {
-    notAvailableYet(__func__);
+    const int job = m_cloud.worker().download(m_menuFolder);
+    m_cloud.worker().waitFor(job);
 }
 
 QStringList CAPI::getProjectList()
@@ -97,15 +149,15 @@ bool CAPI::updateDirmapFile(QVariantMap dirmap)
     return writeDirmap(m_folder.absolutePath(), fromVariantMap(dirmap));
 }
 
+// A QObject without a parent that a method returns is the engine's.
 QObject* CAPI::newFirebaseSubscriber()
 {
-    notAvailableYet(__func__);
-    return nullptr;
+    return m_cloud.deployment().isSet() ? std::make_unique<FirebaseSubscriber>().release() : nullptr;
 }
 
 void CAPI::startLocalServer()
 {
-    notAvailableYet(__func__);
+    m_localNetwork->start();
 }
 
 bool CAPI::getFile(QString url, QString destDir, QString destName)
@@ -113,23 +165,29 @@ bool CAPI::getFile(QString url, QString destDir, QString destName)
     return m_folder.download(url, destDir, destName);
 }
 
-void CAPI::uploadScreenshot(int)
+void CAPI::uploadScreenshot(int size)
 {
-    notAvailableYet(__func__);
+    const QImage window = m_view ? m_view->grabWindow() : QImage();
+    if (window.isNull()) {
+        qCWarning(lcApi) << "There is no window to take a screenshot of";
+        return;
+    }
+    const QString object = users + m_cloud.account() + QStringLiteral("/screenshots/") +
+                           m_settings.text(QStringLiteral("playerUID")) + QStringLiteral(".jpg");
+    m_cloud.storage().uploadData(jpegOf(window, size), object);
 }
 
-void CAPI::uploadFile(QString, QString)
+void CAPI::uploadFile(QString localFileName, QString cloudFileName)
 {
-    notAvailableYet(__func__);
+    m_cloud.storage().uploadFile(m_folder.resolved(localFileName), cloudFileName);
 }
 
-QString CAPI::getDownloadUrl(QString)
+QString CAPI::getDownloadUrl(QString cloudFile)
 {
-    notAvailableYet(__func__);
-    return {};
+    return m_cloud.storage().signedUrl(cloudFile);
 }
 
-void CAPI::setConnectedPlayerName(QString)
+void CAPI::setConnectedPlayerName(QString player)
 {
-    notAvailableYet(__func__);
+    m_localNetwork->exchangeAtRandom(player);
 }

@@ -12,6 +12,7 @@ namespace platform {
 /// path stands first among them).
 void restartProgram();
 /// Whether some interface besides loopback is up and running and this host has an address. Nothing is probed.
+/// Any thread.
 bool connectedToNetwork();
 /// Text of the clipboard.
 QString clipboardText();

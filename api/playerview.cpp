@@ -3,6 +3,7 @@
 
 #include "api/playerview.h"
 
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 
@@ -20,4 +21,12 @@ bool PlayerView::showsDocument() const
 {
     const QObject* player = playerIn(m_view);
     return player && player->property("item").value<QObject*>();
+}
+
+void PlayerView::unload() const
+{
+    if (QObject* player = playerIn(m_view))
+        player->setProperty("source", QUrl());
+    if (m_view)
+        m_view->engine()->clearComponentCache();
 }

@@ -17,6 +17,9 @@ public:
 
     /// Whether a project's document is loaded and on the screen.
     bool showsDocument() const;
+    /// Takes the document off the screen and makes the QML engine forget compiled documents, so that changed
+    /// files are read anew. Whoever calls has it loaded again.
+    void unload() const;
 
 private:
     QQuickView* m_view;

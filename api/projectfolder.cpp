@@ -7,7 +7,7 @@
 #include "api/logging.h"
 #include "api/textencoding.h"
 #include "base/atomicfile.h"
-#include "cloud/webfile.h"
+#include "cloud/http/webfile.h"
 
 #include <QFileInfo>
 #include <QFontDatabase>

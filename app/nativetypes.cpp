@@ -3,12 +3,15 @@
 
 #include "app/nativetypes.h"
 
+#include "api/exchange.h"
 #include "api/exports.h"
 #include "api/imports.h"
 #include "api/projectstill.h"
 #include "api/textfile.h"
+#include "api/transfers.h"
 #include "app/livedocument.h"
 #include "cloud/deployment.h"
+#include "lan/projectexchange.h"
 #include "qmldoc/documentfaults.h"
 #include "qmldoc/edits/sourceedits.h"
 #include "quick/highlighter/syntaxhighlighter.h"
@@ -33,7 +36,10 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
     qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
+    qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
+    qmlRegisterType<Exchange>("Nuvex.Native", 1, 1, "Exchange");
+    qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
     qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");
     qmlRegisterType<Snapper>("Nuvex.Native", 1, 1, "Snapper");
     // The engine owns a singleton that its provider returns.

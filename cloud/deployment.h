@@ -17,7 +17,7 @@ struct Deployment
     {
         QString projectId;
         QString privateKeyId;
-        QString privateKey; ///< PEM, PKCS#8
+        QByteArray privateKey; ///< DER, PKCS#1; the file has it as PEM, PKCS#8
         QString clientEmail;
         QString clientId;
     };
@@ -38,13 +38,13 @@ struct Deployment
     QString databaseCredential;
     QString webApiKey;
     QStringList broadcastAddresses; ///< IPv4; where announcements on the local network go
-    QString exchangeProject;        ///< project that is exchanged on the local network
+    QString exchangeProject;        ///< exchanged on the local network; empty: the current project
 
     /// False when no cloud is set up.
     bool isSet() const { return !bucket.isEmpty(); }
 
-    /// Reads a deployment file's text. On failure the result is not set and `fault` says which member is at
-    /// fault, without its value.
+    /// Reads a deployment file's text; one that holds nothing but "lan" sets up no cloud. On failure the
+    /// result is empty and `fault` says which member is at fault, without its value.
     static Deployment parse(const QByteArray& json, QString* fault);
 
     /// Reads a deployment file. A broken or unreadable one is named in the log and counts as none.
@@ -65,11 +65,12 @@ class DeploymentInfo : public QObject
     Q_PROPERTY(QString databaseCredential READ databaseCredential CONSTANT)
     Q_PROPERTY(QString identity READ identity CONSTANT)
     Q_PROPERTY(QString webApiKey READ webApiKey CONSTANT)
+    Q_PROPERTY(bool announces READ announces CONSTANT)
 
 public:
     explicit DeploymentInfo(const Deployment& deployment, QObject* parent = nullptr);
 
-    /// Whether a cloud is set up; the other properties are empty without.
+    /// Whether a cloud is set up; the members that speak of it are empty without.
     bool available() const { return m_deployment.isSet(); }
     /// Host of the realtime database, without a path.
     QString database() const { return m_deployment.hosts.database; }
@@ -77,6 +78,8 @@ public:
     /// Host of the sign-in service, without a path.
     QString identity() const { return m_deployment.hosts.identity; }
     QString webApiKey() const { return m_deployment.webApiKey; }
+    /// Whether this player is to be announced on the local network.
+    bool announces() const { return !m_deployment.broadcastAddresses.isEmpty(); }
 
 private:
     Deployment m_deployment;

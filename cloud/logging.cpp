@@ -3,4 +3,5 @@
 
 #include "cloud/logging.h"
 
-Q_LOGGING_CATEGORY(lcCloud, "nuvex.cloud")
+// Plans, a line a file, only when asked for.
+Q_LOGGING_CATEGORY(lcCloud, "nuvex.cloud", QtInfoMsg)

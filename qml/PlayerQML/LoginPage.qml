@@ -2,16 +2,72 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.Deployment 1.0
+import Nuvex.GUI 1.0 as BGUI
 import "private"
+import "private/identity.js" as Identity
+import "SharedVars.js" as SS
 
-/// Signing in to the account.
-ComingPage {
+/// Signing in to the account, or making one. A success restarts the program, which is the account's then.
+FormPage {
+    id: root
+
+    function send(call) {
+        form.problem = "";
+        busy.start(qsTr("Connecting..."));
+        call(form.email.trim(), form.password, takeAnswer, timeOut);
+    }
+
+    function takeAnswer(success, result) {
+        if (success) {
+            CAPI.setSetting("lastEmail", result.email);
+            CAPI.reStartApp();
+            return;
+        }
+        busy.finish(Identity.text(result), true);
+        form.problem = Identity.words(result);
+        form.focusField();
+    }
+
+    function back() {
+        timeOut.abort();
+        shell.pop();
+    }
+
     objectName: "LoginPage"
     title: qsTr("Login")
-    faIcon: Deployment.available ? "fa-sign-in" : "fa-cloud"
-    headline: Deployment.available ? qsTr("Signing in is on its way") : qsTr("No cloud is set up")
-    text: Deployment.available
-          ? qsTr("Here you will sign in to your account. Until then this player works on its own.")
-          : qsTr("This player works on its own: projects stay on this computer, and no account is needed.")
-    backText: qsTr("Continue without an account")
+    onActiveChanged: {
+        if (active && Deployment.available)
+            form.focusField();
+    }
+
+    LoginForm {
+        id: form
+        visible: Deployment.available
+        focus: visible
+        email: CAPI.getSSetting("lastEmail")
+        onLoginRequested: root.send(SS.login)
+        onSignUpRequested: root.send(SS.signupNewUser)
+        onSkipped: root.back()
+    }
+
+    BGUI.EmptyState {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 8 * BGUI.Theme.unit, 60 * BGUI.Theme.unit)
+        visible: !Deployment.available
+        faIcon: "fa-cloud"
+        title: qsTr("No cloud is set up")
+        text: qsTr("This player works on its own: projects stay on this computer, and no account is needed.")
+
+        BGUI.Button {
+            focus: !Deployment.available
+            type: "primary"
+            size: "large"
+            text: qsTr("Continue without an account")
+            onClicked: root.back()
+        }
+    }
+
+    RequestTimer {
+        id: timeOut
+    }
 }

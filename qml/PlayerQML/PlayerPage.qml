@@ -37,7 +37,12 @@ StackPage {
     function load() {
         notice = "";
         thePlayer.source = "";
-        thePlayer.source = playerSource();
+        // A project that is not here yet comes with the first revision that is heard of.
+        try {
+            thePlayer.source = playerSource();
+        } finally {
+            follower.follow(thePlayer.item);
+        }
     }
 
     objectName: "PlayerPage"

@@ -5,13 +5,18 @@ import Nuvex.Deployment 1.0
 import Nuvex.GUI 1.0 as BGUI
 import Nuvex.Native 1.1
 import "private"
+import "SharedVars.js" as SS
 
 /// The projects to choose from: those on this computer, the store's and the account's.
 FormPage {
     id: root
 
     property int tab: 0
+    // What the database tells of the account's projects: objects with "revision" by their keys.
+    property var published: ({})
 
+    readonly property string user: CAPI.getSSetting("userEmail")
+    readonly property bool hasAccount: Deployment.available && user !== ""
     readonly property var tabs: [qsTr("Local"), "Store", "Cloud"]
 
     function choose(name) {
@@ -37,6 +42,38 @@ FormPage {
     function tell(type, text) {
         notice.type = type;
         notice.text = text;
+    }
+
+    // The keyboard goes back to the tab's list when what it was in has gone.
+    function focusTab() {
+        (tab === 0 ? local : tabRow).forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function readRevisions() {
+        SS.firebaseGet(SS.projectsPath(user), (success, records) => published = success && records || {}, timeOut);
+    }
+
+    function publishedRevision(name) {
+        const record = published[SS.key(name)];
+        return record && record.revision !== undefined ? String(record.revision) : "";
+    }
+
+    function revisionDetail(name) {
+        const here = SS.localRevision(name);
+        const there = publishedRevision(name);
+        if (there === "")
+            return here === "" ? "" : qsTr("revision %1 is here").arg(here);
+        if (here === there)
+            return qsTr("revision %1, which is here").arg(there);
+        return here === "" ? qsTr("revision %1").arg(there) : qsTr("revision %1, here is %2").arg(there).arg(here);
+    }
+
+    function showArrived(name) {
+        local.reload();
+        local.select(name);
+        tab = 0;
+        if (notice.text === "")
+            tell("success", qsTr("%1 is on this computer now.").arg(name));
     }
 
     function showImported(archive, error, projects, cancelled) {
@@ -80,7 +117,10 @@ FormPage {
         model: root.tabs
         currentIndex: root.tab
         focus: root.tab !== 0
-        onActivated: root.tab = index
+        onActivated: {
+            notice.text = "";
+            root.tab = index;
+        }
     }
 
     Column {
@@ -90,7 +130,7 @@ FormPage {
         anchors.horizontalCenter: parent.horizontalCenter
         width: local.width
         spacing: 1.5 * BGUI.Theme.unit
-        bottomPadding: notice.visible || imports.running ? 1.5 * BGUI.Theme.unit : 0
+        bottomPadding: notice.visible || imports.running || transfer.visible ? 1.5 * BGUI.Theme.unit : 0
 
         BGUI.Notice {
             id: notice
@@ -105,8 +145,22 @@ FormPage {
             progress: imports.progress
             onCanceled: {
                 imports.cancel();
-                (root.tab === 0 ? local : tabRow).forceActiveFocus(Qt.TabFocusReason);
+                root.focusTab();
             }
+        }
+
+        CloudTransfer {
+            id: transfer
+            width: parent.width
+            onTold: root.tell(type, text)
+            onVisibleChanged: {
+                if (visible)
+                    forceActiveFocus(Qt.TabFocusReason);
+                else
+                    root.focusTab();
+            }
+            onArrived: root.showArrived(project)
+            onPublished: root.readRevisions()
         }
     }
 
@@ -118,7 +172,9 @@ FormPage {
         width: Math.min(parent.width - 4 * BGUI.Theme.unit, 110 * BGUI.Theme.unit)
         visible: root.tab === 0
         focus: visible
+        canPublish: root.hasAccount && !transfer.running
         onChosen: root.choose(name)
+        onPublishRequested: transfer.publish(name)
         onRemoveRequested: root.remove(name)
     }
 
@@ -132,24 +188,33 @@ FormPage {
               .arg(CAPI.getWorkDirectory())
     }
 
-    BGUI.EmptyState {
-        anchors.centerIn: parent
-        width: parent.width - 8 * BGUI.Theme.unit
+    CloudList {
+        anchors.fill: local
         visible: root.tab === 1
-        faIcon: "fa-shopping-cart"
-        title: Deployment.available ? qsTr("The store is on its way") : qsTr("No cloud is set up")
-        text: Deployment.available ? qsTr("Here you will find ready-made projects to start from.")
-                                   : qsTr("The store's ready-made projects need a cloud.")
+        isStore: true
+        obstacle: Deployment.available ? "" : qsTr("No cloud is set up")
+        remedy: qsTr("The store's ready-made projects need a cloud.")
+        emptyTitle: qsTr("The store is empty")
+        emptyText: qsTr("Whoever looks after this cloud can put archives of projects into it.")
+        canChoose: !transfer.running && !imports.running
+        onChosen: transfer.getArchive(source, name)
     }
 
-    BGUI.EmptyState {
-        anchors.centerIn: parent
-        width: parent.width - 8 * BGUI.Theme.unit
+    CloudList {
+        anchors.fill: local
         visible: root.tab === 2
-        faIcon: "fa-cloud"
-        title: Deployment.available ? qsTr("Cloud projects are on their way") : qsTr("No cloud is set up")
-        text: Deployment.available ? qsTr("Here you will find the projects of your account.")
-                                   : qsTr("The projects of an account need a cloud.")
+        obstacle: Deployment.available ? (root.hasAccount ? "" : qsTr("Nobody is logged in"))
+                                       : qsTr("No cloud is set up")
+        remedy: Deployment.available ? qsTr("Log in to see the projects of your account.")
+                                     : qsTr("The projects of an account need a cloud.")
+        remedyText: Deployment.available ? "Login" : ""
+        emptyTitle: qsTr("Nothing is published yet")
+        emptyText: qsTr("Press the cloud beside a project of the tab %1 to publish it.").arg(root.tabs[0])
+        canChoose: !transfer.running
+        detailOf: name => root.revisionDetail(name)
+        onAboutToList: root.readRevisions()
+        onChosen: transfer.getProject(source, name, root.publishedRevision(name))
+        onRemedyChosen: root.shell.open("LoginPage")
     }
 
     FooterMessage {
@@ -161,6 +226,10 @@ FormPage {
     Imports {
         id: imports
         onFinished: root.showImported(archive, error, projects, cancelled)
+    }
+
+    RequestTimer {
+        id: timeOut
     }
 
     Shortcut {

@@ -62,6 +62,7 @@ FormPage {
         id: form
         userEmail: root.userEmail
         playerUid: root.playerUid
+        onLoginRequested: root.shell.open("LoginPage")
         onLogoutRequested: root.logOut()
         onSharingChosen: root.setSharing(on)
         onSaveRequested: root.save()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 .pragma library
 .import "private/eventstream.js" as EventStream
+.import "private/limits.js" as Limits
 
 // What the pages share, and the calls to the account's realtime database and to the sign-in service.
 //
@@ -40,8 +41,12 @@ function playerPath(user, player) {
     return playersPath(user) + "/" + key(player);
 }
 
+function projectsPath(user) {
+    return "Users/" + key(user) + "/Projects";
+}
+
 function projectPath(user, project) {
-    return "Users/" + key(user) + "/Projects/" + project;
+    return projectsPath(user) + "/" + key(project);
 }
 
 // --- requests ---------------------------------------------------------------------------------------------
@@ -199,46 +204,87 @@ function updateRev(user, project, callback, timerTimeOut) {
 
 // --- realtime subscriptions -------------------------------------------------------------------------------
 
+// What is followed, by its subscriber: {url, take, reader, lastHeard (ms)}.
+const streams = new Map();
+
 // Calls `take` with each value that the place gets, the present one first. Returns the subscriber, which lives
 // until unsubscribe(); null without a cloud.
 function subscribe(child, take) {
     const subscriber = cloudIsSetUp() ? JCAPI.newFirebaseSubscriber() : null;
     if (!subscriber)
         return null;
-    const stream = EventStream.reader();
-    subscriber.dataReceived.connect(function(chunk) { stream.feed(chunk).forEach(take); });
-    subscriber.subscribe(databaseUrl(child));
+    const stream = {"url": databaseUrl(child), "take": take};
+    streams.set(subscriber, stream);
+    subscriber.dataReceived.connect(function(chunk) { hear(stream, chunk); });
+    open(subscriber, stream);
     return subscriber;
+}
+
+function open(subscriber, stream) {
+    stream.reader = EventStream.reader();
+    stream.lastHeard = Date.now();
+    subscriber.subscribe(stream.url);
+}
+
+// Whoever takes a value may end the subscription.
+function hear(stream, chunk) {
+    stream.lastHeard = Date.now();
+    stream.reader.feed(chunk).forEach(function(value) {
+        if (!stream.ended)
+            stream.take(value);
+    });
 }
 
 /// Ends a subscription; null is none.
 function unsubscribe(subscriber) {
     if (!subscriber)
         return;
+    if (streams.has(subscriber))
+        streams.get(subscriber).ended = true;
+    streams.delete(subscriber);
     subscriber.unsubscribe();
     subscriber.destroy();
 }
 
-/// Asks every subscription to open its stream again if that has failed.
+// A stream that failed is opened again, and one in which not even a keep-alive came: it has ended, or its
+// connection has gone without a word.
+function checkUp(subscriber) {
+    const stream = streams.get(subscriber);
+    if (stream && Date.now() - stream.lastHeard >= Limits.streamSilence)
+        open(subscriber, stream);
+    else
+        subscriber.checkUp();
+}
+
+/// Looks after every subscription; called when the cloud has just answered.
 function checkUpSubscriptions() {
     [commandsSubscription, playersSubscription].concat(projectSubscriptions).forEach(function(subscriber) {
         if (subscriber)
-            subscriber.checkUp();
+            checkUp(subscriber);
     });
 }
 
 /// Fetches the project whenever its revision in the cloud changes.
 function subscribeToProjectRevision(user, project) {
-    return subscribe("Users/" + key(user) + "/Projects/" + project + "/revision", function(revision) {
+    return subscribe(projectPath(user, project) + "/revision", function(revision) {
         if (revision !== null)
             JCAPI.doOneShareDown(project, String(revision));
     });
 }
 
-/// Shows the project that the player's entry names, whenever that changes.
+/// The revision of a project that this computer got from the cloud or published last; empty when none is known.
+function localRevision(project) {
+    const work = JCAPI.getWorkDirectory();
+    const file = work + "/../ShareFolder/" + project + "/record.json";
+    const isHere = JCAPI.fileExist(work + "/" + project + "/dirmap") && JCAPI.fileExist(file);
+    const record = isHere ? parsed(JCAPI.readTextFile(file)) : undefined;
+    return record && typeof record.revision === "string" ? record.revision : "";
+}
+
+/// Shows the project that the player's entry names, whenever that changes. The entry's name has no dots.
 function subscribeToPlayerProject(user, player) {
     return subscribe(playerPath(user, player) + "/project", function(project) {
-        if (typeof project !== "string" || project === JCAPI.getSSetting("lastProject"))
+        if (typeof project !== "string" || project === "" || project === key(JCAPI.getSSetting("lastProject")))
             return;
         JCAPI.setSetting("lastProject", project);
         JCAPI.setBaseFolder(project);

@@ -96,6 +96,8 @@ StackView {
         const player = CAPI.getSSetting("playerUID");
         SS.commandsSubscription = SS.subscribeToPlayerCommand(user, player, root);
         heartbeat.start();
+        if (Deployment.announces)
+            CAPI.startLocalServer();
         if (startAction !== "") {
             openByCommandLine();
         } else if (user === "") {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
+#include "cloud/http/webfile.h"
 #include "cloud/limits.h"
-#include "cloud/webfile.h"
 #include "tests/support/httpserver.h"
 #include "tests/support/logcapture.h"
 
@@ -107,6 +107,8 @@ private slots:
     void destroyedDuringTransfer();
     void programQuitsDuringTransfer();
     void diesWithItsParent();
+    void connectionsAreKept();
+    void everythingEndsAtShutDown();
     void leavesNoThreadsOrHandles();
     void stalls();
 
@@ -194,6 +196,7 @@ void TestWebfile::postSendsBodyAndHeaders()
     QCOMPARE(request.headers.value("content-type"), QByteArray("a/b"));
     QCOMPARE(request.headers.value("x-own"), QByteArray("1"));
     QCOMPARE(request.headers.value("user-agent"), QByteArray("Qt NetworkAccess 1.3"));
+    QCOMPARE(request.headers.value("accept-encoding"), QByteArray("identity"));
     get(m_server.url("/post"), {{"User-Agent", "Mine"}});
     QCOMPARE(m_server.requests().constLast().headers.value("user-agent"), QByteArray("Mine"));
 }
@@ -254,6 +257,8 @@ void TestWebfile::endlessAnswer()
     m_server.setAnswer("/huge?secret", HttpAnswer::complete(200, QByteArray(2 * limits::answerBytes, 'x')));
     QVERIFY(!post(m_server.url("/huge?secret"), "x", {{"Content-Type", "a/b"}}).success);
     QVERIFY(log.contains(QStringLiteral("too large")));
+    QVERIFY(!get(m_server.url("/missing?secret")).success);
+    QVERIFY(log.contains(QStringLiteral("/missing")));
     QVERIFY(!log.contains(QStringLiteral("secret")));
 }
 
@@ -319,11 +324,48 @@ void TestWebfile::diesWithItsParent()
     {
         QObject parent;
         transfer = new Webfile(m_server.url("/"), {}, &parent);
-        QVERIFY(transfer->thread() != thread());
+        QVERIFY(transfer);
     }
     QVERIFY(transfer.isNull());
     QObject parent;
     delete new Webfile(m_server.url("/"), {}, &parent);
+}
+
+void TestWebfile::connectionsAreKept()
+{
+    m_server.setAnswer("/ok", HttpAnswer::complete(200, "x"));
+    const int before = m_server.connections();
+    TransferThread thread;
+    for (int i = 0; i < 5; ++i) {
+        QBuffer device;
+        device.open(QIODevice::ReadWrite);
+        Webfile transfer(thread, m_server.url("/ok"), {{"Content-Type", "a/b"}});
+        QVERIFY(i % 2 == 0 ? transfer.get(&device) : transfer.post(&device));
+    }
+    QCOMPARE(m_server.connections(), before + 1);
+}
+
+// Another thread waits for a transfer, and would for the next one, while this one ends all of them.
+void TestWebfile::everythingEndsAtShutDown()
+{
+    m_server.setAnswer("/never", HttpAnswer::silence());
+    TransferThread thread;
+    std::array<int, 2> errors{-1, -1};
+    const int before = m_server.requests().size();
+    const Elsewhere other([&] {
+        for (int& error : errors) {
+            QBuffer device;
+            device.open(QIODevice::WriteOnly);
+            Webfile transfer(thread, m_server.url("/never"), {});
+            transfer.get(&device);
+            error = transfer.errorCode();
+        }
+    });
+    QTRY_COMPARE(m_server.requests().size(), before + 1);
+    thread.shutDown();
+    QTRY_VERIFY(other.isFinished());
+    QCOMPARE(errors, (std::array<int, 2>{QNetworkReply::OperationCanceledError,
+                                         QNetworkReply::OperationCanceledError}));
 }
 
 // A leak of one a transfer would show as twenty more; sockets of earlier cases may still be closing.

@@ -263,6 +263,7 @@ def read_setup():
     parser.add_argument("--program", required=True)
     parser.add_argument("--plugins", required=True)
     parser.add_argument("--killpoint", help="the library of tests/support/killpoint.cpp")
+    parser.add_argument("--localcloud", help="the cloud on this machine")
     return parser.parse_known_args()
 
 

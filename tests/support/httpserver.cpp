@@ -126,8 +126,11 @@ HttpServer::HttpServer()
     m_server->listen(QHostAddress::LocalHost);
     m_port = m_server->serverPort();
     QObject::connect(m_server, &QTcpServer::newConnection, m_server, [this] {
-        while (QTcpSocket* socket = m_server->nextPendingConnection())
+        while (QTcpSocket* socket = m_server->nextPendingConnection()) {
+            const std::lock_guard lock(m_mutex);
+            ++m_connections;
             new Connection(this, socket);
+        }
     });
     QObject::connect(&m_thread, &QThread::finished, m_server, &QObject::deleteLater);
     m_server->moveToThread(&m_thread);
@@ -157,6 +160,12 @@ QVector<HttpRequest> HttpServer::requests() const
 {
     const std::lock_guard lock(m_mutex);
     return m_requests;
+}
+
+int HttpServer::connections() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_connections;
 }
 
 bool HttpServer::isEarly(const QByteArray& path) const

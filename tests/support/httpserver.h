@@ -67,6 +67,8 @@ public:
     QString url(const QByteArray& path) const;
     /// The requests so far, in order of arrival.
     QVector<HttpRequest> requests() const;
+    /// How many connections there have been.
+    int connections() const;
 
 private:
     class Connection;
@@ -79,4 +81,5 @@ private:
     mutable std::mutex m_mutex; // guards the members below
     QHash<QByteArray, HttpAnswer> m_answers;
     QVector<HttpRequest> m_requests;
+    int m_connections = 0;
 };

@@ -9,25 +9,44 @@ QtObject {
     id: root
 
     property string project
+    property var followed: []
+    // Outlives this object in the answers that are still to come.
+    property var life: ({ "isOver": false })
 
     readonly property string user: CAPI.getSSetting("userEmail")
     readonly property string player: CAPI.getSSetting("playerUID")
+    readonly property bool follows: CAPI.getBSetting("shareFolder") && SS.startedProject === ""
 
     function projectsToFollow(document) {
         const projects = document && document.listOfProjectsToUpdate ? [].concat(document.listOfProjectsToUpdate) : [];
         return projects.includes(project) ? projects : projects.concat(project);
     }
 
-    // `document` is the playing document's root item, or null.
+    // Begins with the account's choice, once this player's own project has been told: what was chosen before
+    // must not come back. `document` is the playing document's root item, or null.
     function start(document) {
-        if (!CAPI.getBSetting("shareFolder") || SS.startedProject !== "")
+        if (!follows)
             return;
-        SS.projectSubscriptions = projectsToFollow(document).map(name => SS.subscribeToProjectRevision(user, name));
-        SS.setPlayerProject(user, player, project);
-        SS.playersSubscription = SS.subscribeToPlayerProject(user, player);
+        follow(document);
+        const ownLife = life;
+        SS.setPlayerProject(user, player, project, () => {
+            if (!ownLife.isOver)
+                SS.playersSubscription = SS.subscribeToPlayerProject(user, player);
+        });
+    }
+
+    // Follows what `document` needs, in place of what the last one needed.
+    function follow(document) {
+        const wanted = projectsToFollow(document);
+        if (!follows || wanted.join("/") === followed.join("/"))
+            return;
+        SS.projectSubscriptions.forEach(SS.unsubscribe);
+        SS.projectSubscriptions = wanted.map(name => SS.subscribeToProjectRevision(user, name));
+        followed = wanted;
     }
 
     function stop() {
+        life.isOver = true;
         SS.projectSubscriptions.forEach(SS.unsubscribe);
         SS.unsubscribe(SS.playersSubscription);
         SS.projectSubscriptions = [];

@@ -13,7 +13,11 @@ FocusScope {
     readonly property real rowHeight: Math.max(8 * BGUI.Theme.unit, Math.min(height / 9, 12 * BGUI.Theme.unit))
     readonly property real line: Math.max(1, dp)
 
+    // Whether projects can be published to the cloud now.
+    property bool canPublish: false
+
     signal chosen(string name)
+    signal publishRequested(string name)
     signal removeRequested(string name)
 
     // Shows the workspace as it is now; the current row stays the current one as far as it is there.
@@ -58,7 +62,7 @@ FocusScope {
             id: row
 
             readonly property bool isOpen: name === CAPI.getSSetting("lastProject")
-            // Only the current row and its button are stops for the Tab key.
+            // Only the current row and its buttons are stops for the Tab key.
             readonly property bool isCurrent: ListView.isCurrentItem
 
             width: list.width
@@ -77,6 +81,14 @@ FocusScope {
             ProjectStill {
                 id: still
                 project: name
+            }
+
+            BGUI.ActionButton {
+                visible: root.canPublish
+                focusPolicy: row.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+                faIcon: "fa-cloud-upload"
+                toolTip: qsTr("Publish %1").arg(row.text)
+                onClicked: root.publishRequested(row.text)
             }
 
             BGUI.ActionButton {

@@ -15,6 +15,7 @@ Sheet {
 
     readonly property string startScreen: startScreens.currentValue
 
+    signal loginRequested()
     signal logoutRequested()
     signal sharingChosen(bool on)
     signal saveRequested()
@@ -36,8 +37,13 @@ Sheet {
         BGUI.Button {
             id: logout
             anchors.right: parent.right
-            text: "Logout"
-            onClicked: root.logoutRequested()
+            text: root.userEmail === "" ? "Login" : "Logout"
+            onClicked: {
+                if (root.userEmail === "")
+                    root.loginRequested();
+                else
+                    root.logoutRequested();
+            }
         }
     }
 

@@ -13,6 +13,9 @@ var screenshotPeriod = 20;
 /// How long a request to the account's database or to the sign-in service may take.
 var requestDeadline = 10000;
 
+/// A realtime stream that is silent for so long is opened again; its keep-alives come every 30 s.
+var streamSilence = 75000;
+
 /// After a project's document came on the screen, its still is taken.
 var firstStill = 8000;
 

@@ -90,6 +90,7 @@ public:
             "import QtQuick 2.15\n"
             "import 'qrc:/Nuvex/PlayerQML/SharedVars.js' as SS\n"
             "import 'qrc:/Nuvex/PlayerQML/private'\n"
+            "import 'qrc:/Nuvex/PlayerQML/private/limits.js' as Limits\n"
             "QtObject {\n"
             "    id: harness\n"
             "    property var heartbeat: Heartbeat {}\n"

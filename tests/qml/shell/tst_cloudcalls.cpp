@@ -26,6 +26,7 @@ private slots:
     void streams_data();
     void streams();
     void streamOpenedAgain();
+    void silentStreamIsOpenedAnew();
     void subscriptions();
     void commands_data();
     void commands();
@@ -50,7 +51,7 @@ void TestCloudCalls::init()
 {
     m_script.reset();
     m_api = std::make_unique<RecordingApi>();
-    m_api->settings = {{"lastProject", "Shop"}};
+    m_api->settings = {{"lastProject", "Sh.op"}};
     m_script = std::make_unique<SharedScript>(m_api.get());
 }
 
@@ -284,13 +285,29 @@ void TestCloudCalls::streamOpenedAgain()
     QCOMPARE(m_api->calls, QStringList{"doOneShareDown Shop 4"});
 }
 
+// One that tells nothing has ended, or its connection has gone; what it was about to say is forgotten.
+void TestCloudCalls::silentStreamIsOpenedAnew()
+{
+    m_script->setHost("http://h");
+    m_script->run("SS.commandsSubscription = SS.subscribeToProjectRevision('a', 'My.Shop')");
+    send("event: put\ndata: {\"path\":\"/\",\"data\":\"");
+    const QString opening = "subscribe http://h/Users/a/Projects/MyShop/revision.json?auth=cred";
+    QCOMPARE(m_api->calls, QStringList{opening});
+    m_script->run("SS.checkUpSubscriptions(); Limits.streamSilence = 0; SS.checkUpSubscriptions();"
+                  "Limits.streamSilence = 75000; SS.checkUpSubscriptions()");
+    QCOMPARE(m_api->calls, QStringList({opening, "checkUp", opening, "checkUp"}));
+    send(put("5"));
+    QCOMPARE(m_api->calls.constLast(), QString("doOneShareDown My.Shop 5"));
+    m_script->run("SS.unsubscribe(SS.commandsSubscription); SS.commandsSubscription = null");
+}
+
 void TestCloudCalls::subscriptions()
 {
     m_script->setHost("http://h");
     QSignalSpy reloads(m_api.get(), &RecordingApi::reloadPlayer);
     m_script->run("SS.playersSubscription = SS.subscribeToPlayerProject('a.b', 'w.1')");
     QCOMPARE(m_api->calls, QStringList{"subscribe http://h/Users/ab/Players/w1/project.json?auth=cred"});
-    send(put("\"Shop\"")); // shown already
+    send(put("\"Shop\"")); // shown already, the database knows no dots
     send(put("null"));
     QCOMPARE(reloads.size(), 0);
     send(put("\"Cafe\""));

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+
+#include "lan/threadconnection.h"
+
+#include "lan/connection.h"
+#include "lan/host.h"
+#include "lan/peeraddress.h"
+#include "lan/workfolder.h"
+
+#include <utility>
+
+namespace {
+
+const QString endedText = QStringLiteral("the connection has ended");
+
+// Puts an answer in its place.
+Outcome place(const WorkFolder& folder, QTemporaryFile* answer, const QString& path)
+{
+    if (!answer)
+        return Outcome::failure(QStringLiteral("not received"));
+    QFile old;
+    if (answer->size() == 0 && folder.openForReading(path, old) && old.size() > 0)
+        return Outcome::failure(QStringLiteral("came empty"));
+    return folder.put(*answer, path);
+}
+
+} // namespace
+
+ThreadConnection::ThreadConnection(LanHost& host, const QString& name, qintptr socketDescriptor,
+                                   QObject* parent)
+    : QThread(parent)
+    , m_host(host)
+    , m_name(name)
+    , m_hostAddress(peerOf(socketDescriptor))
+    , m_socketDescriptor(socketDescriptor)
+{
+}
+
+ThreadConnection::ThreadConnection(LanHost& host, const QString& name, const QHostAddress& address,
+                                   quint16 port, QObject* parent)
+    : QThread(parent)
+    , m_host(host)
+    , m_name(name)
+    , m_hostAddress(address)
+    , m_port(port)
+{
+}
+
+ThreadConnection::~ThreadConnection()
+{
+    quit();
+    wait();
+}
+
+QString ThreadConnection::peerName() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_peerName;
+}
+
+bool ThreadConnection::isPending() const
+{
+    const std::lock_guard lock(m_mutex);
+    return !m_ended && m_peerName.isEmpty();
+}
+
+void ThreadConnection::setPeerName(const QString& name)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_peerName = name;
+    }
+    m_host.connectionStarted(name);
+}
+
+Outcome ThreadConnection::sendFilesAndWait(const std::shared_ptr<FileBatch>& batch)
+{
+    if (const std::optional<FileBatch::File> first = batch->next()) {
+        enqueue(m_sending, batch);
+        emit signalSendFileToServer(first->localPath, first->remotePath);
+    }
+    return batch->wait();
+}
+
+Outcome ThreadConnection::getFilesAndWait(const std::shared_ptr<FileBatch>& batch)
+{
+    if (const std::optional<FileBatch::File> first = batch->next()) {
+        enqueue(m_getting, batch);
+        emit signalGetFileFromServer(first->remotePath);
+    }
+    return batch->wait();
+}
+
+std::optional<FileBatch::File> ThreadConnection::fileSent(const Outcome& outcome)
+{
+    return finishFirst(m_sending, outcome);
+}
+
+bool ThreadConnection::wantsAnswer() const
+{
+    const std::lock_guard lock(m_mutex);
+    return !m_getting.empty() && !m_getting.front()->hasEnded();
+}
+
+std::optional<FileBatch::File> ThreadConnection::fileReceived(const WorkFolder& folder, QTemporaryFile* file)
+{
+    std::shared_ptr<FileBatch> batch;
+    {
+        const std::lock_guard lock(m_mutex);
+        batch = m_getting.front();
+    }
+    const Outcome outcome =
+        batch->hasEnded() ? Outcome::success() : place(folder, file, batch->current().localPath);
+    return finishFirst(m_getting, outcome);
+}
+
+void ThreadConnection::run()
+{
+    {
+        Connection connection(m_name, this);
+        connect(this, &ThreadConnection::signalSendFileToServer, &connection, &Connection::sendFileToServer);
+        connect(this, &ThreadConnection::signalGetFileFromServer, &connection,
+                &Connection::getFileFromServer);
+        if (isIncoming())
+            connection.begin(m_socketDescriptor);
+        else
+            connection.begin(m_hostAddress, m_port);
+        exec();
+    }
+    endBatches();
+    emit connectionFinished();
+}
+
+void ThreadConnection::enqueue(Batches& batches, const std::shared_ptr<FileBatch>& batch)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_ended)
+        batch->end(endedText);
+    else
+        batches.push_back(batch);
+}
+
+std::optional<FileBatch::File> ThreadConnection::finishFirst(Batches& batches, const Outcome& outcome)
+{
+    const std::lock_guard lock(m_mutex);
+    FileBatch& batch = *batches.front();
+    batch.finish(outcome);
+    std::optional<FileBatch::File> next = batch.next();
+    if (!next)
+        batches.pop_front();
+    return next;
+}
+
+void ThreadConnection::endBatches()
+{
+    const std::lock_guard lock(m_mutex);
+    m_ended = true;
+    for (const Batches* batches : {&m_sending, &m_getting}) {
+        for (const std::shared_ptr<FileBatch>& batch : *batches)
+            batch->end(endedText);
+    }
+}
