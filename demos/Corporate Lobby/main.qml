@@ -12,7 +12,7 @@ Rectangle {
     KImage {
         x: 0
         y: 0
-        width: 720
+        width: 608
         height: 1080
         source: "images/towers.jpg"
         fillMode: Image.PreserveAspectCrop
@@ -24,260 +24,147 @@ Rectangle {
 
     BasicRectangle {
         x: 0
-        y: 792
-        width: 720
-        height: 288
+        y: 784
+        width: 608
+        height: 296
         radius: 0
         color: "#14233a"
     }
 
     BasicText {
         x: 64
-        y: 840
+        y: 836
         text: "NORDLICHT"
         color: "#f3b765"
         font.letterSpacing: 5
         font.family: "Manrope"
         font.bold: true
-        font.pixelSize: 24
+        font.pixelSize: 26
     }
 
     BasicText {
         x: 60
-        y: 872
+        y: 866
         text: "Welcome"
         color: "#ffffff"
-        font.family: "Caladea"
-        font.pixelSize: 112
+        wordWrap: false
+        font.family: "Manrope"
+        font.bold: true
+        font.pixelSize: 104
     }
 
     BasicText {
         x: 64
-        y: 1000
+        y: 996
         text: "Please sign in at the desk"
         color: "#c3cddb"
+        wordWrap: false
         font.family: "Manrope"
-        font.pixelSize: 28
+        font.pixelSize: 32
     }
 
     DigitalClock {
-        x: 768
-        y: 56
-        width: 256
-        height: 144
+        x: 658
+        y: 36
+        width: 576
+        height: 160
         color: "transparent"
         radius: 0
         format: "hh:mm"
         textColor: "#14233a"
-        pixelSize: 128
+        pixelSize: 144
         fontFamily: "Manrope"
+        horizontalAlignment: Text.AlignLeft
     }
 
     DigitalClock {
-        x: 1088
-        y: 72
-        width: 336
-        height: 64
+        x: 664
+        y: 186
+        width: 576
+        height: 72
         color: "transparent"
         radius: 0
-        format: "dddd"
-        textColor: "#14233a"
+        format: "dddd, d MMMM"
+        textColor: "#56606f"
         pixelSize: 40
         localeName: "en_GB"
         fontFamily: "Manrope"
-    }
-
-    DigitalClock {
-        x: 1088
-        y: 120
-        width: 336
-        height: 64
-        color: "transparent"
-        radius: 0
-        format: "d MMMM yyyy"
-        textColor: "#56606f"
-        pixelSize: 32
-        localeName: "en_GB"
-        fontFamily: "Manrope"
+        horizontalAlignment: Text.AlignLeft
     }
 
     Weather {
-        x: 1488
-        y: 48
-        width: 368
-        height: 160
+        x: 1280
+        y: 64
+        width: 576
+        height: 184
         color: "#14233a"
-        radius: 8
+        radius: 12
         place: "Hamburg"
         lat: 53.55
         lon: 9.99
         showDescription: true
         showIcon: true
+        fontFamily: "Manrope"
         service: "data/weather.json"
     }
 
     BasicCalendar {
-        x: 784
-        y: 256
-        width: 512
-        height: 464
+        x: 672
+        y: 280
+        width: 576
+        height: 360
         dayColor: "#14233a"
         weekdayColor: "#8a4a12"
         titleColor: "#14233a"
         todayColor: "#ffffff"
         markColor: "#b4601a"
         backColor: "#ffffff"
+        dayFont.family: "Manrope"
         localeName: "en_GB"
     }
 
-    BasicText {
-        x: 784
-        y: 736
-        text: "Expected today"
-        color: "#14233a"
-        font.family: "Caladea"
-        font.pixelSize: 40
+    Visitors {
+        x: 672
+        y: 672
+        width: 576
+        height: 344
+        guests: [
+            { time: "08:30", name: "Ines Albers, Nordsicht", place: "Fjord, 4th floor" },
+            { time: "09:30", name: "Maria Keller, Aurel", place: "Fjord, 4th floor" },
+            { time: "11:00", name: "Jonas Lindqvist, Norrpulp", place: "Skerry, 2nd floor" },
+            { time: "12:30", name: "Class 9b, Altona", place: "Canteen" },
+            { time: "14:15", name: "Delegation from Gdańsk", place: "Auditorium" },
+            { time: "15:45", name: "Tomasz Wrona, Baltpak", place: "Skerry, 2nd floor" },
+            { time: "17:00", name: "Dr. Ayla Demir, TU", place: "Archive, ground floor" },
+            { time: "18:00", name: "Guests of the lecture", place: "Auditorium" },
+            { time: "20:30", name: "Night tour, four guests", place: "Roof garden" },
+            { time: "22:00", name: "Hanna Voss, security", place: "Desk" }
+        ]
     }
 
     BasicRectangle {
-        x: 784
-        y: 800
-        width: 512
-        height: 2
-        radius: 0
-        color: "#cfc9bd"
-    }
-
-    BasicText {
-        x: 784
-        y: 814
-        text: "09:30"
-        color: "#8a4a12"
-        font.family: "Manrope"
-        font.bold: true
-        font.pixelSize: 28
-    }
-
-    BasicText {
-        x: 904
-        y: 810
-        width: 392
-        text: "Maria Keller, Aurel Systems"
-        color: "#14233a"
-        elide: Text.ElideRight
-        wordWrap: false
-        font.family: "Manrope"
-        font.bold: true
-        font.pixelSize: 28
-    }
-
-    BasicText {
-        x: 904
-        y: 846
-        width: 392
-        text: "Fjord, 4th floor"
-        color: "#56606f"
-        font.family: "Manrope"
-        font.pixelSize: 22
-    }
-
-    BasicRectangle {
-        x: 784
-        y: 880
-        width: 512
-        height: 2
-        radius: 0
-        color: "#cfc9bd"
-    }
-
-    BasicText {
-        x: 784
-        y: 894
-        text: "11:00"
-        color: "#8a4a12"
-        font.family: "Manrope"
-        font.bold: true
-        font.pixelSize: 28
-    }
-
-    BasicText {
-        x: 904
-        y: 890
-        width: 392
-        text: "Jonas Lindqvist, Norrpulp"
-        color: "#14233a"
-        elide: Text.ElideRight
-        wordWrap: false
-        font.family: "Manrope"
-        font.bold: true
-        font.pixelSize: 28
-    }
-
-    BasicText {
-        x: 904
-        y: 926
-        width: 392
-        text: "Skerry, 2nd floor"
-        color: "#56606f"
-        font.family: "Manrope"
-        font.pixelSize: 22
-    }
-
-    BasicRectangle {
-        x: 784
-        y: 960
-        width: 512
-        height: 2
-        radius: 0
-        color: "#cfc9bd"
-    }
-
-    BasicText {
-        x: 784
-        y: 974
-        text: "14:15"
-        color: "#8a4a12"
-        font.family: "Manrope"
-        font.bold: true
-        font.pixelSize: 28
-    }
-
-    BasicText {
-        x: 904
-        y: 970
-        width: 392
-        text: "Delegation from Gdańsk"
-        color: "#14233a"
-        elide: Text.ElideRight
-        wordWrap: false
-        font.family: "Manrope"
-        font.bold: true
-        font.pixelSize: 28
-    }
-
-    BasicText {
-        x: 904
-        y: 1006
-        width: 392
-        text: "Auditorium"
-        color: "#56606f"
-        font.family: "Manrope"
-        font.pixelSize: 22
+        x: 1280
+        y: 280
+        width: 576
+        height: 736
+        radius: 12
+        color: "#ffffff"
     }
 
     Rss {
-        x: 1344
-        y: 256
-        width: 512
-        height: 760
-        color: "#ffffff"
-        radius: 8
+        x: 1292
+        y: 290
+        width: 552
+        height: 714
+        color: "transparent"
+        radius: 0
         currentFeed: "data/news.xml"
         title: "News from the house"
         imgSize: 0
-        pixelSize: 28
+        pixelSize: 32
         textColor: "#14233a"
         accentColor: "#b4601a"
+        fontFamily: "Manrope"
         showTime: 12000
         localeName: "en_GB"
     }

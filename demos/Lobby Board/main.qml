@@ -97,29 +97,31 @@ Rectangle {
 
     DigitalClock {
         x: 704
-        y: 872
-        width: 360
-        height: 88
+        y: 858
+        width: 312
+        height: 104
         color: "transparent"
         radius: 0
         format: "hh:mm"
         textColor: "#12302b"
-        pixelSize: 72
+        pixelSize: 88
         fontFamily: "Manrope"
+        horizontalAlignment: Text.AlignRight
     }
 
     DigitalClock {
         x: 704
         y: 952
-        width: 360
+        width: 312
         height: 56
         color: "transparent"
         radius: 0
-        format: "dddd, d MMMM"
+        format: "ddd, d MMMM"
         textColor: "#4a5a52"
-        pixelSize: 28
+        pixelSize: 32
         fontFamily: "Manrope"
         localeName: "en_GB"
+        horizontalAlignment: Text.AlignRight
     }
 
     BasicText {
@@ -142,7 +144,7 @@ Rectangle {
 
     BasicText {
         x: 72
-        y: 1160
+        y: 1152
         text: "09:00"
         color: "#8a4a22"
         font.family: "Manrope"
@@ -152,7 +154,7 @@ Rectangle {
 
     BasicText {
         x: 248
-        y: 1160
+        y: 1152
         width: 760
         text: "Design review, autumn range"
         color: "#12302b"
@@ -160,19 +162,19 @@ Rectangle {
         wordWrap: false
         font.family: "Manrope"
         font.bold: true
-        font.pixelSize: 36
+        font.pixelSize: 40
     }
 
     BasicText {
         x: 248
-        y: 1208
+        y: 1206
         width: 760
         text: "Studio Møller   ·   Gallery, 2nd floor"
         color: "#4a5a52"
         elide: Text.ElideRight
         wordWrap: false
         font.family: "Manrope"
-        font.pixelSize: 28
+        font.pixelSize: 30
     }
 
     BasicRectangle {
@@ -186,7 +188,7 @@ Rectangle {
 
     BasicText {
         x: 72
-        y: 1288
+        y: 1280
         text: "10:30"
         color: "#8a4a22"
         font.family: "Manrope"
@@ -196,7 +198,7 @@ Rectangle {
 
     BasicText {
         x: 248
-        y: 1288
+        y: 1280
         width: 760
         text: "Introduction for new tenants"
         color: "#12302b"
@@ -204,19 +206,19 @@ Rectangle {
         wordWrap: false
         font.family: "Manrope"
         font.bold: true
-        font.pixelSize: 36
+        font.pixelSize: 40
     }
 
     BasicText {
         x: 248
-        y: 1336
+        y: 1334
         width: 760
         text: "House team   ·   Winter garden"
         color: "#4a5a52"
         elide: Text.ElideRight
         wordWrap: false
         font.family: "Manrope"
-        font.pixelSize: 28
+        font.pixelSize: 30
     }
 
     BasicRectangle {
@@ -230,7 +232,7 @@ Rectangle {
 
     BasicText {
         x: 72
-        y: 1416
+        y: 1408
         text: "12:00"
         color: "#8a4a22"
         font.family: "Manrope"
@@ -240,7 +242,7 @@ Rectangle {
 
     BasicText {
         x: 248
-        y: 1416
+        y: 1408
         width: 760
         text: "Shared lunch"
         color: "#12302b"
@@ -248,19 +250,19 @@ Rectangle {
         wordWrap: false
         font.family: "Manrope"
         font.bold: true
-        font.pixelSize: 36
+        font.pixelSize: 40
     }
 
     BasicText {
         x: 248
-        y: 1464
+        y: 1462
         width: 760
         text: "Everybody is welcome   ·   Roof terrace"
         color: "#4a5a52"
         elide: Text.ElideRight
         wordWrap: false
         font.family: "Manrope"
-        font.pixelSize: 28
+        font.pixelSize: 30
     }
 
     BasicRectangle {
@@ -274,7 +276,7 @@ Rectangle {
 
     BasicText {
         x: 72
-        y: 1544
+        y: 1536
         text: "14:00"
         color: "#8a4a22"
         font.family: "Manrope"
@@ -284,7 +286,7 @@ Rectangle {
 
     BasicText {
         x: 248
-        y: 1544
+        y: 1536
         width: 760
         text: "Workshop: Clear signs"
         color: "#12302b"
@@ -292,19 +294,19 @@ Rectangle {
         wordWrap: false
         font.family: "Manrope"
         font.bold: true
-        font.pixelSize: 36
+        font.pixelSize: 40
     }
 
     BasicText {
         x: 248
-        y: 1592
+        y: 1590
         width: 760
         text: "Lindqvist & Partner   ·   Room 4"
         color: "#4a5a52"
         elide: Text.ElideRight
         wordWrap: false
         font.family: "Manrope"
-        font.pixelSize: 28
+        font.pixelSize: 30
     }
 
     BasicRectangle {
@@ -318,7 +320,7 @@ Rectangle {
 
     BasicText {
         x: 72
-        y: 1672
+        y: 1664
         text: "18:30"
         color: "#8a4a22"
         font.family: "Manrope"
@@ -328,7 +330,7 @@ Rectangle {
 
     BasicText {
         x: 248
-        y: 1672
+        y: 1664
         width: 760
         text: "Harbour talk: Building with clay"
         color: "#12302b"
@@ -336,19 +338,19 @@ Rectangle {
         wordWrap: false
         font.family: "Manrope"
         font.bold: true
-        font.pixelSize: 36
+        font.pixelSize: 40
     }
 
     BasicText {
         x: 248
-        y: 1720
+        y: 1718
         width: 760
         text: "Dr. Amélie Roux   ·   Great hall"
         color: "#4a5a52"
         elide: Text.ElideRight
         wordWrap: false
         font.family: "Manrope"
-        font.pixelSize: 28
+        font.pixelSize: 30
     }
 
     BasicRectangle {

@@ -33,7 +33,7 @@ Rectangle {
                 fillMode: Image.PreserveAspectCrop
                 kenburnsEnable: true
                 kScale0: 1.0
-                kScale1: 1.08
+                kScale1: 1.04
                 kTime: 14000
                 easingType: Easing.InOutSine
             }
@@ -58,6 +58,20 @@ Rectangle {
                 lineHeight: 0.86
                 font.family: "Caladea"
                 font.pixelSize: 144
+            }
+
+            BasicText {
+                x: 624
+                y: 1704
+                width: 360
+                height: 120
+                text: "Lind & Rose"
+                color: "#3b0f18"
+                horizontalAlignment: Text.AlignRight
+                verticalAlignment: Text.AlignVCenter
+                wordWrap: false
+                font.family: "Caladea"
+                font.pixelSize: 48
             }
 
             LiveText {
@@ -88,7 +102,7 @@ Rectangle {
                 source: "images/boxes.jpg"
                 fillMode: Image.PreserveAspectCrop
                 kenburnsEnable: true
-                kScale0: 1.08
+                kScale0: 1.06
                 kScale1: 1.0
                 kTime: 14000
                 easingType: Easing.InOutSine
@@ -116,6 +130,20 @@ Rectangle {
                 font.pixelSize: 144
             }
 
+            BasicText {
+                x: 624
+                y: 1704
+                width: 360
+                height: 120
+                text: "Lind & Rose"
+                color: "#fbf3e4"
+                horizontalAlignment: Text.AlignRight
+                verticalAlignment: Text.AlignVCenter
+                wordWrap: false
+                font.family: "Caladea"
+                font.pixelSize: 48
+            }
+
             LiveText {
                 x: 96
                 y: 1704
@@ -136,13 +164,13 @@ Rectangle {
             duration: 10000
             tagColor: "#4a0f1a"
 
-            BasicRectangle {
+            BasicImage {
                 x: 0
                 y: 0
                 width: 1080
                 height: 1920
-                radius: 0
-                color: "#4a0f1a"
+                source: "images/stage.jpg"
+                fillMode: Image.PreserveAspectCrop
             }
 
             Particles {
@@ -150,9 +178,9 @@ Rectangle {
                 y: 0
                 width: 1080
                 height: 1920
-                emitRate: 9
+                emitRate: 6
                 lifeSpan: 16000
-                size: 44
+                size: 36
                 velocity: 90
                 color: "#ffd9a0"
                 direction: 90
@@ -163,8 +191,8 @@ Rectangle {
                 x: 60
                 y: 640
                 width: 960
-                height: 960
-                source: "videos/gift.mp4"
+                height: 640
+                source: "videos/card.mp4"
                 muted: true
             }
 
@@ -188,6 +216,20 @@ Rectangle {
                 lineHeight: 0.86
                 font.family: "Caladea"
                 font.pixelSize: 144
+            }
+
+            BasicText {
+                x: 624
+                y: 1704
+                width: 360
+                height: 120
+                text: "Lind & Rose"
+                color: "#fff4ec"
+                horizontalAlignment: Text.AlignRight
+                verticalAlignment: Text.AlignVCenter
+                wordWrap: false
+                font.family: "Caladea"
+                font.pixelSize: 48
             }
 
             LiveText {

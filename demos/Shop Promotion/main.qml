@@ -41,7 +41,7 @@ Rectangle {
                 color: "#8a3a1e"
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 24
+                font.pixelSize: 28
                 font.letterSpacing: 4
             }
 
@@ -103,7 +103,7 @@ Rectangle {
                 color: "#5a2311"
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 24
+                font.pixelSize: 28
                 font.letterSpacing: 4
             }
 
@@ -196,6 +196,15 @@ Rectangle {
             duration: 10000
             tagColor: "#c08a62"
 
+            BasicRectangle {
+                x: 0
+                y: 0
+                width: 1920
+                height: 976
+                radius: 0
+                color: "#f4ede3"
+            }
+
             BasicVideo {
                 x: 0
                 y: 0
@@ -213,7 +222,7 @@ Rectangle {
                 color: "#8a3a1e"
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 24
+                font.pixelSize: 28
                 font.letterSpacing: 4
             }
 
@@ -275,7 +284,7 @@ Rectangle {
                 color: "#ffcf8f"
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 24
+                font.pixelSize: 28
                 font.letterSpacing: 4
             }
 
@@ -303,7 +312,7 @@ Rectangle {
         Slide {
             id: table
             duration: 9000
-            tagColor: "#65755f"
+            tagColor: "#2c4036"
 
             BasicImage {
                 x: 0
@@ -314,45 +323,36 @@ Rectangle {
                 fillMode: Image.PreserveAspectCrop
             }
 
-            BasicRectangle {
-                x: 1160
-                y: 120
-                width: 640
-                height: 736
-                radius: 0
-                color: "#f4ede3"
-            }
-
             BasicText {
-                x: 1224
-                y: 184
+                x: 120
+                y: 144
                 text: "AT YOUR SERVICE"
-                color: "#8a3a1e"
+                color: "#e8c98f"
                 font.family: "Manrope"
                 font.bold: true
-                font.pixelSize: 24
+                font.pixelSize: 28
                 font.letterSpacing: 4
             }
 
             BasicText {
-                x: 1216
-                y: 224
-                width: 560
+                x: 112
+                y: 184
+                width: 680
                 text: "A table\nfor two, or\ntwenty"
-                color: "#2a2d34"
+                color: "#f4ede3"
                 font.family: "Caladea"
-                font.pixelSize: 96
+                font.pixelSize: 112
                 lineHeight: 0.86
             }
 
             BasicText {
-                x: 1224
+                x: 120
                 y: 568
-                width: 520
+                width: 560
                 text: "Wedding lists\nReplacement pieces\nGift wrapping\nDelivery by cargo bike"
-                color: "#2a2d34"
+                color: "#f4ede3"
                 font.family: "Manrope"
-                font.pixelSize: 32
+                font.pixelSize: 36
                 lineHeight: 1.35
             }
         }
@@ -394,7 +394,7 @@ Rectangle {
     }
 
     DigitalClock {
-        x: 1624
+        x: 1592
         y: 984
         width: 216
         height: 88
@@ -404,5 +404,6 @@ Rectangle {
         textColor: "#f4ede3"
         pixelSize: 56
         fontFamily: "Manrope"
+        horizontalAlignment: Text.AlignRight
     }
 }

@@ -28,13 +28,15 @@ STILLS = {
     "shop-vases": ("Shop Promotion/images/vases.jpg", 1920, 1080, {}),
     "shop-lamp": ("Shop Promotion/images/lamp.jpg", 1920, 1080, {"bloom": 0.5}),
     "shop-table": ("Shop Promotion/images/table.jpg", 1920, 1080, {}),
-    "menu-pasta": ("Menu Board/images/pasta.jpg", 840, 432, {"bloom": 0.2}),
-    "menu-tomato": ("Menu Board/images/tomatoes.jpg", 840, 432, {"bloom": 0.2}),
-    "menu-olives": ("Menu Board/images/olives.jpg", 840, 432, {"bloom": 0.2}),
-    "menu-wine": ("Menu Board/images/wine.jpg", 840, 432, {"bloom": 0.2, "exposure": 1.5}),
-    "menu-gelato": ("Menu Board/images/gelato.jpg", 840, 432, {"bloom": 0.2}),
+    "menu-pasta": ("Menu Board/images/pasta.jpg", 1120, 416, {"bloom": 0.2}),
+    "menu-tomato": ("Menu Board/images/tomatoes.jpg", 1120, 416, {"bloom": 0.2}),
+    "menu-olives": ("Menu Board/images/olives.jpg", 1120, 416, {"bloom": 0.2}),
+    "menu-wine": ("Menu Board/images/wine.jpg", 1120, 416, {"bloom": 0.2}),
+    "menu-ravioli": ("Menu Board/images/ravioli.jpg", 1920, 232, {"vignette": 0}),
+    "menu-gelato": ("Menu Board/images/gelato.jpg", 1120, 416, {"bloom": 0.2}),
     "retail-scent": ("Retail Window/images/scent.jpg", 810, 1440, {"size": (1080, 1920)}),
     "retail-boxes": ("Retail Window/images/boxes.jpg", 810, 1440, {"size": (1080, 1920)}),
+    "retail-podium": ("Retail Window/images/stage.jpg", 810, 1440, {"size": (1080, 1920)}),
     "corporate-tower": ("Corporate Lobby/images/towers.jpg", 720, 1080, {"bloom": 0.4}),
     "lobby-arches": ("Lobby Board/images/court.jpg", 1080, 864, {}),
     "lobby-stairs": ("Lobby Board/images/stairs.jpg", 1080, 864, {}),
@@ -42,22 +44,25 @@ STILLS = {
 }
 # scene -> (file below demos/, width, height, seconds, rendered frames a second, sound). A film goes through its scene
 # and back again, so that it can loop; those of ROUNDS end where they began.
-ROUNDS = ["retail-spin"]
+ROUNDS = ["retail-card"]
 CLIPS = {
-    "retail-spin": ("Retail Window/videos/gift.mp4", 540, 540, 4, 24, sound.bells),
+    "retail-card": ("Retail Window/videos/card.mp4", 960, 640, 6, 24, sound.bells),
     "shop-wheel": ("Shop Promotion/videos/wheel.mp4", 640, 652, 8, 12, sound.workshop),
 }
 # scene -> (file below demos/, width, height, seconds, where the steam starts, its width there, sound)
 STEAMING = {
-    "menu-espresso": ("Menu Board/videos/espresso.mp4", 840, 432, 8, (414, 206), 46, sound.kitchen),
+    "menu-espresso": ("Menu Board/videos/espresso.mp4", 1120, 416, 8, (552, 190), 90, sound.kitchen),
 }
+# Folders of the faces that scenes write with, from fonts-crosextra-caladea and fonts-manrope.
+FACES = ["crosextra", "manrope"]
 # Frames a second of a finished clip: what lies between the rendered ones is worked out from their motion.
 FILM_RATE = 24
 
 
 def trace(scene, picture, width, height, *more):
     """Renders a scene; `more` are options of the ray tracer."""
-    subprocess.run(["povray", f"+I{scene}.pov", f"+O{picture}", f"+W{width}", f"+H{height}", "+A0.2", "-D", "+WT2", *more],
+    subprocess.run(["povray", f"+I{scene}.pov", f"+O{picture}", f"+W{width}", f"+H{height}", "+A0.2", "-D", "+WT2",
+                    *[f"+L/usr/share/fonts/truetype/{face}" for face in FACES], *more],
                    cwd=HERE / "scenes", check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 

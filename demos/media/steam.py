@@ -31,7 +31,7 @@ def frames(still, folder, count, source, spread):
         drift = map_coordinates(wisps, [(y * 0.9 + turn * height) % height, (x + bend) % width], order=1, mode="wrap")
         column = np.exp(-((x + bend - source[0]) / (spread * (0.55 + 0.9 * rise))) ** 2)
         fade = np.clip((source[1] - y) / 30, 0, 1) * (1 - rise) ** 1.1
-        steam = np.clip((drift - 0.42) * 2.6, 0, 1) ** 1.3 * column * fade * 0.62
+        steam = np.clip((drift - 0.28) * 2.6, 0, 1) ** 1.3 * column * fade * 1.1
         steam = gaussian_filter(steam, 1.5)[..., None]
         light = 1 - (1 - picture) * (1 - steam * np.array([1.0, 0.95, 0.88], dtype=np.float32))
         Image.fromarray((np.clip(light, 0, 1) * 255 + 0.5).astype(np.uint8)).save(folder / f"{frame:04}.png")

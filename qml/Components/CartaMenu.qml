@@ -7,8 +7,9 @@ import "private/menu/entries.js" as Entries
 import "private/menu/samples.js" as Samples
 
 /// A price list: title, and a line with name, price and details for each entry of the model (objects with the members
-/// name, price, details). A long name takes a second line; where that is not enough, the whole list stands in a smaller
-/// size. When the list is longer than its place, it turns pages.
+/// name, price, details and, for a mark behind the name, icon: a name of the icon table such as "fa-leaf"). A long name
+/// takes a second line; where that is not enough, the whole list stands in a smaller size. When the list is longer than
+/// its place, it turns pages.
 ListView {
     id: root
 
@@ -39,6 +40,8 @@ ListView {
     property color nameColor: "white"
     property color priceColor: "#f2b04a"
     property color detailsColor: "#b7c3ce"
+    /// Colour of the marks.
+    property color iconColor: "#8fb85f"
     property color backColor: "#17212b"
     /// How long a page stays, in milliseconds, when the list does not fit.
     property int pageTime: 8000

@@ -28,7 +28,8 @@ Item {
             fields: [
                 { name: "name", label: qsTr("Name"), kind: "text" },
                 { name: "price", label: qsTr("Price"), kind: "text" },
-                { name: "details", label: qsTr("Details"), kind: "text" }
+                { name: "details", label: qsTr("Details"), kind: "text" },
+                { name: "icon", label: qsTr("Mark"), kind: "text", hint: "fa-leaf" }
             ]
         }
         CheckRow {
@@ -42,6 +43,10 @@ Item {
         ColorRow {
             name: "backColor"
             label: qsTr("Background")
+        }
+        ColorRow {
+            name: "iconColor"
+            label: qsTr("Marks")
         }
         Section {
             title: qsTr("Title")

@@ -30,6 +30,7 @@ Rectangle {
     /// Height of the text in pixels; it shrinks where the clock is too small.
     property int pixelSize: 72
     property string fontFamily: "Open Sans"
+    property alias horizontalAlignment: face.horizontalAlignment
     /// Language and country, as "de_DE"; empty for the system's.
     property string localeName: ""
 

@@ -40,6 +40,15 @@ Item {
             label: qsTr("Font")
             choices: form.families.map(family => ({ text: family, is: family }))
         }
+        ChoiceRow {
+            name: "horizontalAlignment"
+            label: qsTr("Alignment")
+            choices: [
+                { text: qsTr("Left"), is: Text.AlignLeft, code: "Text.AlignLeft" },
+                { text: qsTr("Centre"), is: Text.AlignHCenter, code: "Text.AlignHCenter" },
+                { text: qsTr("Right"), is: Text.AlignRight, code: "Text.AlignRight" }
+            ]
+        }
         NumberRow {
             name: "pixelSize"
             label: qsTr("Size")

@@ -35,6 +35,7 @@ Rectangle {
     /// What stands above the entries; empty for the feed's own title.
     property string title: ""
     property int pixelSize: 26
+    property string fontFamily: "Open Sans"
     property color textColor: "white"
     property color accentColor: "#f2a33a"
     /// Milliseconds that a page stays.
@@ -72,6 +73,7 @@ Rectangle {
         icon: "fa-rss"
         title: root.title || qsTr("News")
         color: root.textColor
+        family: root.fontFamily
     }
 
     FeedHeader {
@@ -82,6 +84,7 @@ Rectangle {
         text: root.title || (root.news ? root.news.title : "")
         pixelSize: root.textSize
         color: root.textColor
+        family: root.fontFamily
         accentColor: root.accentColor
     }
 
@@ -99,6 +102,7 @@ Rectangle {
             imgSize: root.hasPictures ? root.imgSize : 0
             pixelSize: root.textSize
             color: root.textColor
+            family: root.fontFamily
             locale: Qt.locale(root.localeName)
         }
     }

@@ -42,6 +42,11 @@ Item {
             to: 500
             suffix: " px"
         }
+        ChoiceRow {
+            name: "fontFamily"
+            label: qsTr("Font")
+            choices: form.families.map(family => ({ text: family, is: family }))
+        }
         ColorRow {
             name: "textColor"
             label: qsTr("Colour")

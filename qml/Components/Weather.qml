@@ -36,6 +36,7 @@ Rectangle {
     /// Whether the weather is also told in words, and drawn.
     property bool showDescription: true
     property bool showIcon: true
+    property string fontFamily: "Open Sans"
     property color textColor: "white"
     property bool fahrenheit: false
     /// Address of the service, with {lat} and {lon} in it; or a file of the project with such an answer.
@@ -91,6 +92,7 @@ Rectangle {
             isCentred: root.isTall
             measure: root.measure
             color: root.textColor
+            family: root.fontFamily
             headline: root.current ? Forecast.temperature(root.current.temperature, root.fahrenheit)
                                    : ticker.time.toLocaleDateString(Qt.locale(root.localeName), "ddd")
             detail: !root.current ? ticker.time.toLocaleDateString(Qt.locale(root.localeName), "d MMMM")

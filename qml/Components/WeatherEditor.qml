@@ -52,6 +52,11 @@ Item {
             name: "fahrenheit"
             label: qsTr("Fahrenheit")
         }
+        ChoiceRow {
+            name: "fontFamily"
+            label: qsTr("Font")
+            choices: form.families.map(family => ({ text: family, is: family }))
+        }
         ColorRow {
             name: "textColor"
             label: qsTr("Colour")

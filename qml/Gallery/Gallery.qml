@@ -66,6 +66,7 @@ FocusScope {
             y: root.gap
             width: pane.width - 2 * root.gap
             source: root.chapters[tabs.currentIndex].source
+            onLoaded: item.pane = pane
         }
     }
 }

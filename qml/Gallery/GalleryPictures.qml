@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0
+import "samples.js" as Samples
 
 /// Thumbnails, rounded pictures and the scope, which follows the mouse.
 Card {
     id: root
 
-    readonly property url picture: "qrc:/Nuvex/Components/icons/LiveImage.png"
+    readonly property url picture: Samples.picture("vases")
 
     title: qsTr("Pictures")
 
@@ -44,6 +45,7 @@ Card {
             width: 16 * Theme.unit
             height: 16 * Theme.unit
             source: root.picture
+            fillMode: Image.PreserveAspectCrop
 
             ImageScope {
                 id: scope

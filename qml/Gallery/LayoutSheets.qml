@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.Components 1.0
+import "samples.js" as Samples
 
 /// Containers that lay their items out.
 SheetColumns {
@@ -10,6 +11,12 @@ SheetColumns {
     narrowest: 40
     most: 4
 
+    component Photo: BasicImage {
+        width: 180
+        height: 108
+        fillMode: Image.PreserveAspectCrop
+    }
+
     Specimen {
         title: "BasicRow"
         about: qsTr("Items side by side")
@@ -17,9 +24,9 @@ SheetColumns {
         BasicRow {
             color: "#17212b"
             radius: 12
-            BasicRectangle { width: 120; height: 72; color: "#2878bd" }
-            BasicRectangle { width: 120; height: 72; color: "#a8521c" }
-            BasicRectangle { width: 120; height: 72; color: "#2f6f55" }
+            Photo { source: Samples.picture("tomatoes") }
+            Photo { source: Samples.picture("olives") }
+            Photo { source: Samples.picture("pasta") }
         }
     }
 
@@ -30,9 +37,9 @@ SheetColumns {
         BasicColumn {
             color: "#17212b"
             radius: 12
-            BasicRectangle { width: 120; height: 72; color: "#2878bd" }
-            BasicRectangle { width: 120; height: 72; color: "#a8521c" }
-            BasicRectangle { width: 120; height: 72; color: "#2f6f55" }
+            Photo { source: Samples.picture("tomatoes") }
+            Photo { source: Samples.picture("olives") }
+            Photo { source: Samples.picture("pasta") }
         }
     }
 
@@ -44,10 +51,10 @@ SheetColumns {
             color: "#17212b"
             radius: 12
             cols: 2
-            BasicRectangle { width: 120; height: 72; color: "#2878bd" }
-            BasicRectangle { width: 120; height: 72; color: "#a8521c" }
-            BasicRectangle { width: 120; height: 72; color: "#2f6f55" }
-            BasicRectangle { width: 120; height: 72; color: "#6b4e9b" }
+            Photo { source: Samples.picture("tomatoes") }
+            Photo { source: Samples.picture("olives") }
+            Photo { source: Samples.picture("pasta") }
+            Photo { source: Samples.picture("gelato") }
         }
     }
 }

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.Components 1.0
+import "samples.js" as Samples
 
 /// Menu boards: single entries and whole lists.
 SheetColumns {
     id: root
-
-    readonly property string samples: "qrc:///Nuvex/Components/icons/"
 
     narrowest: 40
     most: 4
@@ -22,10 +21,10 @@ SheetColumns {
             height: 440
             color: "white"
             radius: 16
-            name: qsTr("Garden salad")
-            about: qsTr("Leaves, tomato, cucumber, herb dressing")
-            price: "7.90"
-            image: root.samples + "sampleSalad.png"
+            name: "Bruschetta"
+            about: qsTr("Tomato, garlic, basil")
+            price: "6,50 €"
+            image: Samples.picture("tomatoes")
         }
     }
 
@@ -37,10 +36,10 @@ SheetColumns {
         MenuItem3 {
             width: 340
             height: 420
-            name: qsTr("Cappuccino")
-            about: qsTr("Double shot, velvet milk")
-            price: "3.60"
-            image: root.samples + "sampleCoffee.png"
+            name: "Gelato"
+            about: qsTr("Vanilla, pistachio, strawberry")
+            price: "6,00 €"
+            image: Samples.picture("gelato")
         }
     }
 
@@ -48,7 +47,7 @@ SheetColumns {
         title: "CartaMenu"
         about: qsTr("A price list that turns its pages")
         ratio: 0.8
-        CartaMenu { width: 600; height: 640; title: qsTr("Our menu"); showDetails: true }
+        CartaMenu { width: 600; height: 640; title: qsTr("Our menu"); showDetails: true; model: Samples.dishes() }
     }
 
     Specimen {
@@ -60,11 +59,11 @@ SheetColumns {
             height: 230
             color: "#17212b"
             radius: 16
-            name: qsTr("Pizza Margherita")
-            about: qsTr("Tomato, mozzarella, fresh basil, olive oil")
+            name: "Tagliatelle al pomodoro"
+            about: qsTr("Cherry tomatoes, basil, olive oil")
             calories: "780 kcal"
-            price: "11.50"
-            image: root.samples + "samplePizza.png"
+            price: "12,50 €"
+            image: Samples.picture("pasta")
         }
     }
 
@@ -78,16 +77,16 @@ SheetColumns {
             color: "#17212b"
             radius: 12
             number: "1"
-            name: qsTr("Fresh orange juice")
+            name: "Olive miste"
             calories: "112 kcal"
-            price: "4.20"
-            image: root.samples + "sampleJuice.png"
+            price: "5,00 €"
+            image: Samples.picture("olives")
         }
     }
 
     Specimen {
         title: "MenuSlideshow"
         about: qsTr("A list with the picture of one entry at a time")
-        MenuSlideshow { width: 1120; height: 600; title: qsTr("Today"); showTime: 4000 }
+        MenuSlideshow { width: 1120; height: 600; title: qsTr("Today"); showTime: 4000; model: Samples.dishes() }
     }
 }

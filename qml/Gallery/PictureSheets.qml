@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import "../Components"
+import "samples.js" as Samples
 
 /// Pictures, video and web pages.
 SheetColumns {
     id: root
-
-    readonly property string samples: "qrc:///Nuvex/Components/icons/"
-    readonly property url film: "qrc:///Nuvex/Components/icons/sampleSun.webm"
 
     narrowest: 40
     most: 4
@@ -17,20 +15,20 @@ SheetColumns {
         title: "BasicImage"
         about: qsTr("A picture")
         BasicImage {
-            width: 640; height: 360; source: root.samples + "sampleSalad.png"; fillMode: Image.PreserveAspectCrop
+            width: 640; height: 360; source: Samples.picture("gelato"); fillMode: Image.PreserveAspectCrop
         }
     }
 
     Specimen {
         title: "KImage"
         about: qsTr("A picture that is approached slowly")
-        KImage { width: 640; height: 360; source: root.samples + "sampleCake.png"; kTime: 6000 }
+        KImage { width: 640; height: 360; source: Samples.picture("court"); kTime: 6000 }
     }
 
     Specimen {
         title: "LiveImage"
         about: qsTr("A picture that comes and goes")
-        LiveImage { width: 640; height: 360; source: root.samples + "samplePizza.png"; backColor: "#f3eee3" }
+        LiveImage { width: 640; height: 360; source: Samples.picture("olives"); backColor: "#f3eee3" }
     }
 
     Specimen {
@@ -40,20 +38,31 @@ SheetColumns {
     }
 
     Specimen {
+        title: "BasicWebView"
+        about: qsTr("A web page; here its mark, before one is chosen")
+
+        BasicWebView {
+            width: 640
+            height: 360
+
+            Loader {
+                anchors.fill: parent
+                sourceComponent: parent.preview
+            }
+        }
+    }
+
+    // A player takes the window's thread for a moment when it is made: last.
+    Specimen {
         title: "BasicVideo"
         about: qsTr("A video")
-        BasicVideo { width: 640; height: 360; source: root.film }
+        BasicVideo { width: 640; height: 238; muted: true; source: Samples.film("espresso") }
     }
 
     Specimen {
         title: "ChromaVideo"
-        about: qsTr("The same video without its green")
-        ChromaVideo { width: 640; height: 360; source: root.film }
-    }
-
-    Specimen {
-        title: "BasicWebView"
-        about: qsTr("A web page; here before one is chosen")
-        BasicWebView { width: 640; height: 360 }
+        about: qsTr("A video without its green")
+        wall: "#6d1826"
+        ChromaVideo { width: 540; height: 360; muted: true; source: Samples.film("card") }
     }
 }

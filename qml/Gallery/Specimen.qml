@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
 /// A card with one component on a piece of wall, made as small as the wall demands, and a line on what it is. The
-/// component is made after the card is seen.
+/// component is made when its chapter sets `isFilled`.
 BGUI.Card {
     id: root
 
@@ -15,6 +15,7 @@ BGUI.Card {
     /// Free room around the component, as a share of the wall's width.
     property real margin: 0.05
     default property Component component: null
+    property bool isFilled: false
     readonly property Item shown: loader.item
 
     spacing: BGUI.Theme.unit
@@ -39,16 +40,18 @@ BGUI.Card {
         color: root.wall
         clip: true
 
-        BGUI.CustomBuzyInd {
-            running: loader.status === Loader.Loading
-        }
-
         Loader {
             id: loader
             anchors.centerIn: parent
             scale: Math.min(1, ground.room / width, (ground.height - ground.width + ground.room) / height)
+            active: root.isFilled
             asynchronous: true
             sourceComponent: root.component
+            opacity: status === Loader.Ready ? 1 : 0
+
+            Behavior on opacity {
+                NumberAnimation { duration: 300 }
+            }
         }
     }
 }

@@ -1,7 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The Nuvex developers
 # SPDX-License-Identifier: MIT
-"""Takes one picture a page, demo and size of the real program for docs/screenshots."""
+"""Takes one picture a page, demo and size of the real program for docs/screenshots.
+
+Further arguments name what is taken: pages, gallery, or demos by their folders; without any it is all.
+"""
 import os
 import shutil
 import subprocess
@@ -64,7 +67,7 @@ def steps_of_the_gallery(program):
     take(program, "gallery")
     for chapter in ["Pictures", "Texts", "Time and news", "Menus", "Shows", "Layouts", "Effects"]:
         program.click(chapter)
-        take(program, "gallery-" + chapter.lower().replace(" ", "-"), "jpg", 3)
+        take(program, "gallery-" + chapter.lower().replace(" ", "-"), "jpg", 8)
 
 
 def run(setup, screen, steps, settings, *arguments):
@@ -84,20 +87,27 @@ def run(setup, screen, steps, settings, *arguments):
 
 
 def main():
-    setup, names = read_setup()
+    setup, wanted = read_setup()
     PICTURES.mkdir(exist_ok=True)
     signed_in = {"userEmail": "ada@example.org", "playerUID": "window-3_1764000000000", "shareFolder": "false",
                  "doOnStart": "", "lastProject": "Shop Promotion"}
+    # Boards that go by the clock are taken at nine in the morning.
+    os.environ["TZ"] = f"DAY{time.gmtime().tm_hour - 9}"
+    demos = [demo.parent for demo in sorted((ROOT / "demos").glob("*/main.qml"))]
+    wanted = wanted or ["pages", "gallery", *[demo.name for demo in demos]]
     for size in SIZES:
         screen = Screen(size)
         try:
-            run(setup, screen, steps_of_a_first_start, None)
-            run(setup, screen, steps_of_the_pages, signed_in)
-            run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
-            run(setup, screen, steps_of_the_gallery, signed_in, "--gallery")
-            for demo in sorted((ROOT / "demos").glob("*/main.qml")):
-                name = demo.parent.name.lower().replace(" ", "-")
-                run(setup, screen, lambda program: take(program, name, "jpg", 4), signed_in, "--play", demo.parent)
+            if "pages" in wanted:
+                run(setup, screen, steps_of_a_first_start, None)
+                run(setup, screen, steps_of_the_pages, signed_in)
+                run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
+            if "gallery" in wanted:
+                run(setup, screen, steps_of_the_gallery, signed_in, "--gallery")
+            for demo in demos:
+                if demo.name in wanted:
+                    name = demo.name.lower().replace(" ", "-")
+                    run(setup, screen, lambda program: take(program, name, "jpg", 4), signed_in, "--play", demo)
         finally:
             screen.close()
 

@@ -6,47 +6,56 @@ Rectangle {
     id: root
 
     property int page: 0
-    readonly property date today: new Date()
+    property date today: new Date()
     readonly property date monday: new Date(today.getFullYear(), today.getMonth(), 1 - (new Date(today.getFullYear(), today.getMonth(), 1).getDay() + 6) % 7)
+    readonly property string time: Qt.formatTime(today, "hh:mm")
     readonly property var news: [
         ["The roof garden is open again", "Forty beds, two beehives and a bench for everyone who needs ten minutes of sky."],
-        ["All our power now comes from the sea", "The contract with the Borkum wind farm took effect this week, for every floor of both towers."],
-        ["Two hundred new colleagues in Gdańsk", "The third office of the year brings the northern team to more than a thousand people."],
-        ["Open lecture: Bridges that measure themselves", "Thursday at six in the auditorium. Guests are welcome, admission is free."],
-        ["The canteen wins a prize for its bread", "Sourdough from the ground floor, baked at four in the morning. There is some left at noon."],
-        ["Bicycle repairs in the yard", "Every first Monday of the month, from eight to twelve."]
+        ["Our power comes from the sea", "The contract with the Borkum wind farm took effect this week, for every floor of both towers."],
+        ["Two hundred more in Gdańsk", "The third office of the year brings the northern team to more than a thousand people."],
+        ["Bridges that measure", "Open lecture, Thursday at six in the auditorium. Guests are welcome, admission is free."],
+        ["A prize for the canteen's bread", "Sourdough from the ground floor, baked at four in the morning. There is some left at noon."],
+        ["Bicycle repairs in the yard", "Every first Monday of the month, from eight to twelve in the yard behind the north tower."]
     ]
+    readonly property var guests: [
+        ["08:30", "Ines Albers, Nordsicht", "Fjord, 4th floor"], ["09:30", "Maria Keller, Aurel", "Fjord, 4th floor"],
+        ["11:00", "Jonas Lindqvist, Norrpulp", "Skerry, 2nd floor"], ["12:30", "Class 9b, Altona", "Canteen"],
+        ["14:15", "Delegation from Gdańsk", "Auditorium"], ["15:45", "Tomasz Wrona, Baltpak", "Skerry, 2nd floor"],
+        ["17:00", "Dr. Ayla Demir, TU", "Archive, ground floor"], ["18:00", "Guests of the lecture", "Auditorium"],
+        ["20:30", "Night tour, four guests", "Roof garden"], ["22:00", "Hanna Voss, security", "Desk"]
+    ].filter(guest => guest[0] >= root.time)
 
     width: 1920
     height: 1080
     color: "#f1eee8"
 
-    component Page: Text { font.family: "Open Sans"; color: "#14233a"; width: 450; wrapMode: Text.Wrap }
     component Dark: Rectangle { color: "#14233a" }
+    component Card: Rectangle { width: 576; radius: 12; color: "white" }
 
-    Zoom { width: 720; height: 1080; to: 1.06; duration: 30000; source: "../../../demos/Corporate Lobby/images/towers.jpg" }
-    Dark { y: 792; width: 720; height: 288 }
-    Label { x: 64; y: 840; text: "NORDLICHT"; color: "#f3b765"; font { bold: true; pixelSize: 24; letterSpacing: 5 } }
-    Headline { x: 60; y: 872; text: "Welcome"; color: "white"; font.pixelSize: 112; lineHeight: 1 }
-    Label { x: 64; y: 1000; text: "Please sign in at the desk"; color: "#c3cddb" }
+    Timer { interval: 1000; running: true; repeat: true; onTriggered: root.today = new Date() }
 
-    Clock { x: 768; y: 56; width: 256; height: 144; color: "#14233a"; fontSizeMode: Text.Fit; font.pixelSize: 128 }
-    Clock { x: 1088; y: 72; width: 336; height: 64; color: "#14233a"; format: "dddd"; font.pixelSize: 40 }
-    Clock { x: 1088; y: 120; width: 336; height: 64; color: "#56606f"; format: "d MMMM yyyy"; font.pixelSize: 32 }
+    Zoom { width: 608; height: 1080; to: 1.06; duration: 30000; source: "../../../demos/Corporate Lobby/images/towers.jpg" }
+    Dark { y: 784; width: 608; height: 296 }
+    Label { x: 64; y: 836; text: "NORDLICHT"; color: "#f3b765"; font { bold: true; pixelSize: 26; letterSpacing: 5 } }
+    Label { x: 60; y: 866; text: "Welcome"; color: "white"; font { bold: true; pixelSize: 104 } }
+    Label { x: 64; y: 996; text: "Please sign in at the desk"; color: "#c3cddb"; font.pixelSize: 32 }
+
+    Clock { x: 672; y: 36; width: 576; height: 160; color: "#14233a"; horizontalAlignment: Text.AlignLeft; font.pixelSize: 144 }
+    Clock { x: 672; y: 186; width: 576; height: 72; color: "#56606f"; horizontalAlignment: Text.AlignLeft; format: "dddd, d MMMM"; font.pixelSize: 40 }
 
     Dark {
-        x: 1488; y: 48; width: 368; height: 160; radius: 8
+        x: 1280; y: 64; width: 576; height: 184; radius: 12
 
-        Image { x: 56; y: 24; width: 115; height: 115; mipmap: true; source: "../../../qml/Components/icons/weatherFair.svg"; sourceSize: Qt.size(128, 128) }
-        Page { x: 188; y: 20; text: "14°"; color: "white"; font.pixelSize: 58 }
-        Page { x: 188; y: 90; text: "Partly cloudy"; color: "white"; font.pixelSize: 21 }
-        Page { x: 188; y: 118; text: "Hamburg"; color: "white"; opacity: 0.7; font.pixelSize: 18 }
+        Image { x: 144; y: 26; width: 132; height: 132; mipmap: true; source: "../../../qml/Components/icons/weatherFair.svg"; sourceSize: Qt.size(132, 132) }
+        Label { x: 292; y: 18; text: "14°"; color: "white"; font.pixelSize: 66 }
+        Label { x: 292; y: 106; text: "Partly cloudy"; color: "white"; font.pixelSize: 24 }
+        Label { x: 292; y: 140; text: "Hamburg"; color: "white"; opacity: 0.7; font.pixelSize: 20 }
     }
 
-    Rectangle {
-        x: 784; y: 256; width: 512; height: 464; radius: 12; color: "white"
+    Card {
+        x: 672; y: 280; height: 360
 
-        Label { x: 40; y: 24; text: Qt.formatDate(root.today, "MMMM yyyy"); color: "#14233a"; font { bold: true; pixelSize: 34 } }
+        Label { x: 38; y: 22; text: Qt.formatDate(root.today, "MMMM yyyy"); color: "#14233a"; font { bold: true; pixelSize: 34 } }
 
         Repeater {
             model: 49
@@ -55,54 +64,61 @@ Rectangle {
                 readonly property date day: new Date(root.monday.getTime() + (index - 7) * 86400000 + 43200000)
                 readonly property bool isToday: index > 6 && day.toDateString() === root.today.toDateString()
 
-                x: 24 + index % 7 * 66
-                y: 80 + Math.floor(index / 7) * 52
-                width: 66
-                height: 52
+                x: 24 + index % 7 * 76
+                y: 78 + Math.floor(index / 7) * 37
+                width: 76
+                height: 37
                 text: index < 7 ? Qt.formatDate(day, "ddd") : day.getDate()
                 color: index < 7 ? "#8a4a12" : isToday ? "white" : "#14233a"
                 opacity: index < 7 || day.getMonth() === root.today.getMonth() ? 1 : 0.35
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                font { pixelSize: index < 7 ? 20 : 24; bold: index < 7 }
+                font { pixelSize: index < 7 ? 19 : 23; bold: index < 7 }
 
-                Rectangle { anchors.centerIn: parent; z: -1; width: 50; height: 50; radius: 25; color: "#b4601a"; visible: parent.isToday }
+                Rectangle { anchors.centerIn: parent; z: -1; width: 36; height: 36; radius: 18; color: "#b4601a"; visible: parent.isToday }
             }
         }
     }
 
-    Headline { x: 784; y: 736; text: "Expected today"; color: "#14233a"; font.pixelSize: 40; lineHeight: 1 }
-    Repeater {
-        model: [["09:30", "Maria Keller, Aurel Systems", "Fjord, 4th floor"], ["11:00", "Jonas Lindqvist, Norrpulp", "Skerry, 2nd floor"],
-                ["14:15", "Delegation from Gdańsk", "Auditorium"]]
+    Card {
+        x: 672; y: 672; height: 344
 
-        Item {
-            x: 784
-            y: 800 + 80 * index
+        Label { x: 36; y: 20; text: "Expected today"; color: "#14233a"; font { bold: true; pixelSize: 34 } }
+        Repeater {
+            model: root.guests.slice(0, 3)
 
-            Rectangle { width: 512; height: 2; color: "#cfc9bd" }
-            Label { y: 14; text: modelData[0]; color: "#8a4a12"; font.bold: true }
-            Label { x: 120; y: 10; text: modelData[1]; color: "#14233a"; font.bold: true }
-            Label { x: 120; y: 46; text: modelData[2]; color: "#56606f"; font.pixelSize: 22 }
+            Rectangle {
+                readonly property bool isNext: index === 0
+
+                x: 20; y: 80 + 80 * index
+                width: 536; height: 80; radius: 8
+                color: isNext ? "#14233a" : "transparent"
+
+                Label { x: 16; y: 5; text: modelData[0]; color: isNext ? "#f3b765" : "#8a4a12"; font { bold: true; pixelSize: 30 } }
+                Label { x: 128; y: 5; text: modelData[1]; color: isNext ? "white" : "#14233a"; font { bold: true; pixelSize: 30 } }
+                Label { x: 128; y: 43; text: modelData[2]; color: isNext ? "#c3cddb" : "#56606f"; font.pixelSize: 22 }
+            }
         }
     }
 
-    Rectangle {
-        x: 1344; y: 256; width: 512; height: 760; radius: 8; color: "white"
+    Card {
+        x: 1280; y: 280; height: 736
 
-        Rectangle { x: 22; y: 18; width: 7; height: 31; radius: 3; color: "#b4601a" }
-        Page { x: 42; y: 14; text: "News from the house"; font { pixelSize: 28; weight: Font.DemiBold } }
+        Rectangle { x: 38; y: 31; width: 7; height: 35; radius: 3; color: "#b4601a" }
+        Label { x: 60; y: 28; text: "News from the house"; color: "#14233a"; font { pixelSize: 32; weight: Font.DemiBold } }
 
-        Column {
+        Item {
             id: rows
-            x: 22; y: 80; spacing: 32
+            x: 38; y: 128
 
             Repeater {
-                model: root.page ? root.news.slice(2) : root.news.slice(0, 4)
+                model: root.news.slice(3 * root.page, 3 * root.page + 3)
 
                 Column {
-                    Page { text: modelData[0]; font { pixelSize: 28; weight: Font.DemiBold } }
-                    Page { text: modelData[1]; opacity: 0.85; font.pixelSize: 20 }
+                    y: 210 * index
+
+                    Label { text: modelData[0]; color: "#14233a"; font { pixelSize: 32; weight: Font.DemiBold } }
+                    Label { width: 504; wrapMode: Text.Wrap; text: modelData[1]; color: "#14233a"; opacity: 0.85; font.pixelSize: 23 }
                 }
             }
         }

@@ -33,8 +33,8 @@ Rectangle {
     Rectangle { y: 776; width: 688; height: 232; color: "#12302b" }
     Label { x: 72; y: 824; text: "HARBOUR HOUSE"; color: "#d8b877"; font { bold: true; pixelSize: 24; letterSpacing: 4 } }
     Headline { x: 68; y: 860; text: "Good to see you"; color: "#f3eee3"; font.pixelSize: 80; lineHeight: 1 }
-    Clock { x: 704; y: 872; width: 360; height: 88; color: "#12302b"; font.pixelSize: 72 }
-    Clock { x: 704; y: 952; width: 360; height: 56; color: "#4a5a52"; format: "dddd, d MMMM" }
+    Clock { x: 704; y: 858; width: 304; height: 104; color: "#12302b"; horizontalAlignment: Text.AlignRight; font.pixelSize: 88 }
+    Clock { x: 704; y: 952; width: 304; height: 56; color: "#4a5a52"; horizontalAlignment: Text.AlignRight; format: "ddd, d MMMM"; font.pixelSize: 32 }
     Headline { x: 72; y: 1048; text: "Today in the house"; color: "#12302b"; font.pixelSize: 56; lineHeight: 1 }
 
     Repeater {
@@ -51,9 +51,9 @@ Rectangle {
             y: 1136 + 128 * index
 
             Rectangle { width: 936; height: 2; color: "#c9bfa9" }
-            Label { y: 24; text: modelData[0]; color: "#8a4a22"; font { bold: true; pixelSize: 40 } }
-            Label { x: 176; y: 24; text: modelData[1]; color: "#12302b"; font { bold: true; pixelSize: 36 } }
-            Label { x: 176; y: 72; text: modelData[2]; color: "#4a5a52" }
+            Label { y: 16; text: modelData[0]; color: "#8a4a22"; font { bold: true; pixelSize: 40 } }
+            Label { x: 176; y: 16; text: modelData[1]; color: "#12302b"; font { bold: true; pixelSize: 40 } }
+            Label { x: 176; y: 70; text: modelData[2]; color: "#4a5a52"; font.pixelSize: 30 }
         }
     }
 

@@ -13,16 +13,17 @@ Rectangle {
 
     component Photo: Image {
         width: 560
-        height: 288
+        height: 208
         fillMode: Image.PreserveAspectCrop
         asynchronous: true
         mipmap: true
     }
+    component Leaf: Label { text: "\uf06c"; color: "#8fb85f"; font { family: "FontAwesome"; pixelSize: 24 } }
     component Card: Item {
         property alias title: heading.text
         property alias model: lines.model
 
-        y: 464
+        y: 336
         width: 560
 
         Headline { id: heading; y: 22; color: "#e3ab62"; font.pixelSize: 56; lineHeight: 1 }
@@ -31,12 +32,13 @@ Rectangle {
             id: lines
 
             Item {
-                y: 108 + 94 * index
+                y: 108 + 98 * index
                 width: 560
 
-                Label { id: name; text: modelData[0]; color: "#f2eadd"; font { bold: true; pixelSize: 32 } }
-                Label { id: price; anchors.right: parent.right; text: modelData[1]; color: "#e3ab62"; font { bold: true; pixelSize: 32 } }
-                Label { y: 44; text: modelData[2]; color: "#b9b0a3"; font.pixelSize: 24 }
+                Label { id: name; text: modelData[0]; color: "#f2eadd"; font { bold: true; pixelSize: 34 } }
+                Label { id: price; anchors.right: parent.right; text: modelData[1]; color: "#e3ab62"; font { bold: true; pixelSize: 34 } }
+                Label { y: 46; text: modelData[2]; color: "#c8bfb1"; font.pixelSize: 25 }
+                Leaf { anchors { left: name.right; leftMargin: 10; baseline: name.baseline } visible: modelData.length > 3 }
 
                 Row {
                     anchors { right: price.left; rightMargin: 10 }
@@ -44,7 +46,7 @@ Rectangle {
                     spacing: 8
 
                     Repeater {
-                        model: Math.floor((540 - name.width - price.width) / 11.5)
+                        model: Math.floor((506 - name.width - price.width) / 11.5)
 
                         Rectangle { width: 3.5; height: 3.5; radius: 1.75; color: "#b9b0a3"; opacity: 0.7 }
                     }
@@ -53,12 +55,15 @@ Rectangle {
         }
     }
 
-    Headline { x: 68; y: 36; text: "Osteria Faro"; color: "#f2eadd"; font.pixelSize: 88; lineHeight: 1 }
-    Label { x: 680; y: 80; text: "Fresh pasta every morning  ·  Kitchen open until 23 h"; color: "#b9b0a3" }
-    Clock { x: 1704; y: 56; width: 184; height: 80; color: "#f2eadd"; font.pixelSize: 56 }
+    Headline { x: 68; y: 16; text: "Osteria Faro"; color: "#f2eadd"; font.pixelSize: 80; lineHeight: 1 }
+    Label { x: 680; y: 60; text: "Kitchen open until 23 h"; color: "#c8bfb1"; font.pixelSize: 32 }
+    Leaf { x: 1288; y: 64; font.pixelSize: 28 }
+    Label { x: 1328; y: 60; text: "vegetarian"; color: "#c8bfb1"; font.pixelSize: 32 }
+    Clock { x: 1648; y: 40; width: 200; height: 80; color: "#f2eadd"; horizontalAlignment: Text.AlignRight; font.pixelSize: 56 }
 
     Show {
-        x: 72; y: 168; width: 560; height: 288
+        x: 72; y: 136; width: 560; height: 208
+        durations: [12000, 12000]
 
         Photo { source: root.media + "images/tomatoes.jpg" }
         Photo { source: root.media + "images/olives.jpg" }
@@ -66,13 +71,13 @@ Rectangle {
     Card {
         x: 72
         title: "Antipasti"
-        model: [["Bruschetta", "6.50", "Tomato, garlic, basil"], ["Olive miste", "5.00", "Marinated with orange and fennel"],
-                ["Burrata", "11.50", "Roast peppers, mint oil"], ["Vitello tonnato", "13.00", "Veal, tuna cream, capers"],
-                ["Tagliere", "16.00", "Three hams, three cheeses, figs"]]
+        model: [["Bruschetta", "6,50 €", "Tomato, garlic, basil", true], ["Olive miste", "5,00 €", "With orange and fennel", true],
+                ["Burrata", "11,50 €", "Roast peppers, mint oil", true], ["Vitello tonnato", "13,00 €", "Veal, tuna cream, capers"]]
     }
 
     Show {
-        x: 680; y: 168; width: 560; height: 288
+        x: 680; y: 136; width: 560; height: 208
+        durations: [12000, 12000]
         offsetTime: 4000
 
         Photo { source: root.media + "images/pasta.jpg" }
@@ -81,23 +86,30 @@ Rectangle {
     Card {
         x: 680
         title: "Pasta e forno"
-        model: [["Tagliatelle al pomodoro", "12.50", "Cherry tomatoes, basil"], ["Ravioli di zucca", "14.00", "Pumpkin, sage butter"],
-                ["Linguine alle vongole", "17.50", "Clams, white wine, chilli"], ["Lasagne della casa", "14.50", "Eight hours of ragù"],
-                ["Branzino al forno", "23.00", "Sea bass, lemon, potatoes"]]
+        model: [["Tagliatelle al pomodoro", "12,50 €", "Cherry tomatoes, basil", true],
+                ["Linguine alle vongole", "17,50 €", "Clams, white wine, chilli"],
+                ["Lasagne della casa", "14,50 €", "Eight hours of ragù"], ["Branzino al forno", "23,00 €", "Sea bass, lemon, potatoes"]]
     }
 
     Show {
-        x: 1288; y: 168; width: 560; height: 288
-        durations: [12000, 9000]
+        x: 1288; y: 136; width: 560; height: 208
+        durations: [12000, 12000]
+        offsetTime: 8000
 
-        Clip { width: 560; height: 288; muted: true; source: root.media + "videos/espresso.mp4" }
+        Clip { width: 560; height: 208; muted: true; source: root.media + "videos/espresso.mp4" }
         Photo { source: root.media + "images/gelato.jpg" }
     }
     Card {
         x: 1288
         title: "Dolci e caffè"
-        model: [["Gelato", "6.00", "Vanilla, pistachio, strawberry"], ["Tiramisù", "7.50", "With our own savoiardi"],
-                ["Panna cotta", "6.50", "Sour cherries"], ["Espresso", "2.60", "Roasted around the corner"],
-                ["Amaro del faro", "4.80", "Sixteen herbs"]]
+        model: [["Gelato", "6,00 €", "Vanilla, pistachio, strawberry", true], ["Tiramisù", "7,50 €", "With our own savoiardi", true],
+                ["Espresso", "2,60 €", "Roasted around the corner"], ["Amaro del faro", "4,80 €", "Sixteen herbs"]]
     }
+
+    Photo { y: 848; width: 1920; height: 232; source: root.media + "images/ravioli.jpg" }
+    Label { x: 72; y: 880; text: "PIATTO DEL GIORNO"; color: "#ffd9a0"; font { bold: true; pixelSize: 26; letterSpacing: 4 } }
+    Headline { x: 68; y: 908; text: "Ravioli di zucca"; color: "#fff3df"; font.pixelSize: 88; lineHeight: 1 }
+    Leaf { x: 72; y: 1016; color: "#ffd9a0" }
+    Label { x: 108; y: 1012; text: "Pumpkin, sage butter, amaretti"; color: "#fff3df" }
+    Label { x: 680; y: 912; width: 320; text: "14,50 €"; color: "#fff3df"; horizontalAlignment: Text.AlignRight; font { bold: true; pixelSize: 80 } }
 }

@@ -14,6 +14,7 @@ Rectangle {
 
     component Kicker: Label { x: 96; y: 112; font { bold: true; pixelSize: 32; letterSpacing: 5 } }
     component Title: Headline { x: 88; y: 160 }
+    component Brand: Headline { x: 624; y: 1704; width: 360; height: 120; text: "Lind & Rose"; horizontalAlignment: Text.AlignRight; verticalAlignment: Text.AlignVCenter; lineHeight: 1; font.pixelSize: 48 }
     component Offer: Plate { x: 96; y: 1704; height: 120; pixelSize: 48 }
 
     Show {
@@ -23,20 +24,23 @@ Rectangle {
         Zoom {
             anchors.fill: parent
             source: root.media + "images/scent.jpg"
+            to: 1.04
 
             Kicker { text: "NEW: N° 7, EMBER"; color: "#5e1622" }
             Title { text: "Amber,\nslowly lit"; color: "#3b0f18" }
+            Brand { color: "#3b0f18" }
             Offer { width: 472; text: "Ember, 50 ml: 68 €"; color: "#fff4ec"; ground: "#6d1826" }
         }
 
         Zoom {
             anchors.fill: parent
             source: root.media + "images/boxes.jpg"
-            from: 1.08
+            from: 1.06
             to: 1
 
             Kicker { text: "GIFTS, WRAPPED"; color: "#e8c98f" }
             Title { text: "A parcel\nfor each"; color: "#fbf3e4" }
+            Brand { color: "#fbf3e4" }
             Offer { width: 600; text: "Wrapped while you wait"; color: "white"; ground: "#b3262f" }
         }
 
@@ -44,6 +48,7 @@ Rectangle {
             anchors.fill: parent
             color: "#4a0f1a"
 
+            Image { anchors.fill: parent; source: root.media + "images/stage.jpg"; fillMode: Image.PreserveAspectCrop; mipmap: true }
             ParticleSystem {
                 id: system
                 anchors.fill: parent
@@ -59,24 +64,24 @@ Rectangle {
                 }
                 Emitter {
                     anchors.fill: parent
-                    emitRate: 9
+                    emitRate: 6
                     lifeSpan: 16000
                     lifeSpanVariation: 5333
                     startTime: 16000
-                    size: 44
-                    sizeVariation: 31
+                    size: 36
+                    sizeVariation: 25
                     velocity: AngleDirection { angle: 90; angleVariation: 20; magnitude: 90; magnitudeVariation: 45 }
                 }
             }
 
-            Clip { id: gift; width: 960; height: 960; visible: false; muted: true; autoPlay: true; source: root.media + "videos/gift.mp4" }
+            Clip { id: card; width: 960; height: 640; visible: false; muted: true; autoPlay: true; source: root.media + "videos/card.mp4" }
             ShaderEffect {
-                property var source: ShaderEffectSource { sourceItem: gift }
+                property var source: ShaderEffectSource { sourceItem: card }
 
                 x: 60
                 y: 640
                 width: 960
-                height: 960
+                height: 640
                 fragmentShader: "
                     varying highp vec2 qt_TexCoord0;
                     uniform lowp sampler2D source;
@@ -92,6 +97,7 @@ Rectangle {
 
             Kicker { text: "GIFT CARDS"; color: "#ffcf8f" }
             Title { text: "One size\nfits all"; color: "#fff4ec" }
+            Brand { color: "#fff4ec" }
             Offer { width: 512; text: "From 20 €, at the till"; color: "#3b0f18"; ground: "#f3d9b0" }
         }
     }

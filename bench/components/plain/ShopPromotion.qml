@@ -18,7 +18,7 @@ Rectangle {
         asynchronous: true
         mipmap: true
     }
-    component Kicker: Label { font { bold: true; pixelSize: 24; letterSpacing: 4 } }
+    component Kicker: Label { font { bold: true; pixelSize: 28; letterSpacing: 4 } }
     component Story: Label { font.pixelSize: 32; lineHeight: 1.25; color: "#2a2d34"; wrapMode: Text.WordWrap }
 
     Show {
@@ -87,15 +87,18 @@ Rectangle {
         Photo {
             source: root.media + "images/table.jpg"
 
-            Rectangle { x: 1160; y: 120; width: 640; height: 736; color: "#f4ede3" }
-            Kicker { x: 1224; y: 184; text: "AT YOUR SERVICE"; color: "#8a3a1e" }
-            Headline { x: 1216; y: 224; text: "A table\nfor two, or\ntwenty"; color: "#2a2d34"; font.pixelSize: 96 }
-            Story { x: 1224; y: 568; text: "Wedding lists\nReplacement pieces\nGift wrapping\nDelivery by cargo bike"; lineHeight: 1.35 }
+            Kicker { x: 120; y: 144; text: "AT YOUR SERVICE"; color: "#e8c98f" }
+            Headline { x: 112; y: 184; text: "A table\nfor two, or\ntwenty"; color: "#f4ede3"; font.pixelSize: 112 }
+            Story {
+                x: 120; y: 568
+                text: "Wedding lists\nReplacement pieces\nGift wrapping\nDelivery by cargo bike"
+                color: "#f4ede3"; font.pixelSize: 36; lineHeight: 1.35
+            }
         }
     }
 
     Rectangle { y: 976; width: 1920; height: 104; color: "#2a2d34" }
     Label { x: 120; y: 996; text: "HALDEN"; color: "#f4ede3"; font { family: "Bebas Neue"; bold: true; pixelSize: 56; letterSpacing: 8 } }
     Label { anchors.horizontalCenter: parent.horizontalCenter; y: 1008; text: "Haldengasse 12   ·   Monday to Saturday, 10 to 19 h"; color: "#d9cfc2" }
-    Clock { x: 1624; y: 984; width: 216; height: 88; color: "#f4ede3"; font.pixelSize: 56 }
+    Clock { x: 1592; y: 984; width: 208; height: 88; color: "#f4ede3"; horizontalAlignment: Text.AlignRight; font.pixelSize: 56 }
 }

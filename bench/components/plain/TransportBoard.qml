@@ -5,64 +5,63 @@ import QtQuick 2.15
 Rectangle {
     id: root
 
-    readonly property int hour: new Date().getHours() * 60 + new Date().getMinutes()
-    readonly property bool isNight: hour >= 30 && hour < 285
+    property date now: new Date()
+    readonly property int minute: now.getHours() * 60 + now.getMinutes()
+    readonly property bool isNight: minute >= 30 && minute < 285
     readonly property var timetables: isNight ? [night] : [rails, roads]
-    readonly property var rails: ({
-        title: "Metro", colors: ["#d93a43", "#d93a43", "#2f6fde", "#2f6fde", "#23835a", "#23835a", "#b06f00", "#b06f00"],
-        columns: ["1\n1\n2\n2\n4\n4\n7\n7", "Northfields\nLighthouse\nWest End\nAirport\nHill View\nShipyard\nOpera\nBeach",
-            "Mill Lane\nOld Port\nMarket\nMuseum, Park\nchange at Opera\nchange at Market\ndirect\nUniversity",
-            "1\n2\n3\n4\n5\n6\n7\n8", "4 min\n4 min\n6 min\n6 min\n8 min\n8 min\n10 min\n10 min",
-            "00:42\n00:51\n00:36\n01:12\n23:58\n00:04\n00:20\n00:30"] })
-    readonly property var roads: ({
-        title: "Bus and ferry", colors: ["#7d56c2", "#7d56c2", "#7d56c2", "#7d56c2", "#7d56c2", "#7d56c2", "#0f7f8c", "#0f7f8c"],
-        columns: ["12\n18\n21\n34\n40\n52\nF1\nF2",
-            "Old Brewery\nHospital\nBotanical Garden\nStadium\nOld Airfield\nVineyards\nFerry, Lighthouse\nFerry, Seal Island",
-            "Town Hall\nChestnut Avenue\nPark\nMarket\nRing road\nHill View\nOld Port\ndirect", "A\nA\nB\nC\nD\nD\nPier\nPier",
-            "10 min\n12 min\n15 min\n10 min\n15 min\n20 min\n20 min\n60 min",
-            "23:40\n00:10\n22:45\n00:25\n23:15\n22:30\n21:50\n19:00"] })
-    readonly property var night: ({
-        title: "Night lines", colors: ["#d93a43", "#2f6fde", "#2f6fde", "#23835a", "#23835a", "#b06f00", "#7d56c2", "#7d56c2"],
-        columns: ["N1\nN2\nN3\nN4\nN5\nN7\nN9\nN12", "Northfields\nAirport\nWest End\nHill View\nShipyard\nBeach\nHospital\nStadium",
-            "Mill Lane\nMuseum, Park\nMarket\nOpera\nMarket\nUniversity\nChestnut Avenue\nOld Brewery", "A\nA\nB\nB\nC\nC\nD\nD",
-            "30 min\n20 min\n30 min\n30 min\n60 min\n30 min\n60 min\n60 min",
-            "04:30\n04:40\n04:30\n04:15\n04:00\n04:30\n04:10\n04:20"] })
+    // Line, colour, destination, platform, minutes between two, minutes past the hour, the day's first and last.
+    readonly property var rails: ({ title: "Metro", lines: [
+        ["1", "#d93a43", "Northfields", "1", 4, 1], ["1", "#d93a43", "Lighthouse", "2", 4, 3],
+        ["2", "#2f6fde", "Castle", "3", 6, 2], ["2", "#2f6fde", "Airport", "4", 6, 5],
+        ["4", "#23835a", "Hill View", "5", 8, 3], ["4", "#23835a", "Shipyard", "6", 8, 7],
+        ["7", "#f0a92c", "Opera", "7", 10, 4], ["7", "#f0a92c", "Beach", "8", 10, 9]] })
+    readonly property var roads: ({ title: "Bus and ferry", lines: [
+        ["12", "#7d56c2", "Old Brewery", "A", 10, 2], ["18", "#7d56c2", "Hospital", "A", 12, 7],
+        ["21", "#7d56c2", "Botanical Garden", "B", 15, 6], ["34", "#7d56c2", "Stadium", "C", 10, 8],
+        ["40", "#7d56c2", "Old Airfield", "D", 15, 11], ["52", "#7d56c2", "Vineyards", "D", 20, 13],
+        ["F1", "#0f7f8c", "Lighthouse", "Pier", 20, 10, 400, 1310], ["F2", "#0f7f8c", "Seal Island", "Pier", 60, 30, 450, 1170]] })
+    readonly property var night: ({ title: "Night lines", lines: [
+        ["N1", "#d93a43", "Northfields", "A", 30, 5], ["N2", "#2f6fde", "Airport", "A", 20, 12],
+        ["N3", "#2f6fde", "Castle", "B", 30, 20], ["N4", "#23835a", "Hill View", "B", 30, 10],
+        ["N5", "#23835a", "Shipyard", "C", 60, 25], ["N7", "#f0a92c", "Beach", "C", 30, 15],
+        ["N9", "#7d56c2", "Hospital", "D", 60, 40], ["N12", "#7d56c2", "Stadium", "D", 60, 50]] })
     readonly property var notices: [
-        ["Saturday and Sunday: buses replace line 4 between Market and Shipyard", "#10192e", "#f0a92c"],
-        ["The night ferry sails again from the first of April", "#ffffff", "#0f7f8c"],
-        ["Please keep your luggage with you", "#ffffff", "#19264a"]
+        ["4", "#23835a", "Saturday and Sunday: buses run instead of line 4"],
+        ["F2", "#0f7f8c", "The night ferry sails again from the first of April"],
+        ["\uf0f2", "#10192e", "Please keep your luggage with you"]
     ]
+
+    // Texts of the columns for the next departure and the one after it.
+    function departures(every, at, first, last) {
+        const next = minute < first ? first - minute : (every + at - minute % every) % every;
+        if (minute < first - every || minute + next > last)
+            return [Qt.formatTime(new Date(2000, 0, 1, 0, first), "hh:mm"), ""];
+        return [next > 0 ? next + " min" : "now", minute + next + every <= last ? next + every + " min" : ""];
+    }
 
     width: 1920
     height: 1080
     color: "#10192e"
 
-    component Column: Label {
-        color: "white"
-        lineHeightMode: Text.FixedHeight
-        lineHeight: 88
-        font.pixelSize: 32
-    }
-    component Title: Label { y: 8; color: "#a9b8d6"; font.pixelSize: 24 }
-    component Box: Rectangle {
-        property alias title: heading.text
+    component Head: Label { color: "#b4c2dd"; font.pixelSize: 32 }
+    component Cell: Label { y: 11; color: "white"; horizontalAlignment: Text.AlignRight; font { bold: true; pixelSize: 48 } }
+    component Sign: Rectangle {
         property alias text: line.text
-        property alias mark: bar.color
+        property alias ink: line.color
 
-        width: 328; height: 120; radius: 8; color: "#19264a"
+        width: 88; height: 64; radius: 12
 
-        Rectangle { id: bar; x: 24; y: 24; width: 16; height: 72; radius: 4 }
-        Label { id: heading; x: 64; y: 20; color: "white"; font { bold: true; pixelSize: 32 } }
-        Label { id: line; x: 64; y: 64; color: "#a9b8d6"; font.pixelSize: 24 }
+        Label { id: line; anchors.centerIn: parent; color: "white"; font { bold: true; pixelSize: 40 } }
     }
 
-    Label { x: 72; y: 40; text: "Central"; color: "white"; font { bold: true; pixelSize: 72 } }
-    Label { x: 384; y: 68; text: "Departures from this station"; color: "#a9b8d6"; font.pixelSize: 40 }
-    Clock { x: 1672; y: 40; width: 224; height: 96; color: "#ffcf66"; font.pixelSize: 72 }
-    Clock { x: 1256; y: 48; width: 400; height: 80; color: "#a9b8d6"; font.pixelSize: 32; format: "dddd, d MMMM" }
+    Timer { interval: 1000; running: true; repeat: true; onTriggered: root.now = new Date() }
+
+    Label { x: 72; y: 24; text: "Central"; color: "white"; font { bold: true; pixelSize: 80 } }
+    Clock { x: 720; y: 32; width: 768; height: 104; color: "#b4c2dd"; horizontalAlignment: Text.AlignRight; font.pixelSize: 48; format: "dddd, d MMMM" }
+    Clock { x: 1536; y: 24; width: 312; height: 112; color: "#ffcf66"; horizontalAlignment: Text.AlignRight; font.pixelSize: 96 }
 
     Show {
-        x: 72; y: 168; width: 1056; height: 760
+        x: 72; y: 152; width: 1128; height: 752
         durations: root.isNight ? [86400000] : [14000, 14000]
         fadeTime: 800
 
@@ -70,49 +69,51 @@ Rectangle {
             model: root.timetables
 
             Item {
-                Title { x: 96; text: modelData.title }
-                Title { x: 616; text: "Platform" }
-                Title { x: 816; text: "Every" }
-                Title { x: 984; text: "Last" }
+                width: 1128
+                height: 752
+
+                Head { x: 16; text: modelData.title }
+                Head { x: 568; width: 160; text: "Platform"; horizontalAlignment: Text.AlignHCenter }
+                Head { x: 736; width: 184; text: "Next"; horizontalAlignment: Text.AlignRight }
+                Head { x: 920; width: 184; text: "Then"; horizontalAlignment: Text.AlignRight }
 
                 Repeater {
-                    model: modelData.colors
+                    model: modelData.lines
 
                     Rectangle {
-                        y: 56 + 88 * index
-                        width: 1056; height: 88; radius: 8
+                        readonly property var times: root.departures(modelData[4], modelData[5], modelData[6] || 0, modelData[7] || 1440)
+
+                        y: 48 + 88 * index
+                        width: 1128; height: 88; radius: 12
                         color: index % 2 ? "transparent" : "#19264a"
 
-                        Rectangle { x: 16; y: 16; width: 64; height: 56; radius: 8; color: modelData }
+                        Sign { x: 16; y: 12; color: modelData[1]; text: modelData[0]; ink: modelData[1] === "#f0a92c" ? "#10192e" : "white" }
+                        Cell { x: 128; text: modelData[2] }
+                        Cell { x: 568; width: 160; text: modelData[3]; horizontalAlignment: Text.AlignHCenter; font.bold: false }
+                        Cell { x: 736; width: 184; text: parent.times[0]; color: "#ffcf66" }
+                        Cell { x: 920; width: 184; text: parent.times[1]; font.bold: false }
                     }
                 }
-                Column { x: 16; y: 80; width: 64; text: modelData.columns[0]; horizontalAlignment: Text.AlignHCenter; font { bold: true; pixelSize: 28 } }
-                Column { x: 96; y: 64; text: modelData.columns[1]; font.bold: true }
-                Column { x: 96; y: 104; text: modelData.columns[2]; color: "#a9b8d6"; font.pixelSize: 22 }
-                Column { x: 616; y: 78; width: 120; text: modelData.columns[3]; horizontalAlignment: Text.AlignHCenter }
-                Column { x: 744; y: 78; width: 144; text: modelData.columns[4]; color: "#ffcf66"; horizontalAlignment: Text.AlignRight; font.bold: true }
-                Column { x: 904; y: 78; width: 128; text: modelData.columns[5]; horizontalAlignment: Text.AlignRight }
             }
         }
     }
 
-    Image { x: 1176; y: 168; width: 672; height: 616; source: "../../../demos/Transport Board/images/network.png"; fillMode: Image.PreserveAspectCrop; mipmap: true }
-    Box { x: 1176; y: 808; title: "Lifts"; text: "All in service"; mark: "#23835a" }
-    Box { x: 1520; y: 808; title: "Tickets"; text: "Machines at exit B"; mark: "#2f6fde" }
+    Image { x: 1248; y: 168; width: 600; height: 736; source: "../../../demos/Transport Board/images/network.png"; fillMode: Image.PreserveAspectFit; mipmap: true }
 
     Show {
-        y: 952; width: 1920; height: 128
+        y: 928; width: 1920; height: 152
         durations: [10000, 10000, 10000]
-        fadeTime: 600
+        fadeTime: 800
 
         Repeater {
             model: root.notices
 
             Rectangle {
-                width: 1920; height: 128
-                color: modelData[2]
+                width: 1920; height: 152
+                color: "#f5f3ec"
 
-                Plate { x: 46; width: 1828; height: 128; text: modelData[0]; color: modelData[1]; pixelSize: 40; enterTime: 200 }
+                Sign { x: 88; y: 44; color: modelData[1]; text: modelData[0] }
+                Label { x: 200; height: 152; text: modelData[2]; color: "#10192e"; verticalAlignment: Text.AlignVCenter; font { bold: true; pixelSize: 48 } }
             }
         }
     }

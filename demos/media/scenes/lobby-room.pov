@@ -6,7 +6,7 @@
 
 camera { location <0, 1.9, -9.2> right x * image_width / image_height look_at <0, 2.0, 0> angle 42 }
 Sun(<-0.78, 0.52, -0.42>, srgb <1, 0.84, 0.62>, 2.6)
-light_source { <3, 3, -9> srgb <0.75, 0.85, 1> * 0.24 shadowless }
+light_source { <3, 3, -9> srgb <0.75, 0.85, 1> * 0.4 shadowless }
 sky_sphere { pigment { srgb <0.7, 0.8, 0.9> } emission 0.7 }
 
 #declare Green = srgb <0.27, 0.40, 0.36>;

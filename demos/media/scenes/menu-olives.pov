@@ -4,7 +4,7 @@
 // A bowl of olives.
 #include "kitchen.inc"
 
-FoodCamera(<0, 4.6, -7.6>, <0, 0.5, 0>, 44)
+FoodCamera(<0, 4.6, -7.6>, <0, 0.72, 0>, 25)
 Table()
 
 object { Bowl(srgb <0.62, 0.33, 0.22>) scale <1.5, 1.1, 1.5> }

@@ -4,7 +4,7 @@
 // Tagliatelle with tomatoes.
 #include "kitchen.inc"
 
-FoodCamera(<0, 6.2, -8.2>, <0, 0.35, 0>, 46)
+FoodCamera(<0, 6.2, -8.2>, <0, 0.5, 0.1>, 30)
 Table()
 
 object { Plate(2.25, srgb <0.92, 0.89, 0.83>) }

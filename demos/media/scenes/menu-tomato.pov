@@ -4,7 +4,7 @@
 // Tomatoes and basil.
 #include "kitchen.inc"
 
-FoodCamera(<0, 3.6, -8>, <0, 0.55, 0>, 44)
+FoodCamera(<0, 4.4, -7.8>, <0.15, 0.78, 0>, 33)
 Table()
 
 object { Tomato(0.78) rotate y * 20 translate <-0.95, 0, 0.25> }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// A laid table from above.
+// A laid table from above, room for words at the left.
 #include "studio.inc"
 #include "props.inc"
 
@@ -15,7 +15,7 @@ camera {
 
 StudioLight(<-11, 16, 8>, srgb <1, 0.95, 0.87>, 1.1, 6)
 light_source { <10, 14, -8> srgb <0.8, 0.86, 1> * 0.3 shadowless }
-plane { y, 0 pigment { srgb <0.47, 0.54, 0.46> } normal { granite 0.08 scale 0.3 } finish { ambient 0 diffuse 0.8 } }
+plane { y, 0 pigment { srgb <0.20, 0.29, 0.24> } normal { granite 0.08 scale 0.3 } finish { ambient 0 diffuse 0.8 } }
 
 #declare Cream = srgb <0.95, 0.91, 0.84>;
 #declare Terra = srgb <0.76, 0.42, 0.29>;
@@ -38,14 +38,13 @@ plane { y, 0 pigment { srgb <0.47, 0.54, 0.46> } normal { granite 0.08 scale 0.3
   object { Fork() translate <-3.1, 0, 0> }
   object { Knife() translate <3.1, 0, 0> } } #end
 
-object { Place(Cream, Terra) translate <-5.2, 0, -2.4> rotate y * 0 }
-object { Place(Cream, Ink) rotate y * 180 translate <4.6, 0, 3.4> }
-object { Bowl(Ink) scale 1.7 translate <-0.3, 0, 1.7> }
+object { Place(Cream, Terra) translate <1.7, 0, -1.5> }
+object { Place(Cream, Ink) rotate y * 180 translate <9.2, 0, 1.9> }
+object { Bowl(Ink) scale 1.7 translate <4.6, 0, 2.9> }
 #declare S = seed(4);
 #for (I, 0, 6)
-  sphere { <-0.3 + cos(I * 1.05) * 0.75 * (I > 0), 0.95 + (I = 0) * 0.35, 1.7 + sin(I * 1.05) * 0.75 * (I > 0)>, 0.52
+  sphere { <4.6 + cos(I * 1.05) * 0.75 * (I > 0), 0.95 + (I = 0) * 0.35, 2.9 + sin(I * 1.05) * 0.75 * (I > 0)>, 0.52
     pigment { granite scale 0.9 color_map { [0 srgb <0.86, 0.40, 0.12>] [1 srgb <0.93, 0.54, 0.18>] } } normal { bumps 0.2 scale 0.04 } finish { ambient 0 diffuse 0.75 specular 0.12 roughness 0.05 } }
 #end
-union { object { Saucer(Sand) } object { Cup(Sand, Cream) translate y * 0.08 } rotate y * 40 translate <0.9, 0, -3.2> }
-object { Branch(5.2, 1.2, srgb <0.40, 0.50, 0.36>, 7) rotate x * 90 rotate y * -118 translate <-2.2, 0.25, 4.4> }
-object { Branch(4.0, -0.8, srgb <0.44, 0.52, 0.38>, 2) rotate x * 90 rotate y * 62 translate <4.3, 0.25, -3.6> }
+union { object { Saucer(Sand) } object { Cup(Sand, Cream) translate y * 0.08 } rotate y * 40 translate <6.6, 0, -2.7> }
+object { Branch(5.2, 1.2, srgb <0.44, 0.56, 0.42>, 7) rotate x * 90 rotate y * -100 translate <2.2, 0.25, 3.6> }

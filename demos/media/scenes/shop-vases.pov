@@ -17,7 +17,7 @@ camera {
   angle 35
 }
 
-StudioLight(<-12, 11, -11>, srgb <1, 0.95, 0.88>, 1.3, 3)
+StudioLight(<-9, 17, -9>, srgb <1, 0.95, 0.88>, 1.35, 3)
 light_source { <12, 5, -12> srgb <0.9, 0.85, 1> * 0.2 shadowless }
 Backdrop(Rose)
 

@@ -92,7 +92,7 @@ class ImportOverAProject(InWorkspace):
             verdicts.append("old" if self.part(found, top) == old else "new")
         rest = {name for name in found if name.split("/")[0] not in tops}
         assert rest == {"Bar", "Bar/main.qml"} - ({"Bar", "Bar/main.qml"} if "Bar" in tops else set()), f"left: {rest}"
-        assert sorted(path.name for path in self.folder.iterdir()) == ["ShareFolder", "Work", "in.zip"]
+        assert sorted(path.name for path in self.folder.iterdir()) == ["ShareFolder", "Stills", "Work", "in.zip"]
         return verdicts[0] if len(set(verdicts)) == 1 else ", ".join(f"{t} {v}" for t, v in zip(tops, verdicts))
 
 

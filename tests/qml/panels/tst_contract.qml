@@ -234,7 +234,7 @@ PanelCase {
         compare(row("model").open, 0);
         waitForRendering(panel);
         const inputs = all(row("model"), item => item.echoMode !== undefined && item.visible);
-        compare(inputs.map(input => input.text), ["Tea", "2", ""]);
+        compare(inputs.map(input => input.text), ["Tea", "2", "", ""]);
         typeInto(inputs[2], "green");
         keyClick(Qt.Key_Return);
         compare(Ejs.elementObj.model[0].details, "green");

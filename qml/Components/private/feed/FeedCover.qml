@@ -11,6 +11,7 @@ Item {
     property string icon: "fa-rss"
     property string title
     property color color: "white"
+    property string family: "Open Sans"
 
     readonly property real measure: Math.max(1, Math.min(width * 0.5, height))
 
@@ -36,7 +37,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
             color: root.color
-            font.family: "Open Sans"
+            font.family: root.family
             font.pixelSize: Math.max(1, root.measure * 0.16)
         }
     }

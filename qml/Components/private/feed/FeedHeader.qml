@@ -9,6 +9,7 @@ Item {
     property string text
     property real pixelSize: 26
     property color color: "white"
+    property string family: "Open Sans"
     property color accentColor: "#f2a33a"
 
     implicitHeight: text === "" ? pixelSize * 0.8 : pixelSize * 2.4
@@ -31,7 +32,7 @@ Item {
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
         color: root.color
-        font.family: "Open Sans"
+        font.family: root.family
         font.pixelSize: root.pixelSize
         font.weight: Font.DemiBold
     }

@@ -12,6 +12,7 @@ Item {
     property real imgSize: 0
     property real pixelSize: 28
     property color color: "white"
+    property string family: "Open Sans"
     property var locale: Qt.locale()
 
     readonly property real edge: Math.min(imgSize, height)
@@ -43,7 +44,7 @@ Item {
             maximumLineCount: 2
             elide: Text.ElideRight
             color: root.color
-            font.family: "Open Sans"
+            font.family: root.family
             font.pixelSize: root.pixelSize
             font.weight: Font.DemiBold
         }
@@ -57,7 +58,7 @@ Item {
             text: Times.brief(root.entry.time, Date.now(), root.locale)
             color: root.color
             opacity: 0.6
-            font.family: "Open Sans"
+            font.family: root.family
             font.pixelSize: root.pixelSize * 0.6
         }
 
@@ -73,7 +74,7 @@ Item {
             elide: Text.ElideRight
             color: root.color
             opacity: 0.85
-            font.family: "Open Sans"
+            font.family: root.family
             font.pixelSize: root.pixelSize * 0.72
         }
     }

@@ -10,6 +10,7 @@ Column {
     property string detail
     property string place
     property color color: "white"
+    property string family: "Open Sans"
     /// What all sizes are measured by, and the most that a line may take, in pixels.
     property real measure: 100
     property real room: 200
@@ -25,7 +26,7 @@ Column {
         textFormat: Text.PlainText
         elide: Text.ElideRight
         color: root.color
-        font.family: "Open Sans"
+        font.family: root.family
         font.pixelSize: Math.max(1, root.measure * 0.36)
     }
 
@@ -38,7 +39,7 @@ Column {
         textFormat: Text.PlainText
         elide: Text.ElideRight
         color: root.color
-        font.family: "Open Sans"
+        font.family: root.family
         font.pixelSize: Math.max(1, root.measure * 0.13)
     }
 
@@ -52,7 +53,7 @@ Column {
         elide: Text.ElideRight
         color: root.color
         opacity: 0.7
-        font.family: "Open Sans"
+        font.family: root.family
         font.pixelSize: Math.max(1, root.measure * 0.11)
     }
 }

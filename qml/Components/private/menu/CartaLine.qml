@@ -5,7 +5,7 @@ import "entries.js" as Entries
 import "../fonts.js" as Fonts
 
 /// One entry of a CartaMenu: name, dots, price, and the details below. Where the name takes two lines, the dots and the
-/// price stand on the second.
+/// price stand on the second, and so does the mark of an entry that has one.
 Item {
     id: root
 
@@ -19,8 +19,8 @@ Item {
     /// The font of the name in full size, and the length that it has with the price and the price has, in pixels.
     readonly property alias face: title.face
     readonly property real line: width - (price.text === "" ? 0 : 24 * menu.unit)
-    readonly property real beside: price.width
-
+    readonly property real beside: price.width + (mark.text === "" ? 0 : mark.width + gap)
+    readonly property real gap: 10 * menu.unit
 
     function sized(font, share) {
         return Fonts.sized(font, font.pixelSize * menu.unit * share);
@@ -49,10 +49,21 @@ Item {
         }
     }
 
+    Text {
+        id: mark
+        anchors.left: parent.left
+        anchors.leftMargin: title.lastLength + root.gap
+        y: title.lastTop + title.baselineOffset - baselineOffset
+        text: faIcons[Entries.text(root.entry, "icon")] || ""
+        color: root.menu.iconColor
+        font.family: "FontAwesome"
+        font.pixelSize: Math.max(1, title.font.pixelSize * 0.7)
+    }
+
     Leader {
-        anchors { left: parent.left; right: price.left }
-        anchors.leftMargin: title.lastLength + 10 * root.menu.unit
-        anchors.rightMargin: 10 * root.menu.unit
+        anchors { left: mark.text === "" ? parent.left : mark.right; right: price.left }
+        anchors.leftMargin: (mark.text === "" ? title.lastLength : 0) + root.gap
+        anchors.rightMargin: root.gap
         y: title.lastTop + title.baselineOffset - height
         visible: price.text !== ""
         size: title.font.pixelSize
