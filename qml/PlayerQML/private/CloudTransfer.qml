@@ -94,6 +94,8 @@ FocusScope {
     }
 
     function progressText() {
+        if (!running)
+            return "";
         const what = caption.arg(project);
         if (transfers.files === 0)
             return what;
