@@ -3,6 +3,7 @@
 
 #include "app/nativetypes.h"
 
+#include "api/downloadurl.h"
 #include "api/exports.h"
 #include "api/imports.h"
 #include "api/projectstill.h"
@@ -36,6 +37,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
     qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
+    qmlRegisterType<DownloadUrl>("Nuvex.Native", 1, 1, "DownloadUrl");
     qmlRegisterType<ExchangeType>("Nuvex.Native", 1, 1, "Exchange");
     qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
     // The engine owns a singleton that its provider returns.
