@@ -17,8 +17,8 @@ FormPage {
     readonly property bool hasAccount: user !== "" && Deployment.available
     // The player that something is being done with.
     property string player
-    // Names of the account's projects; null until they were asked for.
-    property var cloudProjects: null
+    // Names of the account's projects; asked for once there is a use for them, and again while there are none.
+    property var cloudProjects: []
 
     function read() {
         if (hasAccount && !players.isReading)
@@ -50,9 +50,15 @@ FormPage {
         SS.deletePlayer(user, player, finishDelete, deadline);
     }
 
+    // The keyboard was lost when the page took no input.
+    function finishRequest() {
+        busy.finish();
+        grid.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     function finishDelete(success) {
         const name = Players.nameOf(player);
-        busy.finish();
+        finishRequest();
         if (success) {
             players.remove(player);
             message.succeed(qsTr("%1 is deleted.").arg(name));
@@ -63,7 +69,7 @@ FormPage {
 
     function chooseProject(key) {
         player = key;
-        if (cloudProjects !== null) {
+        if (cloudProjects.length > 0) {
             openChooser();
         } else if (!CAPI.isConnectedToNetwork()) {
             message.fail(qsTr("This computer has no network."), "...error connecting");
@@ -86,7 +92,7 @@ FormPage {
 
     function finishSetProject(success, result) {
         const name = Players.nameOf(player);
-        busy.finish();
+        finishRequest();
         if (success) {
             players.setProject(player, result.project);
             message.succeed(qsTr("%1 is to show %2.").arg(name).arg(result.project));
@@ -180,7 +186,7 @@ FormPage {
 
     ProjectChooser {
         id: chooser
-        projects: root.cloudProjects || []
+        projects: root.cloudProjects
         isLoading: transfers.running
         emptyText: qsTr("No project is published for this account yet. Publish one from the editor first.")
         onChosen: root.setProject(project)

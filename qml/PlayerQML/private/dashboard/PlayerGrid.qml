@@ -58,12 +58,12 @@ GridView {
     boundsBehavior: Flickable.StopAtBounds
     T.ScrollBar.vertical: BGUI.ScrollBar {}
 
-    delegate: Item {
+    delegate: FocusScope {
         id: cell
 
         function take() {
-            tile.forceActiveFocus(Qt.MouseFocusReason);
             root.currentIndex = index;
+            tile.forceActiveFocus(Qt.MouseFocusReason);
         }
 
         width: root.cellWidth
