@@ -67,7 +67,7 @@ Flow {
             anchors.verticalCenter: parent.verticalCenter
             width: 16 * BGUI.Theme.unit
             size: "large"
-            from: 110 * dp
+            from: 95 * dp
             to: 420 * dp
             value: 250 * dp
             stepSize: 10 * dp

@@ -46,7 +46,7 @@ Rectangle {
     }
 
     objectName: "localPlayers"
-    implicitHeight: content.height + 2 * gap
+    implicitHeight: content.height + gap
     color: BGUI.Theme.surface
     Component.onCompleted: CAPI.startLocalServer()
 
@@ -59,7 +59,7 @@ Rectangle {
     Column {
         id: content
         x: root.gap
-        y: root.gap
+        y: root.gap / 2
         width: parent.width - 2 * root.gap
         spacing: BGUI.Theme.unit
 

@@ -101,7 +101,8 @@ T.AbstractButton {
 
     T.AbstractButton {
         id: remove
-        property string toolTip: qsTr("Delete %1").arg(root.name)
+        readonly property string faIcon: "fa-times"
+        readonly property string toolTip: qsTr("Delete %1").arg(root.name)
 
         anchors.right: parent.right
         anchors.rightMargin: root.line
@@ -115,7 +116,7 @@ T.AbstractButton {
         onClicked: root.deleteRequested()
 
         contentItem: BGUI.FontAwesomeIcon {
-            faIcon: "fa-times"
+            faIcon: remove.faIcon
             size: root.isSmall ? "small" : "base"
             color: remove.hovered ? BGUI.Theme.danger : BGUI.Theme.mutedInk
         }
