@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-/// As many tiles as a dashboard of 1 000 players has, of the same size, with a text and nothing to fetch: what Qt takes.
+/// As many tiles as a dashboard of 1 000 players has, of the same size, with a text and nothing to fetch.
 Rectangle {
     width: 1280
     height: 720

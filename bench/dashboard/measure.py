@@ -36,7 +36,8 @@ ACCOUNT = {"userEmail": "a@b.c", "playerUID": "here_1", "shareFolder": "false", 
 
 def fill(cloud, count):
     now = int(time.time() * 1000)
-    picture = subprocess.run(["convert", "-size", "300x169", "plasma:", "jpg:-"], capture_output=True, check=True).stdout
+    drawing = ["convert", "-size", "300x169", "plasma:", "jpg:-"]
+    picture = subprocess.run(drawing, capture_output=True, check=True).stdout
     cloud.database("PUT", "/Users/a@bc/Players", {f"screen-{number}_{number}": {
         "heartbeat": now - number * 1000, "project": f"Project {number % 20}"} for number in range(count)})
     for number in range(count):
@@ -121,8 +122,9 @@ def main():
         cloud.stop()
         screen.close()
     print(f"{options.players} players, 1280x720, {len(rounds)} rounds\n")
-    print("| program | opened after, ms | frame, median ms | frame, 99th percentile ms | frames | private memory, MiB |")
-    print("|---|---|---|---|---|---|")
+    titles = ["program", "opened after, ms", "frame, median ms", "frame, 99th percentile ms", "frames",
+              "private memory, MiB"]
+    print("| " + " | ".join(titles) + " |\n" + "|---" * len(titles) + "|")
     for name, results in zip(("Nuvex", "plain grid"), zip(*rounds)):
         columns = list(zip(*results))
         opened = spread(columns[0], 0) if any(columns[0]) else ""

@@ -31,7 +31,7 @@ def link_up():
 def three_players():
     now = int(time.time() * 1000)
     return {"lobby_10": {"heartbeat": now - 5_000, "project": "Board"},
-            "hall 10_11": {"heartbeat": now - 170_000, "project": "A project with a name that is far too long for a tile"},
+            "hall 10_11": {"heartbeat": now - 170_000, "project": "A project with a name far too long for a tile"},
             "hall 9_12": {"heartbeat": now - 7_200_000}}
 
 

@@ -52,7 +52,7 @@ GridView {
                            + 8 * Math.max(1, dp) + gap)
     model: players.rows
     clip: true
-    cacheBuffer: cellHeight
+    cacheBuffer: 2 * cellHeight
     keyNavigationEnabled: true
     highlightMoveDuration: 0
     boundsBehavior: Flickable.StopAtBounds

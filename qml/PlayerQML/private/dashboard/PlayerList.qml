@@ -23,6 +23,8 @@ Item {
     property int count: 0
     property int liveCount: 0
     property var players: []
+    // What `rows` has.
+    property var shown: []
     readonly property alias rows: rows
 
     // All of `rows` is about to be exchanged, or has been.
@@ -55,10 +57,18 @@ Item {
         count = players.length;
         liveCount = players.filter(player => Players.isLive(player.heartbeat, now)).length;
         const wanted = Players.arranged(players, filter, show, bySilence, now);
-        if (wanted.length === rows.count && wanted.every((player, index) => rows.get(index).player === player.player))
-            wanted.forEach((player, index) => rows.set(index, player));
+        if (wanted.length === shown.length && wanted.every((player, index) => player.player === shown[index].player))
+            update(wanted);
         else
             exchange(wanted);
+        shown = wanted;
+    }
+
+    function update(wanted) {
+        wanted.forEach((player, index) => {
+            if (player.heartbeat !== shown[index].heartbeat || player.project !== shown[index].project)
+                rows.set(index, player);
+        });
     }
 
     function exchange(wanted) {
@@ -75,7 +85,7 @@ Item {
     }
 
     function setProject(key, project) {
-        players.filter(player => player.player === key).forEach(player => player.project = project);
+        players = players.map(player => player.player === key ? Object.assign({}, player, {project: project}) : player);
         arrange();
     }
 
