@@ -3,6 +3,7 @@
 
 #include "app/nativetypes.h"
 
+#include "api/downloadurl.h"
 #include "api/exchange.h"
 #include "api/exports.h"
 #include "api/imports.h"
@@ -38,6 +39,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");
+    qmlRegisterType<DownloadUrl>("Nuvex.Native", 1, 1, "DownloadUrl");
     qmlRegisterType<Exchange>("Nuvex.Native", 1, 1, "Exchange");
     qmlRegisterAnonymousType<ProjectExchange>("Nuvex.Native", 1);
     qmlRegisterType<LiveDocument>("Nuvex.Native", 1, 1, "LiveDocument");

@@ -30,7 +30,7 @@ LEADS = [
     ("AboutPage", {"Back": "MainPage", "Help": "HelpPage"}),
     ("HelpPage", {"Back": "AboutPage", "Go back": "AboutPage"}),
     ("RADEditorPage", {"Back": "MainPage", "Go back": "MainPage"}),
-    ("ConnectedPlayers", {"Back": "MainPage", "Go back": "MainPage"}),
+    ("ConnectedPlayers", {"Back": "MainPage"}),
     ("AdvancedEditPage", {"Back": "MainPage", "Go back": "MainPage"}),
 ]
 

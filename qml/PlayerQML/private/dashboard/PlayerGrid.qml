@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import Nuvex.GUI 1.0 as BGUI
+import "limits.js" as Limits
+import "players.js" as Players
+
+/// The players as tiles, of which those exist that one sees. The arrow keys move, Enter chooses a project, Del deletes.
+GridView {
+    id: root
+
+    property PlayerList players
+    // Wanted width of a tile; they become a little wider so that a row is full.
+    property real tileSize: 250 * dp
+
+    readonly property real gap: (tileSize < 20 * BGUI.Theme.unit ? 1 : 1.5) * BGUI.Theme.unit
+    readonly property int columns: Math.max(1, Math.floor(width / (tileSize + gap)))
+    readonly property real tileWidth: cellWidth - gap
+    // While tiles rush by, nothing is fetched for them.
+    readonly property bool isCalm: Math.abs(verticalVelocity) < 2 * height
+    property int round: 0
+    // What the place is remembered by while all tiles are exchanged.
+    property real keptY: 0
+    property string keptPlayer
+
+    signal chosen(string player)
+    signal deleteRequested(string player)
+
+    function keepPlace() {
+        keptY = contentY;
+        keptPlayer = currentIndex >= 0 && currentIndex < count ? model.get(currentIndex).player : "";
+    }
+
+    function findPlace() {
+        const hadFocus = activeFocus;
+        let index = 0;
+        for (let i = 0; i < count; ++i) {
+            if (model.get(i).player === keptPlayer)
+                index = i;
+        }
+        currentIndex = count > 0 ? index : -1;
+        forceLayout();
+        contentY = Math.max(originY, Math.min(keptY, originY + contentHeight - height));
+        if (hadFocus)
+            forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    objectName: "playerGrid"
+    cellWidth: Math.floor(width / columns)
+    cellHeight: Math.round(tileWidth * 9 / 16 + (tileWidth < 20 * BGUI.Theme.unit ? 3 : 7.5) * BGUI.Theme.unit
+                           + 8 * Math.max(1, dp) + gap)
+    model: players.rows
+    clip: true
+    cacheBuffer: 2 * cellHeight
+    keyNavigationEnabled: true
+    highlightMoveDuration: 0
+    boundsBehavior: Flickable.StopAtBounds
+    T.ScrollBar.vertical: BGUI.ScrollBar {}
+
+    delegate: FocusScope {
+        id: cell
+
+        function take() {
+            root.currentIndex = index;
+            tile.forceActiveFocus(Qt.MouseFocusReason);
+        }
+
+        width: root.cellWidth
+        height: root.cellHeight
+
+        PlayerTile {
+            id: tile
+            width: root.tileWidth
+            height: root.cellHeight - root.gap
+            focus: true
+            focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+            isCurrent: cell.GridView.isCurrentItem
+            isSeen: root.isCalm && cell.y + cell.height > root.contentY && cell.y < root.contentY + root.height
+            name: model.playerName
+            heartbeat: model.heartbeat
+            project: model.project
+            now: root.players.now
+            round: root.round
+            screenshot: Players.screenshot(root.players.user, model.player)
+            onClicked: {
+                cell.take();
+                root.chosen(model.player);
+            }
+            onDeleteRequested: {
+                cell.take();
+                root.deleteRequested(model.player);
+            }
+        }
+    }
+
+    Connections {
+        target: root.players
+        function onAboutToReset() { root.keepPlace(); }
+        function onReset() { root.findPlace(); }
+    }
+
+    Timer {
+        interval: Limits.picturePeriod
+        running: root.players.active
+        repeat: true
+        onTriggered: ++root.round
+    }
+}

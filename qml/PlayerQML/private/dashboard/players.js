@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+.pragma library
+.import "limits.js" as Limits
+
+// The account's players as the dashboard shows them. A player is a map:
+//     playerName, playerId   the entry's key before its first and after its last "_"
+//     heartbeat              when it was last heard of, milliseconds since 1970; 0 for never
+//     project                what it shows; "" for nothing
+//     player                 the entry's key
+
+/// Which players are shown.
+const Show = { all: 0, live: 1, silent: 2 };
+
+/// The part of a player's name that says where it stands.
+function nameOf(player) {
+    return player.split("_")[0];
+}
+
+function playerOf(key, entry) {
+    const record = entry || {};
+    return {
+        playerName: nameOf(key),
+        playerId: key.split("_").pop(),
+        heartbeat: parseInt(record.heartbeat, 10) || 0,
+        project: typeof record.project === "string" ? record.project : "",
+        player: key
+    };
+}
+
+/// The players in an answer of the database: an object from key to entry, or null.
+function playersOf(answer) {
+    return Object.keys(answer || {}).map(key => playerOf(key, answer[key]));
+}
+
+function isLive(heartbeat, now) {
+    return now - heartbeat < Limits.liveFor;
+}
+
+function color(heartbeat, now) {
+    return isLive(heartbeat, now) ? "#2DB651" : "red";
+}
+
+/// How long ago something was, in its largest unit.
+function age(heartbeat, now) {
+    const s = Math.max(0, Math.round((now - heartbeat) / 1000));
+    if (s < 60)
+        return s + "s";
+    if (s < 3600)
+        return Math.round(s / 60) + "m";
+    if (s < 86400)
+        return Math.round(s / 3600) + "h";
+    return Math.round(s / 86400) + "d";
+}
+
+/// Where a player's screenshot lies in the cloud.
+function screenshot(user, player) {
+    return "NUVEX/users/" + user + "/screenshots/" + nameOf(player) + "_" + player.split("_").pop() + ".jpg";
+}
+
+function fits(player, words, show, now) {
+    if (show !== Show.all && isLive(player.heartbeat, now) !== (show === Show.live))
+        return false;
+    const text = (player.player + " " + player.project).toLowerCase();
+    return words.every(word => text.includes(word));
+}
+
+function compareTexts(a, b) {
+    return a < b ? -1 : (a > b ? 1 : 0);
+}
+
+function byName(a, b) {
+    return compareTexts(a.sortKey, b.sortKey) || compareTexts(a.player.player, b.player.player);
+}
+
+// Those that are live count as heard of at the same moment, or tiles would change places with every heartbeat.
+function bySilence(now) {
+    const heard = entry => isLive(entry.player.heartbeat, now) ? now : entry.player.heartbeat;
+    return (a, b) => heard(a) - heard(b) || byName(a, b);
+}
+
+// With numbers in a name in the order of their values.
+function sortKey(name) {
+    return name.toLowerCase().replace(/\d+/g, digits => digits.padStart(12, "0"));
+}
+
+/// Those of `players` that fit, in order: by name, or the longest silent first. `filter`: words that name or
+/// project has, all of them.
+function arranged(players, filter, show, isBySilence, now) {
+    const words = filter.toLowerCase().split(/\s+/);
+    const fitting = players.filter(player => fits(player, words, show, now));
+    const entries = fitting.map(player => ({ player: player, sortKey: sortKey(player.playerName) }));
+    return entries.sort(isBySilence ? bySilence(now) : byName).map(entry => entry.player);
+}

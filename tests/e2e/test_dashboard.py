@@ -1,0 +1,199 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nuvex developers
+# SPDX-License-Identifier: MIT
+"""The dashboard of the real program, with the cloud on this machine and players of a local network of its own."""
+import argparse
+import subprocess
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.path[1:1] = [str(Path(__file__).resolve().parents[1] / folder) for folder in ("lan", "localcloud")]
+# pylint: disable=wrong-import-position
+from cloud import Cloud
+from driver import Profile, Program, ProgramTest, Screen, read_setup, wait_for
+from peer import Peer
+from players import Player, isolate, write_project
+
+ACCOUNT = {"userEmail": "a.b@example.org", "playerUID": "zone_1", "shareFolder": "false", "doOnStart": "dashboard",
+           "lastProject": "Shop"}
+PLAYERS = "/Users/ab@exampleorg/Players"
+PICTURE = ["convert", "-size", "300x170", "xc:#2040c0", "jpg:-"]
+
+
+def link_up():
+    """A link besides loopback, so that there is a network."""
+    for words in ("add nuvex0 type veth peer name nuvex1", "set nuvex0 up", "set nuvex1 up"):
+        subprocess.run(["ip", "link", *words.split()], check=True)
+
+
+def three_players():
+    now = int(time.time() * 1000)
+    return {"lobby_10": {"heartbeat": now - 5_000, "project": "Board"},
+            "hall 10_11": {"heartbeat": now - 170_000, "project": "A project with a name far too long for a tile"},
+            "hall 9_12": {"heartbeat": now - 7_200_000}}
+
+
+def inside(inner, outer):
+    return (outer[0] <= inner[0] and outer[1] <= inner[1] and inner[0] + inner[2] <= outer[0] + outer[2] + 1
+            and inner[1] + inner[3] <= outer[1] + outer[3] + 1)
+
+
+class DashboardTest(ProgramTest):
+    local_cloud = None
+
+    def setUp(self):
+        super().setUp()
+        self.cloud = Cloud(self.local_cloud)
+        self.addCleanup(self.cloud.stop)
+        self.profile.write_settings(**ACCOUNT)
+
+    def open(self, screen=None):
+        arguments = ("--deployment", str(self.cloud.folder / "deployment.json"))
+        program = Program(self.setup, screen or self.screen, self.profile, *arguments)
+        self.addCleanup(program.close)
+        program.wait_page("ConnectedPlayers")
+        return program
+
+    def named(self, program, name):
+        return [item for item in program.items() if item["name"] == name]
+
+    def color_at(self, program, item):
+        x, y, width, height = item["rect"]
+        place = f"1x1+{round(x + width / 2)}+{round(y + height / 2)}"
+        grab = subprocess.run(["import", "-display", program.screen.name, "-window", "root", "-crop", place, "-depth",
+                               "8", "rgb:-"], capture_output=True, check=True)
+        return tuple(grab.stdout[:3])
+
+    def test_three_players(self):
+        self.cloud.database("PUT", PLAYERS, three_players())
+        picture = subprocess.run(PICTURE, capture_output=True, check=True).stdout
+        self.cloud.put("NUVEX/users/a.b@example.org/screenshots/lobby_10.jpg", picture)
+        for size in ("1280x720", "1080x1920"):
+            screen = Screen(size)
+            self.addCleanup(screen.close)
+            with self.subTest(size), self.open(screen) as program:
+                program.wait_text("lobby")
+                self.assertEqual([tile["text"] for tile in self.named(program, "playerTile")][:3],
+                                 ["hall 9", "hall 10", "lobby"])
+                self.assertEqual([age["text"] for age in self.named(program, "age")][:2], ["2h", "3m"])
+                dots = [self.color_at(program, dot) for dot in self.named(program, "liveDot")[:3]]
+                self.assertEqual(dots, [(255, 0, 0), (0x2D, 0xB6, 0x51), (0x2D, 0xB6, 0x51)])
+                wait_for(lambda: self.named(program, "screenshot"), "the screenshot")
+                blue = self.color_at(program, self.named(program, "screenshot")[0])
+                self.assertTrue(all(abs(a - b) < 9 for a, b in zip(blue, (0x20, 0x40, 0xC0))), blue)
+                self.check_geometry(program, [0, 0, *map(int, size.split("x"))])
+
+    def check_geometry(self, program, screen):
+        tiles = self.named(program, "playerTile")
+        local = self.named(program, "localPlayers")[0]["rect"]
+        for item in program.items():
+            self.assertTrue(inside(item["rect"], screen), item)
+        for tile in tiles:
+            self.assertLessEqual(tile["rect"][1] + tile["rect"][3], local[1])
+        for label in ("playerName", "playerProject", "age", "liveDot"):
+            for part, tile in zip(self.named(program, label), tiles):
+                self.assertTrue(inside(part["rect"], tile["rect"]), part)
+
+    def test_work_with_a_player(self):
+        self.cloud.database("PUT", PLAYERS, three_players())
+        for project in ("Menu Board", "Shop"):
+            self.cloud.put(f"NUVEX/users/a.b@example.org/ShareFolder/{project}/dirmap", b"main.qml 1\n")
+        program = self.open()
+        program.click("lobby")
+        program.wait_text("Menu Board")
+        program.type("menu")
+        program.key("Return")
+        program.wait_text("success")
+        self.assertEqual(self.cloud.database("GET", PLAYERS + "/lobby_10/project").body, "Menu Board")
+        program.key("Left", "Delete")
+        program.wait_text("Delete hall 10?")
+        program.key("Return")
+        wait_for(lambda: not program.find("Delete hall 10?"), "the question to go")
+        self.assertEqual(len(self.cloud.database("GET", PLAYERS).body), 4)  # and this one
+        program.key("Delete")
+        program.click("Delete")
+        wait_for(lambda: not program.find("hall 10"), "the tile to go")
+        self.assertNotIn("hall 10_11", self.cloud.database("GET", PLAYERS).body)
+        self.cloud.faults({"method": "DELETE", "status": 500})
+        program.click("Delete hall 9")
+        program.click("Delete")
+        program.wait_text("error")
+        self.assertIn("hall 9", program.texts())
+        program.click("playerFilter")
+        program.type("board lob")
+        wait_for(lambda: [tile["text"] for tile in self.named(program, "playerTile")] == ["lobby"], "the filter")
+
+    def test_states(self):
+        program = self.open()
+        program.wait_text("No player yet")
+        program.close()
+        self.cloud.faults({"method": "GET", "target": "*Players.json*", "status": 503})
+        program = self.open()
+        program.wait_text("The players could not be read")
+        self.cloud.database("PUT", PLAYERS, three_players())
+        program.click("Read again")
+        program.wait_text("lobby")
+        program.close()
+        self.profile.write_settings(**{**ACCOUNT, "userEmail": ""})
+        program = Program(self.setup, self.screen, self.profile, "--deployment",
+                          str(self.cloud.folder / "deployment.json"))
+        self.addCleanup(program.close)
+        program.wait_page("LoginPage")
+        program.key("Escape")
+        program.wait_page("MainPage")
+        program.click("Dashboard")
+        program.wait_text("Nobody is signed in")
+        program.click("Sign in")
+        program.wait_page("LoginPage")
+
+    def port_of(self, program):
+        lines = subprocess.run(["ss", "-Hltnp"], capture_output=True, text=True, check=True).stdout.splitlines()
+        return next((int(line.split()[3].rsplit(":", 1)[1]) for line in lines if f"pid={program.process.pid}," in line),
+                    None)
+
+    def test_local_players(self):
+        shop = self.profile.add_project("Shop")
+        write_project(shop, {"main.qml": b"import QtQuick 2.15\nItem {}\n", "text": b"from here"})
+        program = self.open()
+        port = wait_for(lambda: self.port_of(program), "the local server")
+        with Player("Kiosk_7") as kiosk:
+            write_project(kiosk.work / "Menu", {"text": b"from there"})
+            kiosk.say(f"connect 127.0.0.1 {port}")
+            program.wait_text("Kiosk")
+            with Peer.connect(port, "Kiosk_7", "127.0.0.2"):
+                time.sleep(0.5)
+                self.assertEqual(len(self.named(program, "localPlayer")), 1)
+            program.click("Send")
+            program.wait_text("Send which project")
+            program.key("Return")
+            wait_for(lambda: self.named(program, "exchangeOutcome"), "the outcome")
+            self.assertEqual((kiosk.work / "Shop/text").read_bytes(), b"from here")
+            program.click("Fetch")
+            program.wait_text("Fetch which project")
+            program.type("Menu")
+            program.key("Down", "Return")
+            wait_for(lambda: (self.profile.work / "Menu/text").exists(), "the project")
+        wait_for(lambda: not self.named(program, "localPlayer"), "the player to go")
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--localcloud", required=True)
+    parser.add_argument("--lanplayer", required=True)
+    known, sys.argv[1:] = parser.parse_known_args()
+    DashboardTest.local_cloud, Player.program = known.localcloud, known.lanplayer
+    ProgramTest.setup, rest = read_setup()
+    if not isolate():
+        sys.exit("no network of its own")
+    link_up()
+    ProgramTest.screen = Screen()
+    try:
+        unittest.main(argv=[sys.argv[0], *rest])
+    finally:
+        ProgramTest.screen.close()
+
+
+if __name__ == "__main__":
+    main()
