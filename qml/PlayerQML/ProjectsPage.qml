@@ -34,6 +34,11 @@ FormPage {
         local.reload();
     }
 
+    function askToRemove(name) {
+        question.project = name;
+        question.open();
+    }
+
     function browse() {
         notice.text = "";
         shell.open("ImportPage");
@@ -175,7 +180,7 @@ FormPage {
         canPublish: root.hasAccount && !transfer.running
         onChosen: root.choose(name)
         onPublishRequested: transfer.publish(name)
-        onRemoveRequested: root.remove(name)
+        onRemoveRequested: root.askToRemove(name)
     }
 
     BGUI.EmptyState {
@@ -221,6 +226,19 @@ FormPage {
         id: message
         anchors.bottom: parent.bottom
         width: parent.width
+    }
+
+    BGUI.MessageBox {
+        id: question
+
+        property string project
+
+        type: "danger"
+        title: qsTr("Delete %1?").arg(project)
+        text: qsTr("The project's folder on this computer is deleted with all its files.")
+        acceptText: qsTr("Delete")
+        rejectText: qsTr("Keep")
+        onAccepted: root.remove(project)
     }
 
     Imports {
