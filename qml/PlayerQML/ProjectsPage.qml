@@ -97,6 +97,8 @@ FormPage {
 
     objectName: "ProjectsPage"
     title: qsTr("Projects")
+    // No binding: a choice by the user would end it.
+    onTabChanged: tabRow.currentIndex = tab
     Component.onCompleted: tab = local.count === 0 ? 1 : 0
 
     actions: [
@@ -120,7 +122,6 @@ FormPage {
         width: local.width
         size: "large"
         model: root.tabs
-        currentIndex: root.tab
         focus: root.tab !== 0
         onActivated: {
             notice.text = "";
