@@ -16,7 +16,6 @@ WAYS = {
     "SettingsPage": ["fa-cog", "Settings"],
     "AboutPage": ["fa-cog", "About"],
     "HelpPage": ["fa-cog", "About", "Help"],
-    "RADEditorPage": ["Edit"],
     "ConnectedPlayers": ["Dashboard"],
     "AdvancedEditPage": ["fa-cog", "Advanced Editor"],
 }
@@ -25,11 +24,10 @@ WAYS = {
 LEADS = [
     ("MainPage", {"Open": "ProjectsPage", "Edit": "RADEditorPage", "Dashboard": "ConnectedPlayers"}),
     ("menu", {"Settings": "SettingsPage", "Advanced Editor": "AdvancedEditPage", "About": "AboutPage"}),
-    ("ProjectsPage", {"Back": "MainPage", "Shop": "MainPage"}),
+    ("ProjectsPage", {"Back": "MainPage", "New": "NewProjectPage", "Shop": "MainPage"}),
     ("SettingsPage", {"Back": "MainPage"}),
     ("AboutPage", {"Back": "MainPage", "Help": "HelpPage"}),
     ("HelpPage", {"Back": "AboutPage", "Go back": "AboutPage"}),
-    ("RADEditorPage", {"Back": "MainPage", "Go back": "MainPage"}),
     ("ConnectedPlayers", {"Back": "MainPage"}),
     ("AdvancedEditPage", {"Back": "MainPage", "Go back": "MainPage"}),
 ]
