@@ -49,7 +49,7 @@ QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
         return QStringLiteral("an entry is larger than the archive");
     if (!isPossible(entry))
         return QStringLiteral("an entry announces more than it can hold");
-    const QString fault = pathFault(withoutFinalSlash(entry.name).toString());
+    QString fault = pathFault(withoutFinalSlash(entry.name).toString());
     if (fault.isEmpty() && isInHiddenFolder(entry.name))
         return QStringLiteral("a project's folder would be hidden");
     return fault;

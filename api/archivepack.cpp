@@ -95,7 +95,7 @@ public:
         if (!m_zip.open(QuaZip::mdCreate))
             return Outcome::failure(QStringLiteral("it cannot be begun"));
         for (const QFileInfo& file : files) {
-            const Outcome added = file.isDir() ? addFolder(file) : addFile(file);
+            Outcome added = file.isDir() ? addFolder(file) : addFile(file);
             if (!added)
                 return added;
         }
@@ -182,7 +182,7 @@ Outcome pack(AtomicFile& archive, const QString& folder, JobControl& control)
 Outcome packArchive(const QString& zipFile, const QString& folder, JobControl& control)
 {
     AtomicFile archive(QDir::cleanPath(QFileInfo(zipFile).absoluteFilePath()));
-    const Outcome packed = pack(archive, folder, control);
+    Outcome packed = pack(archive, folder, control);
     if (!packed && !packed.isCancelled())
         qCWarning(lcApi).noquote() << "Cannot pack" << archive.target() << "-" << packed.reason();
     return packed;

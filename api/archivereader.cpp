@@ -45,7 +45,7 @@ QString archiveProjectName(const QString& zipFile)
     QuaZipFileInfo64 first;
     if (outcome && !(archive.m_zip.goToFirstFile() && archive.readEntry(first)))
         outcome = Outcome::failure(QStringLiteral("it has no entries"));
-    const QString name = withoutFinalSlash(first.name);
+    QString name = withoutFinalSlash(first.name);
     if (outcome && !pathFault(name).isEmpty())
         outcome = Outcome::failure(pathFault(name));
     if (outcome)
@@ -64,7 +64,7 @@ ArchiveReader::ArchiveReader(const QString& zipFile)
 
 Outcome ArchiveReader::open()
 {
-    const Outcome opened = openFile();
+    Outcome opened = openFile();
     if (!opened)
         return opened;
     if (!listEntries())
@@ -109,7 +109,7 @@ Outcome ArchiveReader::extractTo(const QString& target, JobControl& control)
     for (const QuaZipFileInfo64& entry : qAsConst(m_entries)) {
         if (control.isCancelled())
             return Outcome::cancelled();
-        const Outcome extracted = extractEntry(entry, target + QLatin1Char('/') + entry.name, control);
+        Outcome extracted = extractEntry(entry, target + QLatin1Char('/') + entry.name, control);
         if (extracted.isCancelled())
             return extracted;
         if (!extracted)

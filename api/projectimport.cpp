@@ -55,7 +55,7 @@ public:
     {
         for (const auto step : {&ProjectImport::open, &ProjectImport::reserveSpace, &ProjectImport::unpack,
                                 &ProjectImport::complete, &ProjectImport::sync, &ProjectImport::place}) {
-            const Outcome done = m_control.isCancelled() ? Outcome::cancelled() : (this->*step)();
+            Outcome done = m_control.isCancelled() ? Outcome::cancelled() : (this->*step)();
             if (!done)
                 return done;
         }

@@ -102,7 +102,7 @@ Outcome keepOtherFiles(const QString& old, const QString& fresh, const JobContro
     for (const QFileInfo& child : QDir(old).entryInfoList(everything, QDir::Unsorted)) {
         if (control.isCancelled())
             return Outcome::cancelled();
-        const Outcome kept = keep(child, QFileInfo(fresh + QLatin1Char('/') + child.fileName()), control);
+        Outcome kept = keep(child, QFileInfo(fresh + QLatin1Char('/') + child.fileName()), control);
         if (!kept)
             return kept;
     }

@@ -45,7 +45,7 @@ Outcome rename(const QString& from, const QString& to)
 
 Outcome writeAll(AtomicFile& file, const QByteArray& bytes)
 {
-    const Outcome opened = file.open();
+    Outcome opened = file.open();
     if (!opened)
         return opened;
     if (file.device().write(bytes) != bytes.size()) // a short write is no error to QFile
@@ -88,7 +88,7 @@ Outcome AtomicFile::commit()
         return Outcome::failure(m_file.errorString());
     if (::fsync(m_file.handle()) != 0)
         return Outcome::failure(qt_error_string(errno));
-    const Outcome renamed = rename(m_file.fileName(), m_target);
+    Outcome renamed = rename(m_file.fileName(), m_target);
     if (renamed)
         m_file.close();
     return renamed;

@@ -232,7 +232,7 @@ std::optional<Listing> GCloud::list(const QString& prefix, const QString& delimi
 std::optional<ListingPage> GCloud::listPage(const QString& url)
 {
     StorageResult answer = get(url, limits::answerBytes);
-    const std::optional<ListingPage> page = answer ? parseListingPage(answer.bytes) : std::nullopt;
+    std::optional<ListingPage> page = answer ? parseListingPage(answer.bytes) : std::nullopt;
     if (answer && !page)
         answer.fault = StorageFault::Unexpected;
     finished(answer);
