@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Window 2.15
+import Nuvex.Deployment 1.0
 import Nuvex.Editor.desk 1.0
 import Nuvex.Editor.workbench 1.0
 import Nuvex.GUI 1.0 as BGUI
@@ -30,7 +31,9 @@ StackPage {
 
     function leave() {
         desk.settle();
-        if (desk.isChanged)
+        if (transfer.running)
+            desk.say(qsTr("%1 is being published, and leaving would end that. Wait, or cancel it.").arg(toolbar.project));
+        else if (desk.isChanged)
             question.open();
         else
             shell.pop();
@@ -39,6 +42,11 @@ StackPage {
     function undo() {
         desk.undo();
         side.tab = 0;
+    }
+
+    function publish() {
+        if (desk.saveChanges())
+            transfer.publish(toolbar.project);
     }
 
     function play() {
@@ -66,6 +74,7 @@ StackPage {
         id: desk
         objectName: "desk"
         frameHost: canvas.frameHost
+        hold: transfer.running ? qsTr("Not saved: %1 is being published.").arg(toolbar.project) : ""
     }
 
     Rectangle {
@@ -85,7 +94,10 @@ StackPage {
         onZoomedTo: canvas.zoomTo(scale)
         onFitted: canvas.fit()
         onKeysWanted: sheet.open()
+        hasCloud: Deployment.available && transfer.user !== ""
+        canPublish: !transfer.running
         onPlayWanted: root.play()
+        onPublishWanted: root.publish()
     }
 
     LeftPane {
@@ -125,6 +137,30 @@ StackPage {
         anchors.bottom: parent.bottom
         width: 42 * BGUI.Theme.unit
         desk: desk
+    }
+
+    Rectangle {
+        anchors.top: canvas.top
+        anchors.left: canvas.left
+        anchors.right: canvas.right
+        height: transfer.height + 2 * BGUI.Theme.unit
+        visible: transfer.visible
+        color: BGUI.Theme.surface
+    }
+
+    CloudTransfer {
+        id: transfer
+        objectName: "transfer"
+        anchors.top: canvas.top
+        anchors.left: canvas.left
+        anchors.right: canvas.right
+        anchors.margins: BGUI.Theme.unit
+        anchors.leftMargin: 2 * BGUI.Theme.unit
+        onTold: desk.tell(text, type, type === "success" ? DeskLimits.message : DeskLimits.faultMessage)
+        onRunningChanged: {
+            if (!running)
+                desk.takeIn();
+        }
     }
 
     KeySheet {

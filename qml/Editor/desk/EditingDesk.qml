@@ -34,6 +34,8 @@ QtObject {
     property var fault: null
 
     property string savedSource
+    /// Why the project's files are to stay as they are now, in words; "" when they may be written.
+    property string hold
 
     /// Something to say to the user for so many milliseconds; `kind` is "info" or "danger".
     signal told(string text, string kind, int duration)
@@ -192,6 +194,10 @@ QtObject {
 
     function save() {
         settle();
+        if (hold !== "") {
+            say(hold);
+            return false;
+        }
         const source = CAPI.editedSourceCode();
         if (CAPI.parseAndGetMap(source).length === 0) {
             say(qsTr("Not saved: the source is no document."));
@@ -207,6 +213,36 @@ QtObject {
         root.isChanged = false;
         tell("Saved local", "info", Limits.doneMessage);
         return true;
+    }
+
+    // Saves what is not saved. False when the project on disk is not what is shown.
+    function saveChanges() {
+        settle();
+        if (root.fault) {
+            sayFault(root.fault);
+            return false;
+        }
+        return !isChanged || save();
+    }
+
+    // Takes in what others have written into the project. Changes that are not saved stay.
+    function takeIn() {
+        Ejs.dirmap = CAPI.dirmap();
+        const source = CAPI.readTextFile("main.qml");
+        if (source === root.savedSource)
+            return;
+        settle();
+        const before = CAPI.editedSourceCode();
+        const hasChanges = before !== root.savedSource;
+        root.savedSource = source;
+        if (hasChanges) {
+            say(qsTr("The project has arrived from elsewhere. Saving puts what is here in its place."));
+        } else {
+            CAPI.setSourceCode(source);
+            if (frame ? showSource(before) : begin())
+                finish();
+        }
+        refresh();
     }
 
     // Writes the source where it can be played from; the file's name, "" when that failed.
@@ -272,6 +308,10 @@ QtObject {
 
     readonly property Connections states: Connections {
         target: CAPI
+
+        function onProjectUpdated() {
+            root.takeIn();
+        }
 
         function onOlderEditingState(ok) {
             root.canUndo = !ok;
