@@ -353,7 +353,22 @@ class DesktopEditorTest(EditorTest):
         self.begin("Cafe")
         program.wait_text("There is a project of that name.")
 
-    def begin(self, name):
+    def test_starting_from_a_template(self):
+        self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", shareFolder="false")
+        program = self.program = self.start()
+        demo = Path(__file__).resolve().parents[2] / "demos/Retail Window"
+        files = {str(path.relative_to(demo)): path.read_bytes() for path in demo.rglob("*") if path.is_file()}
+        self.begin("Window 2", "template Retail Window")
+        program.wait_page("RADEditorPage")
+        folder = self.profile.work / "Window 2"
+        self.assertEqual({name: (folder / name).read_bytes() for name in files if name != "dirmap"},
+                         {name: content for name, content in files.items() if name != "dirmap"})
+        self.assertEqual(sorted((folder / "dirmap").read_text().split("\n")),
+                         sorted(["", *(name + " 1" for name in files if name != "dirmap")]))
+        wait_for(lambda: program.find("zoomPercent"), "the editor")
+        self.assertNotIn("faultHint", [item["name"] for item in program.items()])
+
+    def begin(self, name, template=None):
         program = self.program
         program.wait_page("MainPage")
         program.click("Open")
@@ -362,7 +377,7 @@ class DesktopEditorTest(EditorTest):
         program.wait_page("NewProjectPage")
         wait_for(lambda: program.find("projectName")["focus"], "the field for the name")
         program.type(name)
-        program.click("Portrait")
+        program.click(template or "Portrait")
         program.click("Create and edit")
 
     def test_documents_that_cannot_be_shown(self):
