@@ -4,6 +4,7 @@
 
 import os
 import signal
+import subprocess
 import sys
 from pathlib import Path
 
@@ -31,13 +32,23 @@ class PublishingTest(EditorTest):
     def in_cloud(self):
         return self.cloud.get(PLACE + "/main.qml").body.decode()
 
+    def picture_in_cloud(self):
+        """The colour of what the picture shows at the right edge of "red"."""
+        picture = self.cloud.get(PLACE + ".jpg").body
+        self.assertIsInstance(picture, bytes)
+        pixel = subprocess.run(["convert", "jpg:-", "-crop", "1x1+180+100", "-depth", "8", "rgb:-"], input=picture,
+                               capture_output=True, check=True).stdout
+        return tuple(round(value / 16) for value in pixel)
+
     def test_publishing(self):
         program = self.open()
         self.drag("red", by=(43, 21), held=["ctrl"])
+        wait_for((self.profile.work.parent / "Stills/Shop.jpg").exists, "the still of the first change")
         self.publish()
         program.wait_text("Shop is published, as revision 0.")
         first = DOCUMENT.replace("x: 20\n        y: 30", "x: 63\n        y: 51")
         self.assertEqual((self.source(), self.in_cloud()), (first, first))
+        self.assertEqual(self.picture_in_cloud(), (11, 2, 2))
 
         theirs = DOCUMENT.replace("#b22222", "#00aa00")
         self.cloud.put(PLACE + "/main.qml", theirs.encode())

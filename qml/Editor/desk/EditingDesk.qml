@@ -18,6 +18,7 @@ QtObject {
     readonly property Item frame: frameHost ? frameHost.item : null
 
     readonly property LiveDocument live: LiveDocument {}
+    readonly property ProjectStill still: ProjectStill {}
     readonly property Selection selection: Selection { desk: root }
     readonly property Changes changes: Changes { desk: root }
     readonly property Insertion insertion: Insertion { desk: root }
@@ -51,6 +52,7 @@ QtObject {
         Ejs.selectItem = refresh;
         CAPI.readSourceCode("main.qml");
         root.savedSource = CAPI.editedSourceCode();
+        still.project = CAPI.getBaseProjectName();
         if (begin())
             frame.viewport.fit();
         Ejs.dirmap = CAPI.dirmap();
@@ -137,6 +139,15 @@ QtObject {
         Ejs.element = selection.item ? selection.item.element : -1;
         CAPI.saveEditingState();
         refresh();
+        // Publishing follows close upon the first saving, and shows what there is then.
+        if (String(still.source) === "")
+            takeStill();
+    }
+
+    // Takes the picture that stands for the project elsewhere.
+    function takeStill() {
+        if (root.fault === null)
+            still.take(live.root);
     }
 
     // Reads anew what the selected item's source says.
@@ -211,6 +222,7 @@ QtObject {
         CAPI.updateDirmapFile(Ejs.dirmap);
         root.savedSource = source;
         root.isChanged = false;
+        takeStill();
         tell("Saved local", "info", Limits.doneMessage);
         return true;
     }
