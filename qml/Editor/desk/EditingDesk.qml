@@ -24,6 +24,7 @@ QtObject {
     readonly property Insertion insertion: Insertion { desk: root }
     readonly property FileDrop fileDrop: FileDrop { desk: root }
     readonly property Arrangement arrangement: Arrangement { desk: root }
+    readonly property Recovery recovery: Recovery {}
 
     /// Counts changes of source and selection, so that what is read from them follows.
     property int revision: 0
@@ -57,6 +58,7 @@ QtObject {
             frame.viewport.fit();
         Ejs.dirmap = CAPI.dirmap();
         refresh();
+        recovery.look(root.savedSource);
     }
 
     // Shows the source for the first time. False when it cannot be shown; `fault` says why.
@@ -91,6 +93,19 @@ QtObject {
             frame.viewport.fit();
             finish();
         }
+    }
+
+    // Makes `source` the document, as one change.
+    function adopt(source) {
+        settle();
+        if (root.fault) {
+            replaceAll(source);
+            return;
+        }
+        const before = CAPI.editedSourceCode();
+        CAPI.setSourceCode(source);
+        if (showSource(before))
+            finish();
     }
 
     function frameUrl() {
@@ -222,6 +237,7 @@ QtObject {
         CAPI.updateDirmapFile(Ejs.dirmap);
         root.savedSource = source;
         root.isChanged = false;
+        recovery.forget();
         takeStill();
         tell("Saved local", "info", Limits.doneMessage);
         return true;
@@ -244,16 +260,12 @@ QtObject {
         if (source === root.savedSource)
             return;
         settle();
-        const before = CAPI.editedSourceCode();
-        const hasChanges = before !== root.savedSource;
+        const hasChanges = CAPI.editedSourceCode() !== root.savedSource;
         root.savedSource = source;
-        if (hasChanges) {
+        if (hasChanges)
             say(qsTr("The project has arrived from elsewhere. Saving puts what is here in its place."));
-        } else {
-            CAPI.setSourceCode(source);
-            if (frame ? showSource(before) : begin())
-                finish();
-        }
+        else
+            adopt(source);
         refresh();
     }
 
