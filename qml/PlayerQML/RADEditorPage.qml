@@ -33,7 +33,8 @@ StackPage {
     function leave() {
         desk.settle();
         if (transfer.running)
-            desk.say(qsTr("%1 is being published, and leaving would end that. Wait, or cancel it.").arg(toolbar.project));
+            desk.say(qsTr("%1 is being published, and leaving would end that. Wait, or cancel it.")
+                     .arg(toolbar.project));
         else if (desk.isChanged)
             question.open();
         else
