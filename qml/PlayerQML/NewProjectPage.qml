@@ -3,8 +3,9 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "private"
+import "private/templates.js" as Templates
 
-/// Makes a project: its name and the size of its screen. It opens in the editor.
+/// Makes a project: its name, what it begins with and the size of its screen. It opens in the editor.
 FormPage {
     id: root
 
@@ -23,7 +24,10 @@ FormPage {
         name.error = nameProblem();
         if (name.error !== "")
             return;
-        if (!CAPI.createProject(projectName) || !begin()) {
+        const isMade = CAPI.createProject(projectName);
+        if (!isMade || !begin()) {
+            if (isMade)
+                CAPI.removeProject(projectName);
             name.error = qsTr("The project cannot be made in %1. Is the disk full?").arg(CAPI.getWorkDirectory());
             return;
         }
@@ -33,13 +37,26 @@ FormPage {
         stack.edit();
     }
 
-    // Writes the first document and lists it. False when that failed.
+    // Writes the first files and lists them. False when that failed.
     function begin() {
         CAPI.setBaseFolder(projectName);
+        return template.current === "" ? beginEmpty() : Templates.copy(template.current);
+    }
+
+    function beginEmpty() {
         const document = "import QtQuick 2.15\nimport Nuvex.Components 1.0\n\nRectangle {\n    width: %1\n"
                          + "    height: %2\n    color: \"#ffffff\"\n}\n";
         return CAPI.writeToFile(document.arg(across.value).arg(down.value), "main.qml")
             && CAPI.updateDirmapFile({ "main.qml": 1 });
+    }
+
+    // A template has a size of its own.
+    function showSize() {
+        const size = template.current === "" ? { width: 1920, height: 1080 } : Templates.sizeOf(template.current);
+        if (size === null)
+            return;
+        format.currentIndex = size.width < size.height ? 1 : 0;
+        [across.realValue, down.realValue] = [size.width, size.height];
     }
 
     objectName: "NewProjectPage"
@@ -50,7 +67,7 @@ FormPage {
     }
 
     Sheet {
-        maximumWidth: 72 * BGUI.Theme.unit
+        maximumWidth: 100 * BGUI.Theme.unit
 
         BGUI.FormRow {
             label: qsTr("Name")
@@ -66,11 +83,22 @@ FormPage {
         }
 
         BGUI.FormRow {
+            label: qsTr("Begin with")
+
+            TemplateChoice {
+                id: template
+                width: parent.width
+                onChosen: root.showSize()
+            }
+        }
+
+        BGUI.FormRow {
             label: qsTr("Screen")
 
             BGUI.RadioGroup {
                 id: format
                 width: parent.width
+                enabled: template.current === ""
                 currentIndex: 0
                 model: [qsTr("Landscape"), qsTr("Portrait"), qsTr("Own size")]
                 onActivated: {
@@ -89,7 +117,7 @@ FormPage {
                 BGUI.SpinBox {
                     id: across
                     objectName: "screenWidth"
-                    enabled: format.currentIndex === 2
+                    enabled: format.enabled && format.currentIndex === 2
                     realFrom: 1
                     realTo: 16384
                     realStep: 10

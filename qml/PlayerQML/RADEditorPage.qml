@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import QtQuick.Window 2.15
+import Nuvex.Deployment 1.0
 import Nuvex.Editor.desk 1.0
 import Nuvex.Editor.workbench 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
+import "private/words.js" as Words
 import "SharedVars.js" as SS
 
 /// The editor for mouse and keyboard: palette at the left, canvas in the middle, properties at the right, the source
@@ -30,7 +32,10 @@ StackPage {
 
     function leave() {
         desk.settle();
-        if (desk.isChanged)
+        if (transfer.running)
+            desk.say(qsTr("%1 is being published, and leaving would end that. Wait, or cancel it.")
+                     .arg(toolbar.project));
+        else if (desk.isChanged)
             question.open();
         else
             shell.pop();
@@ -39,6 +44,11 @@ StackPage {
     function undo() {
         desk.undo();
         side.tab = 0;
+    }
+
+    function publish() {
+        if (desk.saveChanges())
+            transfer.publish(toolbar.project);
     }
 
     function play() {
@@ -66,6 +76,7 @@ StackPage {
         id: desk
         objectName: "desk"
         frameHost: canvas.frameHost
+        hold: transfer.running ? qsTr("Not saved: %1 is being published.").arg(toolbar.project) : ""
     }
 
     Rectangle {
@@ -85,7 +96,10 @@ StackPage {
         onZoomedTo: canvas.zoomTo(scale)
         onFitted: canvas.fit()
         onKeysWanted: sheet.open()
+        hasCloud: Deployment.available && transfer.user !== ""
+        canPublish: !transfer.running
         onPlayWanted: root.play()
+        onPublishWanted: root.publish()
     }
 
     LeftPane {
@@ -127,6 +141,30 @@ StackPage {
         desk: desk
     }
 
+    Rectangle {
+        anchors.top: canvas.top
+        anchors.left: canvas.left
+        anchors.right: canvas.right
+        height: transfer.height + 2 * BGUI.Theme.unit
+        visible: transfer.visible
+        color: BGUI.Theme.surface
+    }
+
+    CloudTransfer {
+        id: transfer
+        objectName: "transfer"
+        anchors.top: canvas.top
+        anchors.left: canvas.left
+        anchors.right: canvas.right
+        anchors.margins: BGUI.Theme.unit
+        anchors.leftMargin: 2 * BGUI.Theme.unit
+        onTold: desk.tell(text, type, type === "success" ? DeskLimits.message : DeskLimits.faultMessage)
+        onRunningChanged: {
+            if (!running)
+                desk.takeIn();
+        }
+    }
+
     KeySheet {
         id: sheet
     }
@@ -134,10 +172,38 @@ StackPage {
     LeaveQuestion {
         id: question
         project: toolbar.project
-        onLeaveWanted: root.shell.pop()
+        onLeaveWanted: {
+            desk.recovery.forget();
+            root.shell.pop();
+        }
         onSaveWanted: {
             if (desk.save())
                 root.shell.pop();
+        }
+    }
+
+    BGUI.MessageBox {
+        id: offer
+
+        property string kept
+        property string time
+
+        objectName: "recoveryQuestion"
+        title: qsTr("Take up what was not saved?")
+        text: qsTr("%1 has changes that were not saved when the program ended.").arg(toolbar.project)
+              + (time === "" ? "" : " " + qsTr("They were kept last on %1.").arg(time)) + " "
+              + qsTr("Undo takes them back.")
+        acceptText: qsTr("Take them up")
+        rejectText: qsTr("Not now")
+        onAccepted: desk.adopt(kept)
+    }
+
+    Connections {
+        target: desk.recovery
+
+        function onFound(source, when) {
+            [offer.kept, offer.time] = [source, Words.time(when)];
+            offer.open();
         }
     }
 

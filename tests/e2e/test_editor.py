@@ -2,7 +2,9 @@
 # SPDX-License-Identifier: MIT
 """Every flow of the desktop editor by mouse, wheel and keys; then file, directory map and picture."""
 
+import os
 import subprocess
+import time
 from pathlib import Path
 
 from driver import run_tests, wait_for
@@ -353,7 +355,22 @@ class DesktopEditorTest(EditorTest):
         self.begin("Cafe")
         program.wait_text("There is a project of that name.")
 
-    def begin(self, name):
+    def test_starting_from_a_template(self):
+        self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", shareFolder="false")
+        program = self.program = self.start()
+        demo = Path(__file__).resolve().parents[2] / "demos/Retail Window"
+        files = {str(path.relative_to(demo)): path.read_bytes() for path in demo.rglob("*") if path.is_file()}
+        self.begin("Window 2", "template Retail Window")
+        program.wait_page("RADEditorPage")
+        folder = self.profile.work / "Window 2"
+        self.assertEqual({name: (folder / name).read_bytes() for name in files if name != "dirmap"},
+                         {name: content for name, content in files.items() if name != "dirmap"})
+        self.assertEqual(sorted((folder / "dirmap").read_text().split("\n")),
+                         sorted(["", *(name + " 1" for name in files if name != "dirmap")]))
+        wait_for(lambda: program.find("zoomPercent"), "the editor")
+        self.assertNotIn("faultHint", [item["name"] for item in program.items()])
+
+    def begin(self, name, template=None):
         program = self.program
         program.wait_page("MainPage")
         program.click("Open")
@@ -362,8 +379,50 @@ class DesktopEditorTest(EditorTest):
         program.wait_page("NewProjectPage")
         wait_for(lambda: program.find("projectName")["focus"], "the field for the name")
         program.type(name)
-        program.click("Portrait")
+        program.click(template or "Portrait")
         program.click("Create and edit")
+
+    def test_after_a_crash(self):
+        program = self.open()
+        for step in range(11):  # the tenth is kept
+            self.drag("red", by=(5 if step % 2 else 10, 0), held=["ctrl"])
+        kept = self.folder / "main.savestatus"
+        wait_for(kept.exists, "what is kept")
+        text = kept.read_text()
+        program.close()  # it is killed
+        program = self.program = self.start()
+        program.wait_text("Take up what was not saved?")
+        program.key("Escape")
+        wait_for(lambda: not program.find("Take them up"), "the end of the question")
+        self.assertEqual(kept.read_text(), text)
+        program.close()
+        program = self.program = self.start()
+        program.wait_text("Take up what was not saved?")
+        program.key("Return")
+        wait_for(lambda: program.find("project")["text"] == "Shop •", "the mark of a change")
+        self.assertEqual(self.source(), DOCUMENT)
+        self.assertEqual(self.saved(), text)
+        wait_for(lambda: not kept.exists(), "its end")
+        program.key("ctrl+z")
+        self.assertEqual(self.saved(), DOCUMENT)
+
+    def test_what_is_offered(self):
+        for name, age, offered in (("Old", 60, False), ("New ä", -60, True), ("50% #1?", -60, True)):
+            with self.subTest(name):
+                folder = self.profile.add_project(name, DOCUMENT)
+                kept = folder / "main.savestatus"
+                kept.write_text(DOCUMENT.replace("red", "green"))
+                os.utime(kept, (time.time() - age, time.time() - age))
+                self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", doOnStart="edit",
+                                            lastProject=name, shareFolder="false")
+                program = self.program = self.start()
+                program.wait_page("RADEditorPage")
+                wait_for(lambda: program.find("bound"), "the document")
+                if offered:
+                    program.wait_text("Take up what was not saved?")
+                time.sleep(0.5)
+                self.assertEqual(program.find("Take them up") is not None, offered)
+                program.close()
 
     def test_documents_that_cannot_be_shown(self):
         cases = {"Item {\n    width: }": "Line 2: ", "import QtQuick 2.15\nItm {}": "Line 2: Itm is not a type",

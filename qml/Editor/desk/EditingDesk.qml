@@ -18,11 +18,13 @@ QtObject {
     readonly property Item frame: frameHost ? frameHost.item : null
 
     readonly property LiveDocument live: LiveDocument {}
+    readonly property ProjectStill still: ProjectStill {}
     readonly property Selection selection: Selection { desk: root }
     readonly property Changes changes: Changes { desk: root }
     readonly property Insertion insertion: Insertion { desk: root }
     readonly property FileDrop fileDrop: FileDrop { desk: root }
     readonly property Arrangement arrangement: Arrangement { desk: root }
+    readonly property Recovery recovery: Recovery {}
 
     /// Counts changes of source and selection, so that what is read from them follows.
     property int revision: 0
@@ -34,6 +36,8 @@ QtObject {
     property var fault: null
 
     property string savedSource
+    /// Why the project's files are to stay as they are now, in words; "" when they may be written.
+    property string hold
 
     /// Something to say to the user for so many milliseconds; `kind` is "info" or "danger".
     signal told(string text, string kind, int duration)
@@ -49,10 +53,12 @@ QtObject {
         Ejs.selectItem = refresh;
         CAPI.readSourceCode("main.qml");
         root.savedSource = CAPI.editedSourceCode();
+        still.project = CAPI.getBaseProjectName();
         if (begin())
             frame.viewport.fit();
         Ejs.dirmap = CAPI.dirmap();
         refresh();
+        recovery.look(root.savedSource);
     }
 
     // Shows the source for the first time. False when it cannot be shown; `fault` says why.
@@ -87,6 +93,19 @@ QtObject {
             frame.viewport.fit();
             finish();
         }
+    }
+
+    // Makes `source` the document, as one change.
+    function adopt(source) {
+        settle();
+        if (root.fault) {
+            replaceAll(source);
+            return;
+        }
+        const before = CAPI.editedSourceCode();
+        CAPI.setSourceCode(source);
+        if (showSource(before))
+            finish();
     }
 
     function frameUrl() {
@@ -135,6 +154,15 @@ QtObject {
         Ejs.element = selection.item ? selection.item.element : -1;
         CAPI.saveEditingState();
         refresh();
+        // Publishing follows close upon the first saving, and shows what there is then.
+        if (String(still.source) === "")
+            takeStill();
+    }
+
+    // Takes the picture that stands for the project elsewhere.
+    function takeStill() {
+        if (root.fault === null)
+            still.take(live.root);
     }
 
     // Reads anew what the selected item's source says.
@@ -192,6 +220,10 @@ QtObject {
 
     function save() {
         settle();
+        if (hold !== "") {
+            say(hold);
+            return false;
+        }
         const source = CAPI.editedSourceCode();
         if (CAPI.parseAndGetMap(source).length === 0) {
             say(qsTr("Not saved: the source is no document."));
@@ -205,8 +237,36 @@ QtObject {
         CAPI.updateDirmapFile(Ejs.dirmap);
         root.savedSource = source;
         root.isChanged = false;
+        recovery.forget();
+        takeStill();
         tell("Saved local", "info", Limits.doneMessage);
         return true;
+    }
+
+    // Saves what is not saved. False when the project on disk is not what is shown.
+    function saveChanges() {
+        settle();
+        if (root.fault) {
+            sayFault(root.fault);
+            return false;
+        }
+        return !isChanged || save();
+    }
+
+    // Takes in what others have written into the project. Changes that are not saved stay.
+    function takeIn() {
+        Ejs.dirmap = CAPI.dirmap();
+        const source = CAPI.readTextFile("main.qml");
+        if (source === root.savedSource)
+            return;
+        settle();
+        const hasChanges = CAPI.editedSourceCode() !== root.savedSource;
+        root.savedSource = source;
+        if (hasChanges)
+            say(qsTr("The project has arrived from elsewhere. Saving puts what is here in its place."));
+        else
+            adopt(source);
+        refresh();
     }
 
     // Writes the source where it can be played from; the file's name, "" when that failed.
@@ -272,6 +332,10 @@ QtObject {
 
     readonly property Connections states: Connections {
         target: CAPI
+
+        function onProjectUpdated() {
+            root.takeIn();
+        }
 
         function onOlderEditingState(ok) {
             root.canUndo = !ok;

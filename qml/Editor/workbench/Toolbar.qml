@@ -10,6 +10,9 @@ Rectangle {
     property var desk
     property string project
     property real zoom: 1
+    /// Whether there is a cloud to publish to, and whether that is free now.
+    property bool hasCloud: false
+    property bool canPublish: false
     property alias handIsOn: hand.checked
     property alias sourceIsShown: source.checked
 
@@ -19,6 +22,7 @@ Rectangle {
     signal fitted()
     signal keysWanted()
     signal playWanted()
+    signal publishWanted()
     signal undone()
 
     readonly property bool hasItems: desk.selection.movable.length > 0
@@ -179,6 +183,15 @@ Rectangle {
             faIcon: "fa-play"
             toolTip: qsTr("Play (F5)")
             onClicked: root.playWanted()
+        }
+
+        Tool {
+            objectName: "publish"
+            visible: root.hasCloud
+            enabled: root.canPublish
+            faIcon: "fa-cloud-upload"
+            toolTip: qsTr("Save and publish")
+            onClicked: root.publishWanted()
         }
 
         BGUI.Button {
