@@ -31,7 +31,7 @@ LEADS = [
     ("HelpPage", {"Back": "AboutPage", "Go back": "AboutPage"}),
     ("RADEditorPage", {"Back": "MainPage", "Go back": "MainPage"}),
     ("ConnectedPlayers", {"Back": "MainPage"}),
-    ("AdvancedEditPage", {"Back": "MainPage", "Go back": "MainPage"}),
+    ("AdvancedEditPage", {"Back": "MainPage", "main.qml": "TextEditor"}),
 ]
 
 # Buttons whose effect is another one; each is pressed in a test of its own below.
