@@ -8,8 +8,8 @@ import Nuvex.GUI 1.0 as BGUI
 import "private"
 import "SharedVars.js" as SS
 
-/// The editor for touch: the canvas, what is done most above it, what can be done to the selected item below. Properties
-/// and source are edited on pages of their own, which get this page's desk.
+/// The editor for touch: the canvas, what is done most above it, what can be done to the selected item below.
+/// Properties and source are edited on pages of their own, which get this page's desk.
 StackPage {
     id: root
 
@@ -79,6 +79,15 @@ StackPage {
 
         BGUI.ActionButton {
             size: "large"
+            faIcon: "fa-plus"
+            toolTip: qsTr("Add a part")
+            onDark: true
+            enabled: desk.live.root !== null
+            onClicked: parts.open()
+        }
+
+        BGUI.ActionButton {
+            size: "large"
             faIcon: "fa-undo"
             toolTip: qsTr("Undo")
             onDark: true
@@ -120,7 +129,7 @@ StackPage {
         width: parent.width
         focus: true
         desk: desk
-        emptyText: qsTr("A part that was copied can be pasted here.")
+        emptyText: qsTr("Add a part with the plus at the top.")
     }
 
     ItemBar {
@@ -130,6 +139,11 @@ StackPage {
         desk: desk
         onPropertiesWanted: root.editProperties()
         onFitted: canvas.fit()
+    }
+
+    PartsSheet {
+        id: parts
+        onChosen: desk.insertion.addChosen(type)
     }
 
     LeaveQuestion {

@@ -150,6 +150,13 @@ class TouchEditorTest(EditorTest):
         program.click("fa-undo")
         wait_for(lambda: program.find("blue"), "it again")
         self.assertEqual(self.save(), wider)
+        self.select("page")
+        program.click("fa-plus")
+        wait_for(lambda: self.rect("palette BasicRectangle")[1] > self.rect("palette BasicText")[1], "the parts in place")
+        program.click("palette BasicRectangle")
+        wait_for(lambda: program.find("selectedName")["text"].startswith("BasicRectangle"),
+                 lambda: f"the new part: {self.selected()}; log:\n{program.log()}")
+        self.assertIn("BasicRectangle {", self.save())
         program.click("fa-arrow-left")
         program.wait_page("MainPage")
         self.assert_clean()
