@@ -30,6 +30,12 @@ bool isPossible(const QuaZipFileInfo64& entry)
     return entry.uncompressedSize <= entry.compressedSize * limits::deflateRatio;
 }
 
+// A hidden folder of the workspace is no project, and may be one of those that imports are prepared in.
+bool isInHiddenFolder(const QString& name)
+{
+    return name.startsWith(QLatin1Char('.')) && name.contains(QLatin1Char('/'));
+}
+
 QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
 {
     const quint32 type = (entry.externalAttr >> 16) & unixTypeMask;
@@ -43,7 +49,10 @@ QString faultOfEntry(const QuaZipFileInfo64& entry, quint64 archiveBytes)
         return QStringLiteral("an entry is larger than the archive");
     if (!isPossible(entry))
         return QStringLiteral("an entry announces more than it can hold");
-    return pathFault(withoutFinalSlash(entry.name).toString());
+    const QString fault = pathFault(withoutFinalSlash(entry.name).toString());
+    if (fault.isEmpty() && isInHiddenFolder(entry.name))
+        return QStringLiteral("a project's folder would be hidden");
+    return fault;
 }
 
 // Compares names without case, as some file systems do.

@@ -12,11 +12,6 @@ DownloadUrl::DownloadUrl()
     connect(&m_signing, &QFutureWatcher<QString>::finished, this, [this] { setUrl(m_signing.result()); });
 }
 
-DownloadUrl::~DownloadUrl()
-{
-    m_signing.waitForFinished();
-}
-
 void DownloadUrl::setObject(const QString& object)
 {
     if (object == m_object)

@@ -18,8 +18,6 @@ class DownloadUrl : public QObject
 
 public:
     DownloadUrl();
-    /// Waits for a signature that is being made.
-    ~DownloadUrl() override;
 
     /// Name of the object, plain text; empty for none. Whether there is such an object is not looked at.
     QString object() const { return m_object; }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
+#include "app/nativetypes.h"
+#include "cloud/deployment.h"
 #include "quick/tables/icontable.h"
 #include "quick/tables/themetable.h"
 
@@ -40,6 +42,7 @@ public:
 
     void initializeEngine(QQmlEngine* engine, const char*) override
     {
+        registerNativeTypes(Deployment());
         QQmlContext* context = engine->rootContext();
         context->setContextProperty(QStringLiteral("CAPI"), new PlainCapi(engine));
         context->setContextProperty(QStringLiteral("dp"), 1.0);

@@ -7,6 +7,7 @@
 
 #include "app/qmlcontext.h"
 #include "app/qmlhost.h"
+#include "cloud/deployment.h"
 #include "quick/tables/icontable.h"
 #include "quick/tables/themetable.h"
 

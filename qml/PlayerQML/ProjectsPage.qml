@@ -34,6 +34,11 @@ FormPage {
         local.reload();
     }
 
+    function askToRemove(name) {
+        question.project = name;
+        question.open();
+    }
+
     function browse() {
         notice.text = "";
         shell.open("ImportPage");
@@ -92,6 +97,8 @@ FormPage {
 
     objectName: "ProjectsPage"
     title: qsTr("Projects")
+    // No binding: a choice by the user would end it.
+    onTabChanged: tabRow.currentIndex = tab
     Component.onCompleted: tab = local.count === 0 ? 1 : 0
 
     actions: [
@@ -115,7 +122,6 @@ FormPage {
         width: local.width
         size: "large"
         model: root.tabs
-        currentIndex: root.tab
         focus: root.tab !== 0
         onActivated: {
             notice.text = "";
@@ -175,7 +181,7 @@ FormPage {
         canPublish: root.hasAccount && !transfer.running
         onChosen: root.choose(name)
         onPublishRequested: transfer.publish(name)
-        onRemoveRequested: root.remove(name)
+        onRemoveRequested: root.askToRemove(name)
     }
 
     BGUI.EmptyState {
@@ -221,6 +227,19 @@ FormPage {
         id: message
         anchors.bottom: parent.bottom
         width: parent.width
+    }
+
+    BGUI.MessageBox {
+        id: question
+
+        property string project
+
+        type: "danger"
+        title: qsTr("Delete %1?").arg(project)
+        text: qsTr("The project's folder on this computer is deleted with all its files.")
+        acceptText: qsTr("Delete")
+        rejectText: qsTr("Keep")
+        onAccepted: root.remove(project)
     }
 
     Imports {

@@ -79,6 +79,7 @@ void TestArchiveCheck::names_data()
             QTest::newRow(qPrintable(QString("hostile %1").arg(++row)))
                 << QStringList{"ok", path} << "a name";
     }
+    fault("hidden folder", {"Shop/main.qml", ".import-0123456789abcdef/main.qml"}, "a project's folder");
     fault("twice", {"a/b", "c", "a/b"}, "a name occurs twice");
     fault("twice but for the case", {"a/Ärger.png", "A/äRGER.png"}, "a name occurs twice");
     fault("file and folder", {"a", "a/"}, "a name occurs twice");

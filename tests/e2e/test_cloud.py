@@ -141,8 +141,10 @@ class CloudTest(ProgramTest):
         editor.click("Store")
         editor.click("Museum")
         editor.click("Delete Museum")  # the list of what is here, once it has come
+        editor.click("Delete")
         wait_for(lambda: not (self.profile.work / "Museum").exists(), "the project to go again")
         editor.click("Delete Shop")
+        editor.click("Delete")
         wait_for(lambda: not (self.profile.work / "Shop").exists(), "the project to go")
         editor.click("Cloud")
         wait_for(lambda: self.details(editor, "revision 1"), "the published revision")

@@ -16,7 +16,6 @@ WAYS = {
     "SettingsPage": ["fa-cog", "Settings"],
     "AboutPage": ["fa-cog", "About"],
     "HelpPage": ["fa-cog", "About", "Help"],
-    "RADEditorPage": ["Edit"],
     "ConnectedPlayers": ["Dashboard"],
     "AdvancedEditPage": ["fa-cog", "Advanced Editor"],
 }
@@ -25,11 +24,10 @@ WAYS = {
 LEADS = [
     ("MainPage", {"Open": "ProjectsPage", "Edit": "RADEditorPage", "Dashboard": "ConnectedPlayers"}),
     ("menu", {"Settings": "SettingsPage", "Advanced Editor": "AdvancedEditPage", "About": "AboutPage"}),
-    ("ProjectsPage", {"Back": "MainPage", "Shop": "MainPage"}),
+    ("ProjectsPage", {"Back": "MainPage", "New": "NewProjectPage", "Shop": "MainPage"}),
     ("SettingsPage", {"Back": "MainPage"}),
     ("AboutPage", {"Back": "MainPage", "Help": "HelpPage"}),
     ("HelpPage", {"Back": "AboutPage", "Go back": "AboutPage"}),
-    ("RADEditorPage", {"Back": "MainPage", "Go back": "MainPage"}),
     ("ConnectedPlayers", {"Back": "MainPage"}),
     ("AdvancedEditPage", {"Back": "MainPage", "main.qml": "TextEditor"}),
 ]
@@ -170,15 +168,23 @@ class PagesTest(ProgramTest):
 
         self.go_to(program, "ProjectsPage")
         program.click("Delete Museum")
+        program.wait_text("Delete Museum?")
+        program.key("Return")  # at first the button that does no harm has the keyboard
+        wait_for(lambda: not program.find("Keep"), "the question's end")
+        self.assertTrue((self.profile.work / "Museum").exists())
+        program.click("Delete Museum")
+        program.click("Delete")
         wait_for(lambda: not (self.profile.work / "Museum").exists(), "the project's end")
         program.tab_to("Bakery")
         program.key("Down")  # each row's button is reached from its row
         program.press("Delete Café Zoë", by_keyboard=True)
+        program.click("Delete")
         wait_for(lambda: not (self.profile.work / "Café Zoë").exists(), "the project's end")
         self.assertEqual(self.profile.setting("lastProject"), "")
         program.key("Up", "Up")  # the list keeps the keyboard
         wait_for(lambda: program.find("Bakery")["focus"], "the focus on Bakery")
         program.key("Delete")
+        program.click("Delete")
         wait_for(lambda: not (self.profile.work / "Bakery").exists(), "the project's end")
         self.assertEqual(sorted(p.name for p in self.profile.work.iterdir()), ["Shop"])
         self.assert_clean(program)
@@ -245,6 +251,7 @@ class PagesTest(ProgramTest):
         program = self.start()
         self.go_to(program, "ProjectsPage")
         program.click("Delete Shop")
+        program.click("Delete")
         program.wait_text("There is no project on this computer")  # and not another tab
         program.key("Escape")
         program.wait_page("MainPage")

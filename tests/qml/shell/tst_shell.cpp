@@ -171,14 +171,14 @@ void TestShell::stillOfTheProject()
     const QString still = shell.api().workspace().stillOf("Shop");
     QVERIFY(!QFile::exists(still));
     shell.root()->findChild<QObject*>("stillTimer")->setProperty("interval", 1);
-    QTRY_VERIFY(QFile::exists(still));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(still), 30000);
     const QImage image(still);
     QCOMPARE(image.size(), document.scaled(960, 960, Qt::KeepAspectRatio));
     QVERIFY(qAbs(image.pixelColor(5, 5).blue() - QColor("teal").blue()) < 4);
 
     shell.goBack();
     QTRY_COMPARE(shell.pageName(), QString("MainPage"));
-    QTRY_VERIFY(shell.find("projectStill") && shell.find("projectStill")->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(shell.find("projectStill") && shell.find("projectStill")->isVisible(), 30000);
     const QRectF window(QPointF(), shell.root()->size());
     const QRectF shown = sceneRect(shell.find("projectStill"));
     QVERIFY(window.contains(shown));
