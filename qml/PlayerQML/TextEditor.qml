@@ -107,6 +107,13 @@ FormPage {
         width: parent.width
 
         BGUI.Notice {
+            objectName: "unreadable"
+            radius: 0
+            type: "danger"
+            text: file.isReadable ? "" : qsTr("This file cannot be read, or is too large for a text.")
+        }
+
+        BGUI.Notice {
             objectName: "encoding"
             radius: 0
             type: "warning"
@@ -135,6 +142,7 @@ FormPage {
         anchors.bottom: parent.bottom
         width: parent.width
         focus: true
+        readOnly: !file.isReadable
         errorLine: file.faultLine
         onTextChanged: {
             root.text = area.exactText();

@@ -12,6 +12,7 @@ sys.path.append(str(Path(__file__).resolve().parents[1] / "localcloud"))
 from cloud import Cloud  # noqa: E402
 
 WINDOWS_TEXT = "import QtQuick 2.15\r\n\r\nRectangle {\r\n    color: 'teal'\r\n    // 20\u00a0°C\r\n}\r\n"
+HUGE = 1 << 30  # bytes of a file with nothing in it
 
 
 class SourcesTest(ProgramTest):
@@ -19,6 +20,8 @@ class SourcesTest(ProgramTest):
         self.folder = self.profile.add_project("Shop", None)
         (self.folder / "main.qml").write_bytes(WINDOWS_TEXT.encode())
         (self.folder / "notes.txt").write_bytes("Café\n".encode("latin-1"))
+        with (self.folder / "huge.js").open("wb") as huge:
+            huge.truncate(HUGE)
         self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", doOnStart="",
                                     lastProject="Shop")
         self.program = self.start()
@@ -68,6 +71,14 @@ class SourcesTest(ProgramTest):
         program.key("Escape")
         program.wait_page("TextEditor")
 
+    def test_file_too_large(self):
+        program = self.open("huge.js")
+        program.wait_text("This file cannot be read")
+        program.type("x")
+        program.key("ctrl+s")
+        program.wait_text("Not saved")
+        self.assertEqual((self.folder / "huge.js").stat().st_size, HUGE)
+
     def test_other_encoding(self):
         program = self.open("notes.txt")
         program.wait_text("This file is not UTF-8")
@@ -76,7 +87,7 @@ class SourcesTest(ProgramTest):
         program.wait_text("Saved local")
         self.assertEqual([text for text in program.texts() if "not UTF-8" in text], [])
         self.assertTrue((self.folder / "notes.txt").read_text("utf-8").startswith("Tea and Caf"))
-        kept = [file.read_bytes() for file in self.folder.iterdir() if file.name not in ("main.qml", "notes.txt")]
+        kept = [file.read_bytes() for file in self.folder.iterdir() if file.name not in ("notes.txt", "huge.js")]
         self.assertIn("Café\n".encode("latin-1"), kept)
 
 

@@ -13,6 +13,8 @@ QtObject {
     readonly property bool isQml: /\.qml$/.test(path)
     /// Whether the next save puts UTF-8 in place of another encoding.
     property bool isOtherEncoding: false
+    /// Whether there is a text to edit: one that could not be read must not be replaced.
+    property bool isReadable: true
     /// Why the last save was refused, and the line to blame: from 1, 0 for none.
     property string problem
     property int faultLine: 0
@@ -23,7 +25,8 @@ QtObject {
     function read() {
         const text = CAPI.readTextFile(path);
         hasWindowsLines = text.indexOf("\r\n") >= 0;
-        isOtherEncoding = !encoding.isUtf8;
+        isReadable = encoding.isReadable;
+        isOtherEncoding = isReadable && !encoding.isUtf8;
         return text.replace(/\r\n/g, "\n");
     }
 
