@@ -16,6 +16,11 @@ TextArea {
     // The line of the cursor, from 1.
     readonly property int currentLine: Indent.lineAt(text, cursorPosition)
 
+    // The text with each character as it is; `text` has spaces in place of those that keep words together.
+    function exactText() {
+        return highlighter.exactText(edit);
+    }
+
     function goToLine(line) {
         cursorPosition = Indent.lineStart(text, line);
         forceActiveFocus();

@@ -48,3 +48,9 @@ int SyntaxHighlighter::matchingBracket(QObject* textArea, int position)
     const QTextDocument* document = documentOf(textArea);
     return document ? ::matchingBracket(*document, position) : -1;
 }
+
+QString SyntaxHighlighter::exactText(QObject* textArea)
+{
+    const QTextDocument* document = documentOf(textArea);
+    return document ? document->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n')) : QString();
+}

@@ -21,4 +21,7 @@ public:
     Q_INVOKABLE void setMark(QObject* textArea, const QString& text, bool caseSensitive = false);
     /// Position of the bracket that belongs to the one at `position`, or -1; see matchingBracket().
     Q_INVOKABLE int matchingBracket(QObject* textArea, int position);
+    /// The text area's text with each character as it is, lines ended by "\n"; its own "text" has blanks
+    /// in place of no-break spaces. Empty without a text area.
+    Q_INVOKABLE QString exactText(QObject* textArea);
 };

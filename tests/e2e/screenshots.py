@@ -59,6 +59,12 @@ def steps_of_the_pages(program):
         program.click(label)
         program.wait_page(page)
         take(program, name)
+        if page == "AdvancedEditPage":
+            program.click("main.qml")
+            program.wait_page("TextEditor")
+            take(program, "text-editor")
+            program.key("Escape")
+            program.wait_page(page)
         program.key("Escape")
         program.wait_page("MainPage")
 

@@ -29,7 +29,7 @@ LEADS = [
     ("AboutPage", {"Back": "MainPage", "Help": "HelpPage"}),
     ("HelpPage", {"Back": "AboutPage", "Go back": "AboutPage"}),
     ("ConnectedPlayers", {"Back": "MainPage"}),
-    ("AdvancedEditPage", {"Back": "MainPage", "Go back": "MainPage"}),
+    ("AdvancedEditPage", {"Back": "MainPage", "main.qml": "TextEditor"}),
 ]
 
 # Buttons whose effect is another one; each is pressed in a test of its own below.

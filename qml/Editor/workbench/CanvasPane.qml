@@ -3,12 +3,14 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// The canvas of the desktop editor: the editing frame with the document on a neutral ground, and what lies over it.
+/// The canvas of an editor: the editing frame with the document on a neutral ground, and what lies over it.
 FocusScope {
     id: root
 
     property var desk
     property bool hand: false
+    /// What to do first on an empty page.
+    property alias emptyText: empty.text
 
     readonly property alias frameHost: host
     readonly property Item frame: host.item
@@ -109,6 +111,7 @@ FocusScope {
     }
 
     CanvasCard {
+        id: empty
         objectName: "emptyHint"
         visible: root.isEmpty
         faIcon: "fa-hand-o-left"

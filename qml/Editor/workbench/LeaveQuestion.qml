@@ -9,6 +9,7 @@ BGUI.ModalPopup {
     id: root
 
     property string project
+    property alias detail: detail.text
 
     signal saveWanted()
     signal leaveWanted()
@@ -41,6 +42,7 @@ BGUI.ModalPopup {
         }
 
         BGUI.Label {
+            id: detail
             width: parent.width
             text: qsTr("Without saving, the project stays as it was saved last.")
         }

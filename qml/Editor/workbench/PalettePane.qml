@@ -4,12 +4,13 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 import "palette.js" as Palette
 
-/// The components that can be added: dragged onto the canvas, or by a double click or Enter into what is selected.
+/// The components that can be added: dragged onto the canvas, or by a double click or Enter into what is selected;
+/// where nothing can be dragged, by a tap.
 FocusScope {
     id: root
 
-    /// Lies over the whole page: what is dragged moves in it.
-    property Item dragArea
+    /// Lies over the whole page: what is dragged moves in it; null where nothing is dragged.
+    property Item dragArea: null
 
     /// The user wants a component of that type in what is selected.
     signal chosen(string type)

@@ -9,7 +9,8 @@ FocusScope {
 
     property string type
     property string label
-    property Item dragArea
+    /// What the tile is dragged over; without it a tap chooses.
+    property Item dragArea: null
 
     signal chosen()
 
@@ -62,7 +63,7 @@ FocusScope {
         id: area
         anchors.fill: parent
         hoverEnabled: true
-        drag.target: ghost
+        drag.target: root.dragArea ? ghost : null
         drag.smoothed: false
         onPressed: {
             root.forceActiveFocus(Qt.MouseFocusReason);
@@ -70,7 +71,14 @@ FocusScope {
             [ghost.x, ghost.y] = [at.x - ghost.width / 2, at.y - ghost.height / 2];
         }
         onReleased: ghost.Drag.drop()
-        onDoubleClicked: root.chosen()
+        onClicked: {
+            if (!root.dragArea)
+                root.chosen();
+        }
+        onDoubleClicked: {
+            if (root.dragArea)
+                root.chosen();
+        }
     }
 
     // What hangs at the pointer while the component is dragged.

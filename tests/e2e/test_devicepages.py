@@ -1,0 +1,177 @@
+# SPDX-FileCopyrightText: 2026 The Nuvex developers
+# SPDX-License-Identifier: MIT
+"""A project's files as text, and the editor for touch: found, changed, refused, saved, played."""
+
+import sys
+from pathlib import Path
+
+from driver import Program, ProgramTest, run_tests, wait_for
+from editordriver import DOCUMENT, EditorTest
+
+sys.path.append(str(Path(__file__).resolve().parents[1] / "localcloud"))
+from cloud import Cloud  # noqa: E402
+
+WINDOWS_TEXT = "import QtQuick 2.15\r\n\r\nRectangle {\r\n    color: 'teal'\r\n    // 20\u00a0°C\r\n}\r\n"
+HUGE = 1 << 30  # bytes of a file with nothing in it
+
+
+class SourcesTest(ProgramTest):
+    def open(self, file):
+        self.folder = self.profile.add_project("Shop", None)
+        (self.folder / "main.qml").write_bytes(WINDOWS_TEXT.encode())
+        (self.folder / "notes.txt").write_bytes("Café\n".encode("latin-1"))
+        with (self.folder / "huge.js").open("wb") as huge:
+            huge.truncate(HUGE)
+        self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", doOnStart="",
+                                    lastProject="Shop")
+        self.program = self.start()
+        self.program.click("Menu")
+        self.program.click("Advanced Editor")
+        self.program.click(file)
+        self.program.wait_page("TextEditor")
+        wait_for(lambda: self.program.find("source"), "the text")
+        return self.program
+
+    def source(self):
+        return (self.folder / "main.qml").read_bytes().decode()
+
+    def revision(self, file):
+        dirmap = self.folder / "dirmap"
+        return dirmap.exists() and f"{file} 1" in dirmap.read_text("utf-8").splitlines()
+
+    def test_document(self):
+        program = self.open("main.qml")
+        program.key("ctrl+f")
+        program.type("TEAL")
+        program.wait_text("1 of 1")
+        program.key("Escape")
+        program.type("navy")
+        program.wait_text("main.qml •")
+        program.key("ctrl+s")
+        program.wait_text("Saved local")
+        self.assertEqual(self.source(), WINDOWS_TEXT.replace("teal", "navy"))
+        self.assertTrue(self.revision("main.qml"))
+        program.type("'}{")
+        program.key("ctrl+s")
+        program.wait_text("Not saved: line 4:")
+        program.key("ctrl+a", "Delete", "ctrl+s")
+        program.wait_text("Not saved: the text is empty")
+        program.key("Escape")
+        program.click("Save and leave")
+        program.wait_text("Not saved: the text is empty")
+        self.assertEqual(program.page(), "TextEditor")
+        self.assertEqual(self.source(), WINDOWS_TEXT.replace("teal", "navy"))
+        program.key("Escape")
+        program.click("Do not save")
+        program.wait_page("AdvancedEditPage")
+        program.press("main.qml", by_keyboard=True)
+        program.wait_page("TextEditor")
+        program.key("F5")
+        program.wait_page("PlayerPage")
+        program.key("Escape")
+        program.wait_page("TextEditor")
+
+    def test_file_too_large(self):
+        program = self.open("huge.js")
+        program.wait_text("This file cannot be read")
+        program.type("x")
+        program.key("ctrl+s")
+        program.wait_text("Not saved")
+        self.assertEqual((self.folder / "huge.js").stat().st_size, HUGE)
+
+    def test_other_encoding(self):
+        program = self.open("notes.txt")
+        program.wait_text("This file is not UTF-8")
+        program.type("Tea and ")
+        program.click("Save")
+        program.wait_text("Saved local")
+        self.assertEqual([text for text in program.texts() if "not UTF-8" in text], [])
+        self.assertTrue((self.folder / "notes.txt").read_text("utf-8").startswith("Tea and Caf"))
+        kept = [file.read_bytes() for file in self.folder.iterdir() if file.name not in ("notes.txt", "huge.js")]
+        self.assertIn("Café\n".encode("latin-1"), kept)
+
+
+class TouchEditorTest(EditorTest):
+    """The document on the editor page of a device, which a command from the cloud opens on this computer."""
+
+    def open(self):
+        cloud = Cloud(self.setup.localcloud)
+        self.addCleanup(cloud.stop)
+        self.folder = self.profile.add_project("Shop", DOCUMENT)
+        self.profile.write_settings(userEmail="ann.b@example.org", playerUID="west_12", doOnStart="",
+                                    lastProject="Shop", shareFolder="false")
+        self.program = Program(self.setup, self.screen, self.profile,
+                               "--deployment", str(cloud.folder / "deployment.json"))
+        self.addCleanup(self.program.close)
+        self.program.wait_page("MainPage")
+        cloud.database("PUT", "/Users/annb@exampleorg/Players/west_12/command",
+                       "CAPI.createEditorFile(); open('EditorPage')")
+        self.program.wait_page("EditorPage")
+        return self.program
+
+    def edit(self, *steps):
+        """Presses what leads to a text, and waits for it."""
+        for step in steps:
+            self.program.click(step)
+        wait_for(lambda: self.program.find("source"), "the code")
+
+    def replace(self, code):
+        self.program.key("ctrl+a")
+        self.program.type(code)
+        self.program.click("Apply")
+
+    def save(self):
+        before = self.revision()
+        self.program.click("Save")
+        wait_for(lambda: self.revision() == before + 1, "the saved revision")
+        return self.source()
+
+    def test_properties_and_source(self):
+        program = self.open()
+        self.select("red")
+        width = self.rect("red")[2]
+        self.edit("Properties", "width")
+        self.replace("width: }")
+        program.wait_text("This cannot be written here")
+        self.replace("width: 240")
+        program.wait_page("PropertyEditor")
+        program.key("Escape")
+        program.wait_page("EditorPage")
+        self.wait_selected("red")
+        self.assertAlmostEqual(self.rect("red")[2], 2 * width, delta=1)
+        wider = DOCUMENT.replace("width: 120", "width: 240", 1)
+        self.assertEqual(self.save(), wider)
+
+        self.select("first")
+        self.edit("Properties", "fa-code")
+        program.key("ctrl+a", "Delete", "Escape")
+        program.click("Do not save")
+        program.wait_page("EditorPage")
+        self.edit("Properties", "fa-code")
+        self.replace("Rectangle { objectName: 'first'; width: 60; height: 60; color: '#00ff00' }")
+        program.wait_page("EditorPage")
+        self.wait_colour("first", "#00ff00")
+        program.click("fa-undo")
+        self.wait_colour("first", "#ffa500")
+        self.select("blue")
+        program.click("fa-trash-o")
+        wait_for(lambda: not program.find("blue"), "its end")
+        program.click("fa-arrow-left")
+        program.click("Stay")
+        program.click("fa-undo")
+        wait_for(lambda: program.find("blue"), "it again")
+        self.assertEqual(self.save(), wider)
+        self.select("page")
+        program.click("fa-plus")
+        wait_for(lambda: self.rect("palette BasicRectangle")[1] > self.rect("palette BasicText")[1], "the parts in place")
+        program.click("palette BasicRectangle")
+        wait_for(lambda: program.find("selectedName")["text"].startswith("BasicRectangle"),
+                 lambda: f"the new part: {self.selected()}; log:\n{program.log()}")
+        self.assertIn("BasicRectangle {", self.save())
+        program.click("fa-arrow-left")
+        program.wait_page("MainPage")
+        self.assert_clean()
+
+
+if __name__ == "__main__":
+    run_tests()
