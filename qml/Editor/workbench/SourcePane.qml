@@ -24,9 +24,9 @@ FocusScope {
 
     function apply() {
         if (root.desk.fault)
-            root.desk.replaceAll(area.text);
+            root.desk.replaceAll(area.exactText());
         else
-            root.desk.applySource(area.text);
+            root.desk.applySource(area.exactText());
     }
 
     Connections {
