@@ -34,8 +34,7 @@ void CAPI::trimComponentCache()
 
 void CAPI::clearComponentCache()
 {
-    if (m_view)
-        m_view->engine()->clearComponentCache();
+    PlayerView(m_view).forgetCompiled();
 }
 
 QString CAPI::generateEditor(QString sc, int initialElement)

@@ -27,6 +27,15 @@ void PlayerView::unload() const
 {
     if (QObject* player = playerIn(m_view))
         player->setProperty("source", QUrl());
-    if (m_view)
-        m_view->engine()->clearComponentCache();
+    forgetCompiled();
+}
+
+void PlayerView::forgetCompiled() const
+{
+    if (!m_view)
+        return;
+    QObject* root = m_view->rootObject();
+    if (root && root->metaObject()->indexOfMethod("keepPages()") >= 0)
+        QMetaObject::invokeMethod(root, "keepPages");
+    m_view->engine()->clearComponentCache();
 }

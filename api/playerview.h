@@ -20,6 +20,9 @@ public:
     /// Takes the document off the screen and makes the QML engine forget compiled documents, so that changed
     /// files are read anew. Whoever calls has it loaded again.
     void unload() const;
+    /// Makes the QML engine forget compiled documents. The shell's pages are compiled before and kept: those
+    /// that came later would have scripts, and what is shared by them, of their own.
+    void forgetCompiled() const;
 
 private:
     QQuickView* m_view;

@@ -70,7 +70,7 @@ SyncResult Pull::carryOut(const Dirmap& cloudMap, const QString& revision)
         return info.isSymLink() || (info.exists() && !info.isDir());
     });
     tell();
-    if (m_plan.refused.size() == cloudMap.paths.size())
+    if (m_plan.refused.size() == cloudMap.paths.size() || wouldEmpty())
         return failure(StorageFault::Unexpected);
     leaveOut(obstructed());
     const StorageFault fault = fetch();
@@ -91,6 +91,15 @@ void Pull::tell() const
         qCWarning(lcCloud) << "Edited here and not published, so not pulled:" << m_plan.kept;
     if (!m_plan.refused.isEmpty())
         qCWarning(lcCloud) << "Not possible as files of a project:" << m_plan.refused;
+}
+
+// A map that takes the document itself away is none: a login page of a network's, or what is left of one.
+bool Pull::wouldEmpty() const
+{
+    const bool empties = m_plan.remove.contains(QLatin1String("main.qml"));
+    if (empties)
+        qCWarning(lcCloud) << "Not pulled, its map lists no main.qml:" << m_project.cloudPath;
+    return empties;
 }
 
 void Pull::leaveOut(const QSet<QString>& paths)

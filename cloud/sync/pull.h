@@ -37,6 +37,7 @@ public:
 private:
     SyncResult carryOut(const Dirmap& cloudMap, const QString& revision);
     void tell() const;
+    bool wouldEmpty() const;
     void leaveOut(const QSet<QString>& paths);
     QSet<QString> obstructed() const;
     StorageFault fetch();

@@ -23,7 +23,7 @@ FormPage {
     }
 
     function edit(file) {
-        shell.push({ item: Qt.resolvedUrl("TextEditor.qml"), properties: { path: file }, immediate: true });
+        shell.push({ item: shell.page("TextEditor"), properties: { path: file }, immediate: true });
     }
 
     objectName: "AdvancedEditPage"

@@ -21,16 +21,32 @@ StackView {
 
     readonly property LoggingCategory log: LoggingCategory { name: "nuvex.shell" }
 
+    // The pages that were compiled, by name. They are kept: when the engine forgets what it has compiled, as at each
+    // update of a project, a page that is compiled anew has another SharedVars.js than those that are open.
+    readonly property var pages: ({})
+
+    function page(name) {
+        if (!pages[name])
+            pages[name] = Qt.createComponent(Qt.resolvedUrl("./" + name + ".qml"));
+        return pages[name];
+    }
+
+    // Compiles all pages that use SharedVars.js.
+    function keepPages() {
+        ["ConnectedPlayers", "EditorPage", "LoginPage", "PlayerPage", "ProjectsPage", "RADEditorPage", "TextEditor"]
+            .forEach(page);
+    }
+
     // Runs a script in this scope: remote commands reach SS, CAPI and the stack by their names.
     function evaluate(str) {
         eval(str);
     }
 
     // Shows a page, unless it is the one that is shown. Returns the page.
-    function open(page) {
-        if (currentItem.objectName === page)
+    function open(name) {
+        if (currentItem.objectName === name)
             return currentItem;
-        return push({"item": Qt.resolvedUrl("./" + page + ".qml"), "immediate": true});
+        return push({"item": page(name), "immediate": true});
     }
 
     function play() {

@@ -32,6 +32,7 @@ private slots:
     void bothSidesChanged();
     void twoEditorsAtOnce();
     void publishWhileAPullRuns();
+    void mapWithoutTheDocument();
     void publishWhosAnswerIsLost();
     void missingFileComesLater();
     void oneBadFileHoldsAllBack_data();
@@ -225,6 +226,20 @@ void TestSync::publishWhileAPullRuns()
     m_editor->push();
     QTRY_COMPARE_WITH_TIMEOUT(m_player->tree(), m_editor->tree(), 10'000);
     QTRY_COMPARE(m_player->said, QStringList({"start", "stop", "0", "reload"}));
+}
+
+// A login page in the map's place, or what is left of a map: the project stays.
+void TestSync::mapWithoutTheDocument()
+{
+    m_editor->push();
+    m_player->pull("0");
+    const Tree before = m_player->tree();
+    for (const char* map : {"<html><body>Hotel login 200</body></html>", "x 1\n", "images/a%20b.png 0\n"}) {
+        m_cloud.put(shared + "dirmap", map);
+        m_player->worker().pull("Shop", "7");
+        QTest::qWait(1000);
+        QCOMPARE(m_player->tree(), before);
+    }
 }
 
 // The map has arrived, but nobody heard so; the network stack sends it again, and meets its own work.
