@@ -16,8 +16,6 @@
 #include <QQuickItemGrabResult>
 #include <QtConcurrent>
 
-#include <utility>
-
 namespace {
 
 void save(const QImage& image, const QString& file)
@@ -56,17 +54,19 @@ QUrl ProjectStill::source() const
     return url;
 }
 
-void ProjectStill::take(QQuickItem* item)
+void ProjectStill::take(QQuickItem* item) const
 {
     const QString target = file();
     if (!item || target.isEmpty() || drawnSize(item).isEmpty())
         return;
-    m_grab = item->grabToImage(drawnSize(item));
-    if (!m_grab)
+    const QSharedPointer<QQuickItemGrabResult> grab = item->grabToImage(drawnSize(item));
+    if (!grab)
         return;
-    connect(m_grab.data(), &QQuickItemGrabResult::ready, this, [this, target] {
-        const QSharedPointer<QQuickItemGrabResult> grab = std::exchange(m_grab, {});
+    // The render thread works on the result until it is ready, also when this object has gone: the connection
+    // owns it, and goes with it.
+    connect(grab.data(), &QQuickItemGrabResult::ready, grab.data(), [grab, target] {
         QtConcurrent::run(save, grab->image().convertToFormat(QImage::Format_RGB32), target);
+        grab->disconnect();
     });
 }
 

@@ -4,11 +4,9 @@
 #pragma once
 
 #include <QObject>
-#include <QSharedPointer>
 #include <QUrl>
 
 class QQuickItem;
-class QQuickItemGrabResult;
 
 /// The QML type "ProjectStill" of "Nuvex.Native" 1.1: the still picture of a project of the CAPI that the
 /// engine's context property of that name holds; without one there is none.
@@ -27,7 +25,7 @@ public:
 
     /// Takes the picture that `item` shows now for `project`. It is drawn with the window's next frame and
     /// written in the background; a failure is logged.
-    Q_INVOKABLE void take(QQuickItem* item);
+    Q_INVOKABLE void take(QQuickItem* item) const;
 
 signals:
     void projectChanged();
@@ -36,5 +34,4 @@ private:
     QString file() const;
 
     QString m_project;
-    QSharedPointer<QQuickItemGrabResult> m_grab;
 };
