@@ -17,6 +17,7 @@ private slots:
     void missingDocument();
     void brokenDocument();
     void reload();
+    void pageAfterForgetting();
     void connectionDot();
 };
 
@@ -143,14 +144,20 @@ void TestPlayerPage::reload()
     emit shell.api().reloadPlayer();
     QVERIFY(shell.find("new"));
     QCOMPARE(text(shell, "playerMessage"), QString());
+    QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
 
-    // The pages that come after the engine has forgotten what it had compiled share what those before them
-    // do.
+// A page that comes after the engine has forgotten what it had compiled shares what those before it do.
+void TestPlayerPage::pageAfterForgetting()
+{
+    setUp("import QtQuick 2.15\nItem { objectName: 'shown' }");
+    Shell shell({{"startAction", "gallery"}});
+    QCOMPARE(shell.pageName(), QString("GalleryPage"));
+    shell.api().clearComponentCache();
     shell.goBack();
     QTRY_COMPARE(shell.pageName(), QString("MainPage"));
     QVERIFY(QMetaObject::invokeMethod(shell.root(), "play"));
-    QVERIFY(shell.find("new"));
-    QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+    QVERIFY(shell.find("shown"));
 }
 
 void TestPlayerPage::connectionDot()
