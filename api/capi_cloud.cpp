@@ -38,11 +38,6 @@ QByteArray jpegOf(const QImage& image, int size)
     return jpeg;
 }
 
-void notAvailableYet(const char* member)
-{
-    qCWarning(lcApi) << member << "not available yet";
-}
-
 } // namespace
 
 // What the worker and the storage client tell, in the words of this interface.
