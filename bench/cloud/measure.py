@@ -5,7 +5,7 @@
 
 measure.py BENCH_CLOUD NUVEX-LOCALCLOUD [--mebibytes N] [--files N] [--unchanged N] [--rounds N]
 
-Plain HTTP and TLS; stunnel ends that, with a certificate made for the run. Prints markdown tables.
+Plain HTTP and TLS; HAProxy ends that, with a certificate made for the run. Prints markdown tables.
 """
 import argparse
 import json
@@ -38,7 +38,7 @@ def options():
 
 
 class Terminator:
-    """stunnel in front of the server, and the deployment that leads there; tokens, whose assertions name the address
+    """HAProxy in front of the server, and the deployment that leads there; tokens, whose assertions name the address
     that they are sent to, are fetched without it."""
 
     def __init__(self, server):
@@ -47,14 +47,23 @@ class Terminator:
             port = free.getsockname()[1]
         self.base = f"https://localhost:{port}"
         self.certificate = server.folder / "tls.pem"
-        key = server.folder / "tls-key.pem"
+        # Behind the certificate's name plus ".key", HAProxy looks for the key.
         subprocess.run(["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj",
-                        "/CN=localhost", "-addext", "subjectAltName=DNS:localhost", "-keyout", key, "-out",
-                        self.certificate], check=True, stderr=subprocess.DEVNULL)
-        settings = server.folder / "stunnel.conf"
-        settings.write_text(f"foreground=yes\npid=\n[cloud]\naccept=127.0.0.1:{port}\n"
-                            f"connect=127.0.0.1:{server.port}\ncert={self.certificate}\nkey={key}\n")
-        self.process = subprocess.Popen(["stunnel4", str(settings)], stderr=subprocess.DEVNULL)
+                        "/CN=localhost", "-addext", "subjectAltName=DNS:localhost", "-keyout",
+                        f"{self.certificate}.key", "-out", self.certificate], check=True, stderr=subprocess.DEVNULL)
+        settings = server.folder / "haproxy.conf"
+        settings.write_text(f"""defaults
+    mode http
+    timeout connect 10s
+    timeout client 2m
+    timeout server 2m
+listen cloud
+    bind 127.0.0.1:{port} ssl crt {self.certificate}
+    http-request set-header X-Forwarded-Proto https
+    server local 127.0.0.1:{server.port}
+""")
+        self.process = subprocess.Popen(["haproxy", "-db", "-f", str(settings)], stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL)
         while subprocess.run(["curl", "-s", "-o", "/dev/null", "--cacert", self.certificate, self.base],
                              check=False).returncode:
             time.sleep(0.05)

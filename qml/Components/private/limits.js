@@ -14,6 +14,9 @@ var effectEdge = 4096;
 var firstRetry = 1000;
 var longestRetry = 60000;
 
+/// How far a file's time may lie behind the clock: the kernel stamps files with its last tick.
+var fileClockTick = 12;
+
 /// How long before its turn a slide is loaded.
 var slideLead = 3000;
 

@@ -78,6 +78,7 @@ ComponentCase {
                 fixture.makeGarbage(name);
             else if (fault === "cut")
                 fixture.makeCutPicture(name);
+            wait(2 * Limits.fileClockTick);
             var ground = show(data, name);
             tryVerify(function() { return fixture.warningCount() > 0; });
             // A missing file comes at once, before anyone could look what was in its place.

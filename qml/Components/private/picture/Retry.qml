@@ -18,8 +18,8 @@ Timer {
     // What was at the address at the last look, and whether that is still to be found out.
     property string lastSeen: ""
     property bool isFirstLook: false
-    // When it failed, in milliseconds since 1970: what was written since is news at the first look already.
-    property real failedAt: 0
+    // Since when it was tried, in milliseconds since 1970: what was written since is news at the first look already.
+    property real triedAt: Date.now()
     property real pause: Limits.firstRetry
     readonly property bool isFile: /^file:/.test(source)
 
@@ -56,6 +56,7 @@ Timer {
     /// To be called when the address has worked: the next failure starts a new watch.
     function forget() {
         root.watched = "";
+        root.triedAt = Date.now();
     }
 
     // A file that failed is to change before it is tried again; a server only has to answer. Called by both handlers
@@ -67,7 +68,6 @@ Timer {
         root.pause = Limits.firstRetry;
         root.lastSeen = "";
         root.isFirstLook = root.isFile;
-        root.failedAt = Date.now();
     }
 
     function look() {
@@ -86,7 +86,8 @@ Timer {
     function compare(mark, written) {
         if (!root.line.active)
             return;
-        const isNews = mark !== "" && mark !== root.lastSeen && (!root.isFirstLook || written >= root.failedAt);
+        const isOld = root.isFirstLook && !(written >= root.triedAt - Limits.fileClockTick);
+        const isNews = mark !== "" && mark !== root.lastSeen && !isOld;
         root.lastSeen = mark;
         root.line.active = false;
         if (isNews)
@@ -96,6 +97,7 @@ Timer {
     interval: root.pause * (1 + 0.2 * Math.random())
     running: root.isWatching
     repeat: true
+    onSourceChanged: root.triedAt = Date.now()
     onFailedChanged: {
         if (root.failed)
             noteFailure();
