@@ -61,9 +61,9 @@ class DashboardTest(ProgramTest):
     def named(self, program, name):
         return [item for item in program.items() if item["name"] == name]
 
-    def color_at(self, program, item):
+    def color_at(self, program, item, across=0.5):
         x, y, width, height = item["rect"]
-        place = f"1x1+{round(x + width / 2)}+{round(y + height / 2)}"
+        place = f"1x1+{round(x + width * across)}+{round(y + height / 2)}"
         grab = subprocess.run(["import", "-display", program.screen.name, "-window", "root", "-crop", place, "-depth",
                                "8", "rgb:-"], capture_output=True, check=True)
         return tuple(grab.stdout[:3])
@@ -253,6 +253,14 @@ class DashboardTest(ProgramTest):
                 reached.add(item["name"] or item["text"] or item["tip"])
         self.assertGreaterEqual(reached, {"Back", "Read the players again", "playerFilter", "playerOrder", "tileSize",
                                           "playerTile", "Send", "Fetch", "Connect"})
+        program.click("playerFilter")
+        program.tab_to("playerTile")
+        program.key("Right")
+        time.sleep(0.5)
+        tiles = self.named(program, "playerTile")
+        self.assertEqual([tile["text"] for tile in tiles if tile["focus"]], ["Player 60417"])
+        frames = {self.color_at(program, tile, 0.007): tile["focus"] for tile in tiles[:3]}
+        self.assertEqual(len(frames), 2, "the frame does not show where one is")
 
 
 def main():

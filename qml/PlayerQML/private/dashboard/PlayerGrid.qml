@@ -29,6 +29,8 @@ GridView {
     // While tiles rush by, nothing is fetched for them.
     readonly property bool isCalm: Math.abs(verticalVelocity) < 2 * height
     property int round: 0
+    // Whether the current tile was gone to by keys, so that its frame shows where one is.
+    property bool movedByKeys: false
     // What the place is remembered by while all tiles are exchanged.
     property real keptY: 0
     property string keptPlayer
@@ -67,12 +69,20 @@ GridView {
     boundsBehavior: Flickable.StopAtBounds
     T.ScrollBar.vertical: BGUI.ScrollBar {}
 
+    Keys.onPressed: {
+        movedByKeys = true;
+        event.accepted = false;
+    }
+
     delegate: FocusScope {
         id: cell
 
         function take() {
+            if (root.currentIndex !== index)
+                root.movedByKeys = false;
             root.currentIndex = index;
-            tile.forceActiveFocus(Qt.MouseFocusReason);
+            if (!tile.activeFocus)
+                tile.forceActiveFocus(Qt.MouseFocusReason);
         }
 
         width: root.cellWidth
@@ -94,6 +104,10 @@ GridView {
             now: root.players.now
             round: root.round
             screenshot: Players.screenshot(root.players.user, model.player)
+            onActiveFocusChanged: {
+                if (activeFocus && root.movedByKeys)
+                    focusReason = Qt.TabFocusReason;
+            }
             onVisualFocusChanged: {
                 if (visualFocus)
                     root.positionViewAtIndex(index, GridView.Contain);

@@ -65,8 +65,6 @@ T.AbstractButton {
     background: Rectangle {
         radius: BGUI.Theme.radius("base")
         color: BGUI.Theme.surface
-        border.width: root.visualFocus ? 3 * root.line : root.line
-        border.color: root.visualFocus || root.hovered ? BGUI.Theme.accent : BGUI.Theme.line
     }
 
     Rectangle {
@@ -212,6 +210,14 @@ T.AbstractButton {
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
         muted: root.project === ""
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: BGUI.Theme.radius("base")
+        color: "transparent"
+        border.width: root.visualFocus ? 3 * root.line : root.line
+        border.color: root.visualFocus || root.hovered ? BGUI.Theme.accent : BGUI.Theme.line
     }
 
     DownloadUrl {
