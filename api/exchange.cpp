@@ -20,6 +20,11 @@ QStringList Exchange::players() const
     return m_capi ? network()->players() : QStringList();
 }
 
+QString Exchange::addressOf(const QString& player) const
+{
+    return m_capi ? network()->addressOf(player) : QString();
+}
+
 ProjectExchange* Exchange::status() const
 {
     return m_capi ? &network()->projectExchange() : nullptr;

@@ -33,7 +33,7 @@ class ProjectExchange;
 ///     double bytes      of file content that came or went so far; the total is not known
 ///     string outcome    how it ended, a sentence for users; empty while running and before the first one
 ///     bool succeeded    everything that was to be moved was
-/// and the signal finished(), when one that had begun has ended, also by cancel() or a lost connection.
+/// and the signal finished(), when one has ended, also by cancel() or a lost connection, or could not begin.
 /// Names of players, and so the outcome, come from the network: to be shown as plain text.
 class Exchange : public QObject, public QQmlParserStatus
 {
@@ -48,6 +48,8 @@ public:
     /// The exchange that is running or was the last one, as above. Null where there is no program around.
     ProjectExchange* status() const;
 
+    /// Where a connected player is, as one writes it; empty when it is not connected.
+    Q_INVOKABLE QString addressOf(const QString& player) const;
     /// Begins to send the project, a folder of the work directory, to a connected player. False when it does
     /// not begin: the status' outcome says why, unless another exchange is running.
     Q_INVOKABLE bool send(const QString& player, const QString& project);

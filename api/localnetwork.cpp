@@ -7,6 +7,8 @@
 #include "api/logging.h"
 #include "api/playerview.h"
 #include "lan/localserver.h"
+#include "lan/threadconnection.h"
+#include "qmldoc/syntaxtree.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -88,6 +90,12 @@ QStringList LocalNetwork::players() const
     return m_server ? m_server->players() : QStringList();
 }
 
+QString LocalNetwork::addressOf(const QString& player) const
+{
+    const auto connection = m_server ? m_server->findConnection(player) : nullptr;
+    return connection ? connection->hostAddress().toString() : QString();
+}
+
 bool LocalNetwork::exchange(const QString& player, ProjectExchange::Direction direction,
                             const QString& project)
 {
@@ -111,6 +119,11 @@ void LocalNetwork::exchangeAtRandom(const QString& player)
     const HeldDeletions held;
     loop.exec();
     m_exchange.cancel(); // in case that the program quits
+}
+
+bool LocalNetwork::isDocument(const QString& text) const
+{
+    return SyntaxTree(text).program() != nullptr;
 }
 
 void LocalNetwork::connectionStarted(const QString& playerName)

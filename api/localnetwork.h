@@ -34,6 +34,8 @@ public:
     quint16 port() const;
     /// Names of the connected players.
     QStringList players() const;
+    /// Address of a connected player; empty when it is not connected.
+    QString addressOf(const QString& player) const;
 
     /// See ProjectExchange::start().
     bool exchange(const QString& player, ProjectExchange::Direction direction, const QString& project);
@@ -49,6 +51,7 @@ public:
     void seed(quint32 value) { m_chance.seed(value); }
 
     QString workDirectory() const override { return m_workDirectory; }
+    bool isDocument(const QString& text) const override;
     void connectionStarted(const QString& playerName) override;
     void connectionFinished(const QString& playerName) override;
     void projectReceived(const QString& project) override;

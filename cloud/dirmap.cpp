@@ -15,9 +15,12 @@
 
 namespace {
 
-std::nullopt_t refuse(const char* reason)
+std::nullopt_t refuse(const char* reason, QString* fault = nullptr)
 {
-    qCWarning(lcCloud) << "Directory map refused:" << reason;
+    if (fault)
+        *fault = QLatin1String(reason);
+    else
+        qCWarning(lcCloud) << "Directory map refused:" << reason;
     return std::nullopt;
 }
 
@@ -60,10 +63,10 @@ void Dirmap::append(const QString& path, qint32 revision)
     revisions.append(revision);
 }
 
-std::optional<Dirmap> parseDirmap(const QByteArray& text)
+std::optional<Dirmap> parseDirmap(const QByteArray& text, QString* fault)
 {
     if (text.size() > limits::dirmapBytes)
-        return refuse("too large");
+        return refuse("too large", fault);
     Dirmap map;
     int lines = 0;
     for (int start = 0; start < text.size(); ++lines) {
@@ -71,9 +74,9 @@ std::optional<Dirmap> parseDirmap(const QByteArray& text)
         if (end < 0)
             end = text.size();
         if (end - start > limits::dirmapLineBytes)
-            return refuse("a line is too long");
+            return refuse("a line is too long", fault);
         if (lines == limits::dirmapLines)
-            return refuse("too many lines");
+            return refuse("too many lines", fault);
         QString line = QString::fromUtf8(text.constData() + start, end - start);
         if (line.endsWith(QLatin1Char('\r')))
             line.chop(1);
@@ -118,6 +121,12 @@ DirmapChanges changesBetween(const Dirmap& from, const Dirmap& to)
             changes.gone.append(path);
     }
     return changes;
+}
+
+bool losesDocument(const Dirmap& from, const Dirmap& to)
+{
+    const QLatin1String document("main.qml");
+    return from.paths.contains(document) && !to.paths.contains(document);
 }
 
 QVariantMap toVariantMap(const Dirmap& map)

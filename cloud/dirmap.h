@@ -34,8 +34,8 @@ inline bool operator==(const Dirmap& a, const Dirmap& b)
 
 /// Reads a directory map's text, from a local file or a cloud object. Lines under two characters are skipped,
 /// a line without a space has an empty path, a revision that is no number is 0. Nothing when the text exceeds
-/// the bounds of limits.h; that is logged.
-std::optional<Dirmap> parseDirmap(const QByteArray& text);
+/// the bounds of limits.h: why goes to `fault`, or without it to the log.
+std::optional<Dirmap> parseDirmap(const QByteArray& text, QString* fault = nullptr);
 
 /// The text of a directory map. Nothing, with a line in the log, when a path has a line break in it or the
 /// text would exceed the bounds that parseDirmap() keeps.
@@ -52,6 +52,10 @@ struct DirmapChanges
 /// counts. Whoever gets a project compares what it has with what the other side has, whoever sends one the
 /// other way round.
 DirmapChanges changesBetween(const Dirmap& from, const Dirmap& to);
+
+/// Whether the map `to` takes away the project's document, main.qml, that `from` lists. Such a map is none: a
+/// login page of a network's, or what is left of one.
+bool losesDocument(const Dirmap& from, const Dirmap& to);
 
 /// Path to revision (int); of a path that occurs more than once the last revision counts.
 QVariantMap toVariantMap(const Dirmap& map);

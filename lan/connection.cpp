@@ -6,7 +6,7 @@
 #include "lan/host.h"
 #include "lan/limits.h"
 #include "lan/logging.h"
-#include "lan/peeraddress.h"
+#include "lan/peerlog.h"
 #include "lan/threadconnection.h"
 
 #include <array>
@@ -18,6 +18,8 @@
 #include <sys/socket.h>
 
 namespace {
+
+const QString unaskedText = QStringLiteral("nobody asked for it");
 
 void setTcpOption(qintptr socket, int option, int value)
 {
@@ -37,7 +39,7 @@ Connection::Connection(const QString& name, ThreadConnection* owner, QObject* pa
     : QTcpSocket(parent)
     , m_name(name)
     , m_owner(owner)
-    , m_baseDir(owner->host().workDirectory())
+    , m_baseDir(owner->host())
 {
     setReadBufferSize(limits::socketBufferBytes);
     connect(this, &QTcpSocket::connected, this, &Connection::whenConnected);
@@ -109,7 +111,7 @@ void Connection::whenLate()
 
 void Connection::whenConnectionError(QAbstractSocket::SocketError)
 {
-    if (!m_isConnected)
+    if (!m_isConnected && mayLog())
         qDebug() << this << "No conected";
     m_owner->quit();
 }
@@ -121,16 +123,23 @@ void Connection::whenDisconnected()
 
 void Connection::drop(const QString& reason)
 {
-    qCWarning(lcLan).noquote() << "Connection to" << m_owner->hostAddress().toString() << "closed:" << reason;
+    if (mayLog())
+        qCWarning(lcLan).noquote() << "Connection to" << m_owner->hostAddress().toString()
+                                   << "closed:" << reason;
+    m_owner->end(reason);
     abort();
-    m_owner->quit();
+}
+
+bool Connection::mayLog() const
+{
+    return m_owner->log().admits(m_owner->hostAddress());
 }
 
 void Connection::complain(const char* verb, const QString& path, const QString& fault)
 {
-    if (++m_complaints <= limits::complaintsAboutPeer)
-        qCWarning(lcLan) << qPrintable(m_owner->hostAddress().toString()) << verb << path << '-'
-                         << qPrintable(fault);
+    if (mayLog())
+        qCWarning(lcLan) << qPrintable(m_owner->hostAddress().toString()) << verb
+                         << path.left(limits::loggedPath) << '-' << qPrintable(fault);
 }
 
 // Something has moved.
@@ -152,7 +161,7 @@ void Connection::checkProgress()
     if (!isMoving && m_openRequests == 0)
         m_watch.stop();
     else if (m_stalledTicks * limits::stallTick >= (isMoving ? limits::stallTime : limits::answerTime))
-        drop(QStringLiteral("nothing has moved for a while"));
+        drop(QStringLiteral("it does not answer"));
 }
 
 bool Connection::isSomethingOnTheWay() const
@@ -203,7 +212,7 @@ void Connection::take(const Frame& frame)
         receive(frame);
         break;
     case Frame::Kind::Unknown:
-        if (++m_complaints <= limits::complaintsAboutPeer)
+        if (mayLog())
             qDebug() << m_name << "UNKNOW PROTOCOL";
         break;
     }
@@ -222,6 +231,8 @@ void Connection::answer(const QString& path)
     const QString fault = WorkFolder::faultForPeers(path);
     if (!fault.isEmpty())
         complain("asks for", path, fault);
+    else if (const QString project = WorkFolder::projectOfMap(path); !project.isEmpty())
+        m_pushedProject = project;
     enqueue({{Frame::Kind::File, answerTarget}, fault.isEmpty() ? path : QString()});
 }
 
@@ -244,7 +255,7 @@ void Connection::receive(const Frame& frame)
 std::unique_ptr<QTemporaryFile> Connection::fileForAnswer()
 {
     if (m_openRequests == 0)
-        complain("sends", m_targetPath, QStringLiteral("nobody asked for it"));
+        complain("sends", m_targetPath, unaskedText);
     return m_owner->wantsAnswer() ? m_baseDir.newFile() : nullptr;
 }
 
@@ -254,10 +265,18 @@ std::unique_ptr<QTemporaryFile> Connection::fileForPush()
         complain("sends", m_targetPath, fault);
         return nullptr;
     }
-    auto file = m_baseDir.newFile();
+    const bool isExpected = isPartOfPush(m_targetPath);
+    auto file = isExpected ? m_baseDir.newFile() : nullptr;
     if (!file)
-        m_missed.insert(m_targetPath);
+        loseIncoming(isExpected ? QStringLiteral("there is no place for it") : unaskedText);
     return file;
+}
+
+// Whoever sends a project asks for its map first; what is no project yet cannot suffer.
+bool Connection::isPartOfPush(const QString& path) const
+{
+    const QString project = path.section(QLatin1Char('/'), 0, 0);
+    return project == m_pushedProject || !m_baseDir.hasMap(project);
 }
 
 void Connection::readIncomingFile()
@@ -322,6 +341,7 @@ Outcome Connection::storeMap(QTemporaryFile& file, const QString& project)
         if (path.startsWith(prefix))
             missed.insert(path.mid(prefix.size()));
     }
+    m_pushedProject.clear();
     Outcome stored = m_baseDir.putMap(file, project, missed);
     if (stored)
         m_owner->host().projectReceived(project);

@@ -70,9 +70,11 @@ private:
     void checkProgress();
     bool isSomethingOnTheWay() const;
     void drop(const QString& reason);
+    bool mayLog() const;
     void complain(const char* verb, const QString& path, const QString& fault);
 
     void take(const Frame& frame);
+    bool isPartOfPush(const QString& path) const;
     void takeName(const QString& name);
     void answer(const QString& path);
     void receive(const Frame& frame);
@@ -100,6 +102,7 @@ private:
     std::unique_ptr<QTemporaryFile> m_incomingFile; // null while content is thrown away
     qint64 m_bytesToReceive = 0;
     bool m_receivingFile = false;
+    QString m_pushedProject;        // whose map the peer has asked for last, and not sent since
     bool m_isReadingPaused = false; // until fewer frames wait to be sent
     int m_openRequests = 0;         // that have no complete answer yet
     QSet<QString> m_missed;         // what the peer has sent and could not be kept
@@ -117,5 +120,4 @@ private:
     bool m_hasMoved = false;
     int m_unsentBytes = 0; // in the system's hands when last looked at
     int m_stalledTicks = 0;
-    int m_complaints = 0;
 };

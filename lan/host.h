@@ -14,6 +14,8 @@ public:
 
     /// Absolute path of the folder that holds all projects; always the same.
     virtual QString workDirectory() const = 0;
+    /// Whether `text` is a QML document, as far as its syntax tells.
+    virtual bool isDocument(const QString& text) const = 0;
     /// A connected player has said its name. There may be several connections to one player.
     virtual void connectionStarted(const QString& playerName) = 0;
     /// A connection has ended; the name is empty when the player had not said it.

@@ -53,8 +53,14 @@ constexpr qint64 socketBufferBytes = 256LL * 1024;
 constexpr int waitingFrames = 64;
 /// Time between two looks at the progress of an exchange.
 constexpr std::chrono::milliseconds exchangeProgressInterval{100};
-/// Lines in the log about what one peer sends or asks for.
-constexpr int complaintsAboutPeer = 100;
+/// A longer document is not looked at and counts as none.
+constexpr qint64 documentBytes = 4LL * 1024 * 1024;
+/// Lines in the log about one address in a period; characters of a path in such a line; addresses that are
+/// counted apart.
+constexpr int linesAboutPeer = 20;
+constexpr std::chrono::minutes logPeriod{1};
+constexpr int loggedPath = 200;
+constexpr int loggedAddresses = 256;
 /// Files of one peer that could not be kept, before its connection is closed.
 constexpr int missedFiles = 1000;
 

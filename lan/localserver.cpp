@@ -11,8 +11,6 @@
 #include "lan/threadconnection.h"
 #include "lan/workfolder.h"
 
-#include <QTimer>
-
 #include <algorithm>
 
 #include <sys/resource.h>
@@ -40,6 +38,9 @@ LocalServer::LocalServer(LanHost& host, const QString& playerName,
         qCWarning(lcLan) << "No players can connect:" << errorString();
     m_peerManager = new PeerManager(this, broadcastAddresses);
     m_peerManager->start();
+    m_logTimer.setInterval(limits::logPeriod);
+    connect(&m_logTimer, &QTimer::timeout, this, [this] { m_log.summarize(); });
+    m_logTimer.start();
 }
 
 LocalServer::~LocalServer()
@@ -81,7 +82,7 @@ void LocalServer::connectTo(const QHostAddress& address, quint16 port)
     if (int(m_connections.size()) >= limits::peers ||
         pendingConnections(false) >= limits::pendingConnections || hasConnectionTo(address, port))
         return;
-    auto* connection = new ThreadConnection(m_host, m_name, plainAddress(address), port);
+    auto* connection = new ThreadConnection(m_host, m_log, m_name, plainAddress(address), port);
     addNewConnection(connection);
     connection->start();
 }
@@ -118,7 +119,7 @@ void LocalServer::incomingConnection(qintptr socketDescriptor)
         ::close(int(socketDescriptor));
         return;
     }
-    auto* connection = new ThreadConnection(m_host, m_name, socketDescriptor);
+    auto* connection = new ThreadConnection(m_host, m_log, m_name, socketDescriptor);
     addNewConnection(connection);
     connection->start();
 }
@@ -132,9 +133,8 @@ bool LocalServer::mayAccept(qintptr socketDescriptor)
     const bool mayAccept = !isScarce(socketDescriptor) && int(m_connections.size()) < limits::peers &&
                            pendingConnections(true) < limits::pendingConnections &&
                            !hasPendingFrom(peerOf(socketDescriptor));
-    if (!mayAccept && !m_isRefusing)
-        qCWarning(lcLan) << "Too many connections: refusing those of" << peerOf(socketDescriptor).toString();
-    m_isRefusing = !mayAccept;
+    if (!mayAccept && m_log.admits(peerOf(socketDescriptor)))
+        qCWarning(lcLan) << "Too many connections: refusing one of" << peerOf(socketDescriptor).toString();
     return mayAccept;
 }
 

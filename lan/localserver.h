@@ -3,8 +3,10 @@
 
 #pragma once
 
-#include <QHostAddress>
+#include "lan/peerlog.h"
+
 #include <QTcpServer>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -60,6 +62,7 @@ private:
     LanHost& m_host;
     const QString m_name;
     PeerManager* m_peerManager;
+    PeerLog m_log;
+    QTimer m_logTimer;
     std::vector<std::shared_ptr<ThreadConnection>> m_connections; // in order of creation
-    bool m_isRefusing = false;
 };

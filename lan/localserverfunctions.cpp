@@ -6,6 +6,7 @@
 #include "cloud/limits.h"
 #include "lan/exchangedmap.h"
 #include "lan/host.h"
+#include "lan/limits.h"
 #include "lan/logging.h"
 #include "lan/threadconnection.h"
 
@@ -28,13 +29,16 @@ QString inProject(const QString& folder, const QString& file)
 Dirmap exchangeable(const QString& folder, const Dirmap& map)
 {
     Dirmap result;
+    QStringList refused;
     for (int i = 0; i < map.paths.size(); ++i) {
-        const QString fault = WorkFolder::faultForPeers(inProject(folder, map.paths[i]));
-        if (!fault.isEmpty())
-            qCWarning(lcLan) << "Not exchanged:" << map.paths[i] << qPrintable(fault);
+        if (!WorkFolder::faultForPeers(inProject(folder, map.paths[i])).isEmpty())
+            refused.append(map.paths[i]);
         else if (map.paths[i] != mapName)
             result.append(map.paths[i], map.revisions[i]);
     }
+    if (!refused.isEmpty())
+        qCWarning(lcLan) << "Not exchanged, no path of a file:" << refused.first().left(limits::loggedPath)
+                         << "and" << refused.size() - 1 << "more";
     return result;
 }
 
@@ -49,7 +53,7 @@ Outcome allMoved(int moved, int files)
 
 LocalServerFunctions::LocalServerFunctions(ThreadConnection& connection)
     : m_connection(connection)
-    , m_work(connection.host().workDirectory())
+    , m_work(connection.host())
     , m_bytesBefore(connection.contentBytes())
 {
 }

@@ -81,6 +81,7 @@ bool ProjectExchange::refuse(const QString& outcome)
     m_outcome = outcome;
     qCWarning(lcLan).noquote() << outcome;
     emit changed();
+    emit finished();
     return false;
 }
 

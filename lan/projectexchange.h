@@ -59,7 +59,7 @@ public:
 signals:
     /// Anything above has changed; while an exchange is running, ten times a second.
     void changed();
-    /// An exchange has ended.
+    /// An exchange has ended, or was not begun for the reason in outcome().
     void finished();
 
 private:

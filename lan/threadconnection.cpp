@@ -14,33 +14,24 @@ namespace {
 
 const QString endedText = QStringLiteral("the connection has ended");
 
-// Puts an answer in its place.
-Outcome place(const WorkFolder& folder, QTemporaryFile* answer, const QString& path)
-{
-    if (!answer)
-        return Outcome::failure(QStringLiteral("not received"));
-    QFile old;
-    if (answer->size() == 0 && folder.openForReading(path, old) && old.size() > 0)
-        return Outcome::failure(QStringLiteral("came empty"));
-    return folder.put(*answer, path);
-}
-
 } // namespace
 
-ThreadConnection::ThreadConnection(LanHost& host, const QString& name, qintptr socketDescriptor,
+ThreadConnection::ThreadConnection(LanHost& host, PeerLog& log, const QString& name, qintptr socketDescriptor,
                                    QObject* parent)
     : QThread(parent)
     , m_host(host)
+    , m_log(log)
     , m_name(name)
     , m_hostAddress(peerOf(socketDescriptor))
     , m_socketDescriptor(socketDescriptor)
 {
 }
 
-ThreadConnection::ThreadConnection(LanHost& host, const QString& name, const QHostAddress& address,
-                                   quint16 port, QObject* parent)
+ThreadConnection::ThreadConnection(LanHost& host, PeerLog& log, const QString& name,
+                                   const QHostAddress& address, quint16 port, QObject* parent)
     : QThread(parent)
     , m_host(host)
+    , m_log(log)
     , m_name(name)
     , m_hostAddress(address)
     , m_port(port)
@@ -72,6 +63,13 @@ void ThreadConnection::setPeerName(const QString& name)
         m_peerName = name;
     }
     m_host.connectionStarted(name);
+}
+
+void ThreadConnection::end(const QString& reason)
+{
+    if (m_endReason.isEmpty())
+        m_endReason = reason;
+    quit();
 }
 
 Outcome ThreadConnection::sendFilesAndWait(const std::shared_ptr<FileBatch>& batch)
@@ -110,8 +108,10 @@ std::optional<FileBatch::File> ThreadConnection::fileReceived(const WorkFolder& 
         const std::lock_guard lock(m_mutex);
         batch = m_getting.front();
     }
-    const Outcome outcome =
-        batch->hasEnded() ? Outcome::success() : place(folder, file, batch->current().localPath);
+    Outcome outcome = Outcome::success(); // of what nobody waits for any more
+    if (!batch->hasEnded())
+        outcome = file ? folder.put(*file, batch->current().localPath)
+                       : Outcome::failure(QStringLiteral("not received"));
     return finishFirst(m_getting, outcome);
 }
 
@@ -158,6 +158,6 @@ void ThreadConnection::endBatches()
     m_ended = true;
     for (const Batches* batches : {&m_sending, &m_getting}) {
         for (const std::shared_ptr<FileBatch>& batch : *batches)
-            batch->end(endedText);
+            batch->end(m_endReason.isEmpty() ? endedText : m_endReason);
     }
 }

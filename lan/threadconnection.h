@@ -14,6 +14,7 @@
 #include <memory>
 
 class LanHost;
+class PeerLog;
 class WorkFolder;
 
 /// The thread of one connection to another player, and the way to it from other threads, which wait here for
@@ -25,11 +26,12 @@ class ThreadConnection : public QThread
     Q_OBJECT
 
 public:
-    /// For a socket that was accepted; `name` is the own player name.
-    ThreadConnection(LanHost& host, const QString& name, qintptr socketDescriptor, QObject* parent = nullptr);
-    /// For a connection to be opened.
-    ThreadConnection(LanHost& host, const QString& name, const QHostAddress& address, quint16 port,
+    /// For a socket that was accepted; `name` is the own player name. `host` and `log` outlive this object.
+    ThreadConnection(LanHost& host, PeerLog& log, const QString& name, qintptr socketDescriptor,
                      QObject* parent = nullptr);
+    /// For a connection to be opened.
+    ThreadConnection(LanHost& host, PeerLog& log, const QString& name, const QHostAddress& address,
+                     quint16 port, QObject* parent = nullptr);
     /// Ends the connection.
     ~ThreadConnection() override;
 
@@ -38,6 +40,7 @@ public:
     QHostAddress hostAddress() const { return m_hostAddress; }
     bool isIncoming() const { return m_socketDescriptor >= 0; }
     LanHost& host() const { return m_host; }
+    PeerLog& log() const { return m_log; }
     /// The peer's player name; empty until it has said it.
     QString peerName() const;
     /// Whether the connection goes on without the peer having said its name.
@@ -58,6 +61,8 @@ public:
     // --- the connection's thread --------------------------------------------------------------------------
 
     void setPeerName(const QString& name);
+    /// Ends the connection and, for `reason`, what is waited for; only the first reason counts.
+    void end(const QString& reason);
     void countContent(qint64 bytes) { m_contentBytes += bytes; }
     /// The file that was sent first of those on the way is out, or was not sent, for the reason in `outcome`.
     /// The next one to send.
@@ -84,11 +89,13 @@ private:
     void endBatches();
 
     LanHost& m_host;
+    PeerLog& m_log;
     const QString m_name;
     const QHostAddress m_hostAddress;
     const quint16 m_port = 0;
     const qintptr m_socketDescriptor = -1;
     std::atomic<qint64> m_contentBytes{0};
+    QString m_endReason; // the connection's thread
 
     mutable std::mutex m_mutex; // guards everything below
     QString m_peerName;

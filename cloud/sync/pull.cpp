@@ -93,10 +93,9 @@ void Pull::tell() const
         qCWarning(lcCloud) << "Not possible as files of a project:" << m_plan.refused;
 }
 
-// A map that takes the document itself away is none: a login page of a network's, or what is left of one.
 bool Pull::wouldEmpty() const
 {
-    const bool empties = m_plan.remove.contains(QLatin1String("main.qml"));
+    const bool empties = losesDocument(m_local, m_plan.local);
     if (empties)
         qCWarning(lcCloud) << "Not pulled, its map lists no main.qml:" << m_project.cloudPath;
     return empties;

@@ -7,7 +7,6 @@ import Nuvex.Native 1.1
 import "SharedVars.js" as SS
 import "private"
 import "private/dashboard"
-import "private/dashboard/players.js" as Players
 
 /// The players of the account, what they show and when they were last heard of; and those of the local network.
 FormPage {
@@ -15,6 +14,8 @@ FormPage {
 
     readonly property string user: CAPI.getSSetting("userEmail")
     readonly property bool hasAccount: user !== "" && Deployment.available
+    // There the tools go away with the tiles when these are moved.
+    readonly property bool isLow: height < 75 * BGUI.Theme.unit
     // The player that something is being done with.
     property string player
     // Names of the account's projects; asked for once there is a use for them, and again while there are none.
@@ -41,7 +42,7 @@ FormPage {
 
     function askToDelete(key) {
         player = key;
-        question.title = qsTr("Delete %1?").arg(Players.nameOf(key));
+        question.title = qsTr("Delete %1?").arg(players.nameOf(key));
         question.open();
     }
 
@@ -57,7 +58,7 @@ FormPage {
     }
 
     function finishDelete(success) {
-        const name = Players.nameOf(player);
+        const name = players.nameOf(player);
         finishRequest();
         if (success) {
             players.remove(player);
@@ -81,7 +82,7 @@ FormPage {
     }
 
     function openChooser() {
-        chooser.title = qsTr("What is %1 to show?").arg(Players.nameOf(player));
+        chooser.title = qsTr("What is %1 to show?").arg(players.nameOf(player));
         chooser.open();
     }
 
@@ -91,7 +92,7 @@ FormPage {
     }
 
     function finishSetProject(success, result) {
-        const name = Players.nameOf(player);
+        const name = players.nameOf(player);
         finishRequest();
         if (success) {
             players.setProject(player, result.project);
@@ -133,27 +134,41 @@ FormPage {
         user: root.user
         active: root.active && root.hasAccount
         onAnswered: root.takeFirstAnswer()
+        onSwitched: screenshots.expect(player, project)
+    }
+
+    ScreenshotWatch {
+        id: screenshots
+        players: players
+        active: root.active
     }
 
     DashboardTools {
         id: tools
         x: 2 * BGUI.Theme.unit
-        y: 2 * BGUI.Theme.unit
+        y: 2 * BGUI.Theme.unit - (root.isLow ? grid.contentY - grid.originY : 0)
+        z: 1
         width: parent.width - 4 * BGUI.Theme.unit
         visible: players.count > 0
         players: players
+        onActiveFocusChanged: {
+            if (activeFocus)
+                grid.positionViewAtBeginning();
+        }
     }
 
     PlayerGrid {
         id: grid
         x: 2 * BGUI.Theme.unit
-        anchors.top: tools.bottom
-        anchors.topMargin: 2 * BGUI.Theme.unit
+        anchors.top: parent.top
+        anchors.topMargin: root.isLow ? 0 : tools.height + 4 * BGUI.Theme.unit
         anchors.bottom: local.top
         width: parent.width - x - BGUI.Theme.unit
+        headRoom: root.isLow ? tools.height + 4 * BGUI.Theme.unit : 0
         focus: true
         visible: players.count > 0
         players: players
+        screenshots: screenshots
         tileSize: tools.tileSize
         onChosen: root.chooseProject(player)
         onDeleteRequested: root.askToDelete(player)

@@ -189,6 +189,12 @@ class Program:
         return [item["text"] or item["tip"] or item["icon"] or item["name"] for item in self.items()
                 if item["clickable"] and item["enabled"]]
 
+    def local_port(self):
+        """Where players of the local network connect to."""
+        lines = subprocess.run(["ss", "-Hltnp"], capture_output=True, text=True, check=True).stdout.splitlines()
+        ports = [line.split()[3].rsplit(":", 1)[1] for line in lines if f"pid={self.process.pid}," in line]
+        return int(ports[0]) if ports else None
+
     def log(self):
         return self.log_file.read_text("utf-8", "replace")
 

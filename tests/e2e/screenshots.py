@@ -3,17 +3,23 @@
 # SPDX-License-Identifier: MIT
 """Takes one picture a page, demo and size of the real program for docs/screenshots.
 
-Further arguments name what is taken: pages, gallery, or demos by their folders; without any it is all.
+Further arguments name what is taken: pages, dashboard, gallery, or demos by their folders; without any it is all.
 """
 import os
 import shutil
 import subprocess
+import sys
 import time
+from contextlib import ExitStack
 from pathlib import Path
 
-from driver import Profile, Program, Screen, read_setup
-
 ROOT = Path(__file__).resolve().parents[2]
+sys.path[1:1] = [str(ROOT / "tests" / folder) for folder in ("lan", "localcloud")]
+# pylint: disable=wrong-import-position
+from cloud import Cloud
+from driver import Profile, Program, Screen, read_setup, wait_for
+from peer import Peer
+
 PICTURES = ROOT / "docs/screenshots"
 SIZES = ["1280x720", "1920x1080", "1080x1920"]
 SETTLE = 1.0  # seconds for movements to end
@@ -45,8 +51,7 @@ def steps_of_the_pages(program):
         take(program, name)
         program.key("Escape")
         program.wait_page("MainPage")
-    for label, page, name in [("Open", "ProjectsPage", "projects"), ("Edit", "RADEditorPage", "editor"),
-                              ("Dashboard", "ConnectedPlayers", "dashboard")]:
+    for label, page, name in [("Open", "ProjectsPage", "projects"), ("Edit", "RADEditorPage", "editor")]:
         program.click(label)
         program.wait_page(page)
         take(program, name)
@@ -76,6 +81,40 @@ def steps_of_the_gallery(program):
         take(program, "gallery-" + chapter.lower().replace(" ", "-"), "jpg", 8)
 
 
+def players(count):
+    """An account's players: the demos on screens of a shop, two of them on one host, every seventh silent."""
+    demos = sorted(folder.parent.name for folder in (ROOT / "demos").glob("*/main.qml"))
+    places = ["Entrance", "Bakery", "Counter", "Window left", "Window right", "Lift", "Parking", "Lounge"]
+    now = int(time.time() * 1000)
+    return {f"{places[i % 8]}{' ' + str(i // 8 + 1) if i > 8 else ''}_{1764000000000 + i * 7919}": {
+        "heartbeat": now - (86_400_000 if i % 7 == 2 else 1000 * i), "project": demos[i % len(demos)]}
+            for i in range(count)}
+
+
+def steps_of_the_dashboard(program, count):
+    program.wait_page("ConnectedPlayers")
+    with ExitStack() as stack:
+        for i in range(min(count, 2)):
+            port = wait_for(program.local_port, "the local server")
+            stack.enter_context(Peer.connect(port, f"Player_{1804289383 + i * 36527}", f"127.0.0.{1 + i}"))
+        take(program, f"dashboard-{count}", "jpg" if count else "png", 4)
+
+
+def run_dashboard(setup, screen, settings):
+    for count in (0, 3, 60):
+        cloud = Cloud(setup.localcloud)
+        try:
+            cloud.database("PUT", "/Users/ada@exampleorg/Players", players(count))
+            for player, entry in players(count).items():
+                shown = PICTURES / f"{entry['project'].lower().replace(' ', '-')}-1280x720.jpg"
+                picture = subprocess.run(["convert", shown, "-resize", "300", "-"], capture_output=True, check=True)
+                cloud.put(f"NUVEX/users/ada@example.org/screenshots/{player}.jpg", picture.stdout)
+            run(setup, screen, lambda program: steps_of_the_dashboard(program, count),
+                {**settings, "doOnStart": "dashboard"}, "--deployment", str(cloud.folder / "deployment.json"))
+        finally:
+            cloud.stop()
+
+
 def run(setup, screen, steps, settings, *arguments):
     profile = Profile()
     try:
@@ -100,7 +139,7 @@ def main():
     # Boards that go by the clock are taken at nine in the morning.
     os.environ["TZ"] = f"DAY{time.gmtime().tm_hour - 9}"
     demos = [demo.parent for demo in sorted((ROOT / "demos").glob("*/main.qml"))]
-    wanted = wanted or ["pages", "gallery", *[demo.name for demo in demos]]
+    wanted = wanted or ["pages", "dashboard", "gallery", *[demo.name for demo in demos]]
     for size in SIZES:
         screen = Screen(size)
         try:
@@ -108,6 +147,8 @@ def main():
                 run(setup, screen, steps_of_a_first_start, None)
                 run(setup, screen, steps_of_the_pages, signed_in)
                 run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
+            if "dashboard" in wanted:
+                run_dashboard(setup, screen, signed_in)
             if "gallery" in wanted:
                 run(setup, screen, steps_of_the_gallery, signed_in, "--gallery")
             for demo in demos:

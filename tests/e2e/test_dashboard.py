@@ -3,6 +3,7 @@
 # SPDX-License-Identifier: MIT
 """The dashboard of the real program, with the cloud on this machine and players of a local network of its own."""
 import argparse
+import signal
 import subprocess
 import sys
 import time
@@ -19,6 +20,7 @@ from players import Player, isolate, write_project
 ACCOUNT = {"userEmail": "a.b@example.org", "playerUID": "zone_1", "shareFolder": "false", "doOnStart": "dashboard",
            "lastProject": "Shop"}
 PLAYERS = "/Users/ab@exampleorg/Players"
+SMALL = [0, 0, 640, 360]
 PICTURE = ["convert", "-size", "300x170", "xc:#2040c0", "jpg:-"]
 
 
@@ -31,8 +33,8 @@ def link_up():
 def three_players():
     now = int(time.time() * 1000)
     return {"lobby_10": {"heartbeat": now - 5_000, "project": "Board"},
-            "hall 10_11": {"heartbeat": now - 170_000, "project": "A project with a name far too long for a tile"},
-            "hall 9_12": {"heartbeat": now - 7_200_000}}
+            "hall_1764000360417": {"heartbeat": now - 170_000, "project": "A project with a name too long for a tile"},
+            "hall_1764000000417": {"heartbeat": now - 7_200_000}}
 
 
 def inside(inner, outer):
@@ -59,9 +61,9 @@ class DashboardTest(ProgramTest):
     def named(self, program, name):
         return [item for item in program.items() if item["name"] == name]
 
-    def color_at(self, program, item):
+    def color_at(self, program, item, across=0.5):
         x, y, width, height = item["rect"]
-        place = f"1x1+{round(x + width / 2)}+{round(y + height / 2)}"
+        place = f"1x1+{round(x + width * across)}+{round(y + height / 2)}"
         grab = subprocess.run(["import", "-display", program.screen.name, "-window", "root", "-crop", place, "-depth",
                                "8", "rgb:-"], capture_output=True, check=True)
         return tuple(grab.stdout[:3])
@@ -76,7 +78,8 @@ class DashboardTest(ProgramTest):
             with self.subTest(size), self.open(screen) as program:
                 program.wait_text("lobby")
                 self.assertEqual([tile["text"] for tile in self.named(program, "playerTile")][:3],
-                                 ["hall 9", "hall 10", "lobby"])
+                                 ["Player 00417", "Player 60417", "lobby"])
+                self.assertEqual([host["text"] for host in self.named(program, "playerHost")], ["hall", "hall"])
                 self.assertEqual([age["text"] for age in self.named(program, "age")][:2], ["2h", "3m"])
                 dots = [self.color_at(program, dot) for dot in self.named(program, "liveDot")[:3]]
                 self.assertEqual(dots, [(255, 0, 0), (0x2D, 0xB6, 0x51), (0x2D, 0xB6, 0x51)])
@@ -88,11 +91,12 @@ class DashboardTest(ProgramTest):
     def check_geometry(self, program, screen):
         tiles = self.named(program, "playerTile")
         local = self.named(program, "localPlayers")[0]["rect"]
+        self.assertTrue(inside(local, screen))
         for item in program.items():
             self.assertTrue(inside(item["rect"], screen), item)
         for tile in tiles:
             self.assertLessEqual(tile["rect"][1] + tile["rect"][3], local[1])
-        for label in ("playerName", "playerProject", "age", "liveDot"):
+        for label in ("playerName", "playerHost", "playerProject", "age", "liveDot"):
             for part, tile in zip(self.named(program, label), tiles):
                 self.assertTrue(inside(part["rect"], tile["rect"]), part)
 
@@ -108,22 +112,41 @@ class DashboardTest(ProgramTest):
         program.wait_text("success")
         self.assertEqual(self.cloud.database("GET", PLAYERS + "/lobby_10/project").body, "Menu Board")
         program.key("Left", "Delete")
-        program.wait_text("Delete hall 10?")
+        program.wait_text("Delete Player 60417 of hall?")
         program.key("Return")
-        wait_for(lambda: not program.find("Delete hall 10?"), "the question to go")
+        wait_for(lambda: not program.find("Delete Player 60417 of hall?"), "the question to go")
         self.assertEqual(len(self.cloud.database("GET", PLAYERS).body), 4)  # and this one
         program.key("Delete")
         program.click("Delete")
-        wait_for(lambda: not program.find("hall 10"), "the tile to go")
-        self.assertNotIn("hall 10_11", self.cloud.database("GET", PLAYERS).body)
+        wait_for(lambda: not program.find("Player 60417"), "the tile to go")
+        self.assertNotIn("hall_1764000360417", self.cloud.database("GET", PLAYERS).body)
         self.cloud.faults({"method": "DELETE", "status": 500})
-        program.click("Delete hall 9")
+        program.click("Delete hall")  # which is the only one of that name now
         program.click("Delete")
         program.wait_text("error")
-        self.assertIn("hall 9", program.texts())
+        self.assertIn("hall", program.texts())
         program.click("playerFilter")
         program.type("board lob")
         wait_for(lambda: [tile["text"] for tile in self.named(program, "playerTile")] == ["lobby"], "the filter")
+
+    def test_picture_follows_the_project(self):
+        """Assigns the project that this program has to itself: it is asked for a screenshot and sends one."""
+        self.cloud.database("PUT", PLAYERS, {"zone_1": {"heartbeat": int(time.time() * 1000), "project": "Board"}})
+        self.cloud.put("NUVEX/users/a.b@example.org/ShareFolder/Shop/dirmap", b"main.qml 1\n")
+        picture = subprocess.run(PICTURE, capture_output=True, check=True).stdout
+        place = "NUVEX/users/a.b@example.org/screenshots/zone_1.jpg"
+        self.cloud.put(place, picture)
+        program = self.open()
+        program.wait_text("zone")
+        self.assertFalse(self.named(program, "oldPicture"))
+        program.click("zone")
+        program.wait_text("Shop")
+        program.key("Return")
+        wait_for(lambda: self.named(program, "oldPicture"), "the mark")
+        wait_for(lambda: not self.named(program, "oldPicture"), "the new picture")
+        shot = wait_for(lambda: self.named(program, "screenshot"), "the screenshot")[0]
+        self.assertNotEqual(self.cloud.get(place).body, picture)
+        self.assertFalse(all(abs(a - b) < 9 for a, b in zip(self.color_at(program, shot), (0x20, 0x40, 0xC0))))
 
     def test_states(self):
         program = self.open()
@@ -148,34 +171,96 @@ class DashboardTest(ProgramTest):
         program.click("Sign in")
         program.wait_page("LoginPage")
 
-    def port_of(self, program):
-        lines = subprocess.run(["ss", "-Hltnp"], capture_output=True, text=True, check=True).stdout.splitlines()
-        return next((int(line.split()[3].rsplit(":", 1)[1]) for line in lines if f"pid={program.process.pid}," in line),
-                    None)
+    def kiosk(self, program):
+        """A player in a process of its own, with the same project, that has connected to the program."""
+        files = {"main.qml": b"import QtQuick 2.15\nItem {}\n", "text": b"from here"}
+        kiosk = self.enterContext(Player("Kiosk_7"))
+        for work in (self.profile.work, kiosk.work):
+            write_project(work / "Shop", files)
+        kiosk.say(f"connect 127.0.0.1 {wait_for(program.local_port, 'the local server')}")
+        program.wait_text("Kiosk 7")
+        program.wait_text("127.0.0.1")
+        return kiosk
+
+    def outcome(self, program, part):
+        wait_for(lambda: any(part in item["text"] for item in self.named(program, "exchangeOutcome")),
+                 lambda: f"'{part}' in {program.texts()}")
 
     def test_local_players(self):
-        shop = self.profile.add_project("Shop")
-        write_project(shop, {"main.qml": b"import QtQuick 2.15\nItem {}\n", "text": b"from here"})
         program = self.open()
-        port = wait_for(lambda: self.port_of(program), "the local server")
-        with Player("Kiosk_7") as kiosk:
-            write_project(kiosk.work / "Menu", {"text": b"from there"})
-            kiosk.say(f"connect 127.0.0.1 {port}")
-            program.wait_text("Kiosk")
-            with Peer.connect(port, "Kiosk_7", "127.0.0.2"):
-                time.sleep(0.5)
-                self.assertEqual(len(self.named(program, "localPlayer")), 1)
-            program.click("Send")
-            program.wait_text("Send which project")
-            program.key("Return")
-            wait_for(lambda: self.named(program, "exchangeOutcome"), "the outcome")
-            self.assertEqual((kiosk.work / "Shop/text").read_bytes(), b"from here")
-            program.click("Fetch")
-            program.wait_text("Fetch which project")
-            program.type("Menu")
-            program.key("Down", "Return")
-            wait_for(lambda: (self.profile.work / "Menu/text").exists(), "the project")
+        kiosk = self.kiosk(program)
+        write_project(kiosk.work / "Menu", {"text": b"from there"})
+        (kiosk.work / "Shop/dirmap").unlink()
+        with Peer.connect(program.local_port(), "Kiosk_7", "127.0.0.2"):
+            time.sleep(0.5)
+            self.assertEqual(len(self.named(program, "localPlayer")), 1)
+        program.click("Send")
+        program.wait_text("Send which project")
+        program.key("Return")
+        self.outcome(program, "2 files sent to Kiosk_7.")
+        program.click("Fetch")
+        program.wait_text("Fetch which project")
+        program.type("Menu")
+        program.key("Down", "Return")
+        self.outcome(program, "One file fetched from Kiosk_7.")
+        self.assertEqual((self.profile.work / "Menu/text").read_bytes(), b"from there")
+        kiosk.quit()
         wait_for(lambda: not self.named(program, "localPlayer"), "the player to go")
+
+    def test_connect_by_keyboard_on_a_small_screen(self):
+        """Connects to players that do not answer, that do, and that leave."""
+        program = self.open(self.small_screen())
+        kiosk = self.kiosk(program)
+        kiosk.process.send_signal(signal.SIGSTOP)
+        program.tab_to("Connect")
+        program.key("Return")
+        program.wait_text("no answer yet")
+        wait_for(lambda: program.find("Cancel")["focus"], "the keyboard to be where one can cancel")
+        self.check_geometry(program, SMALL)
+        program.key("Return")
+        self.outcome(program, ": cancelled.")
+        kiosk.process.send_signal(signal.SIGCONT)
+        program.tab_to("Connect")
+        program.key("Return")
+        self.outcome(program, "Kiosk_7 and this player have the same files.")
+        kiosk.quit()
+        with Peer.connect(program.local_port(), "Shut_8") as leaving:
+            program.wait_text("Shut 8")
+            program.tab_to("Connect")
+            program.key("Return")
+            while leaving.read()[0] != b"GFILE":
+                pass
+        self.outcome(program, ": the connection has ended.")
+
+    def small_screen(self):
+        screen = Screen("x".join(map(str, SMALL[2:])))
+        self.addCleanup(screen.close)
+        return screen
+
+    def test_keyboard_reaches_everything_on_a_small_screen(self):
+        self.cloud.database("PUT", PLAYERS, three_players())
+        program = self.open(self.small_screen())
+        program.wait_text("lobby")
+        self.kiosk(program)
+        reached = set()
+        for _ in range(14):
+            program.key("Tab")
+            time.sleep(0.3)
+            for item in [item for item in program.items() if item["focus"]]:
+                bottom = self.named(program, "localPlayers")[0]["rect"]
+                room = [0, 0, SMALL[2], bottom[1]] if item["name"] == "playerTile" else SMALL
+                self.assertTrue(inside(item["rect"], room), item)
+                reached.add(item["name"] or item["text"] or item["tip"])
+        self.assertGreaterEqual(reached, {"Back", "Read the players again", "playerFilter", "playerOrder", "tileSize",
+                                          "playerTile", "Send", "Fetch", "Connect"})
+        program.click("playerFilter")
+        program.tab_to("playerTile")
+        program.key("Right")
+        time.sleep(0.5)
+        tiles = self.named(program, "playerTile")
+        self.assertEqual([tile["text"] for tile in tiles if tile["focus"]], ["Player 60417"])
+        frames = {self.color_at(program, tile, 0.007): tile["focus"] for tile in tiles[:3]}
+        self.assertEqual(len(frames), 2, "the frame does not show where one is")
 
 
 def main():

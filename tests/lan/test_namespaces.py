@@ -93,7 +93,7 @@ class AtOneBridge(unittest.TestCase):
                 ip("link", "set", "cable2", "down")
                 began = time.monotonic()
                 note("the cable of B is pulled")
-                self.assertEqual(asker.ended(30)[1].split(": ")[1], "the connection has ended.")
+                self.assertRegex(asker.ended(30)[1], ": (it does not answer|the connection has ended)")
                 a.wait("finished B", 30)
                 note(f"A has noticed after {time.monotonic() - began:.1f} s")
                 b.wait("finished A", 30)

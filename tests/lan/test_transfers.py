@@ -10,6 +10,7 @@ import os
 import random
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -66,6 +67,7 @@ class Transfers(unittest.TestCase):
                 self.assertEqual(other.ask("Shop/" + path), content)
             self.assertEqual(other.name, "A")
             self.assertEqual(other.heard[0], ("SNAME", "A"))
+            other.ask("Shop/dirmap")
             for path, content in NEW.items():
                 other.push("Shop/" + path, content)
             other.send(peer.request("Shop/chunk") * 300)  # more than it keeps waiting
@@ -175,7 +177,7 @@ class Transfers(unittest.TestCase):
     def test_cut_at_every_byte(self):
         player, old = self.start("A"), {"f": b"old", "dirmap": b"f 1\n"}
         write_project(player.work / "Shop", {"f": b"old"})
-        stream = peer.name_frame("P") + peer.sent_file("Shop/f", b"new content") + peer.request("Shop/f")
+        stream = peer.name_frame("P") + peer.request("Shop/dirmap") + peer.sent_file("Shop/f", b"new content")
         stream += peer.sent_file("Shop/dirmap", b"f 2\n")
         for count in range(0, len(stream), 1 if THOROUGH else 5):
             with Peer.connect(player.port, None) as other:
@@ -199,19 +201,84 @@ class Transfers(unittest.TestCase):
         (player.work / "file").symlink_to(outside / "secret")
         hostile = ["", "..", "../x", "a/../../x", "/etc/hostname", "a//b", "./a", "a\\b", "a\nb", "a/", "c:x", "out/secret",
                    "out/new", "p" * 256, "a/" * 64 + "a", ".incoming/x", ".incoming"]
-        with Peer.connect(player.port, source="127.0.0.9") as other:
+        with Peer.connect(player.port) as other:
             for path in [*hostile, "file"]:
                 self.assertEqual(other.ask(path), b"", path)
+        with Peer.connect(player.port, source="127.0.0.9") as other:
+            other.push("GFILE", b"nobody asked for this")
             for path in hostile:
                 other.push(path, b"bad")
             other.push("file", b"good")
-            other.push("GFILE", b"nobody asked for this")
             self.assertEqual(other.ask("file"), b"good")
         self.assertEqual(contents(outside), {"secret": b"secret"})
         self.assertEqual({path.name for path in player.work.iterdir()}, {"out", "file", ".incoming"})
         self.assert_nothing_half_received(player)
         for path in ("../x", "out/new", "GFILE"):
             self.assertIn(f'127.0.0.9 sends "{path}"', player.log())
+
+    def test_what_is_there_stays(self):
+        """Unasked, emptied and broken files replace nothing, whichever way they come; the next exchange brings them."""
+        good = {"main.qml": b"import QtQuick 2.15\nItem {}\n", "f": b"old"}
+        better = {"main.qml": good["main.qml"] + b"// new", "f": b"new"}
+        bad = {"main.qml": [b"", b"\0\xff{", b"Item {", b"\n", good["main.qml"] + b" " * (4 << 20)], "f": [b""],
+               "dirmap": [b"", b"<html> 1\n", b"f 7\n", b"main.qml 7\n" + b"x" * 4097, b"main.qml 1\n" * 200_001]}
+        player = self.start("A")
+        shop = player.work / "Shop"
+        def check(files, revision):
+            self.assertEqual(contents(shop), files | {"dirmap": f"main.qml {revision}\nf {revision}\n".encode()})
+        write_project(shop, good)
+        with Peer.connect(player.port, source="127.0.0.8") as other:
+            for asked in (False, True):
+                for path, content in [(path, content) for path in bad for content in bad[path]]:
+                    if asked:
+                        other.ask("Shop/dirmap")
+                    other.push("Shop/" + path, content)
+            other.push("Shop/dirmap", b"main.qml 1\nf 1\n")  # after a map nothing is sent any more
+            for path, content in better.items():
+                other.push("Shop/" + path, content)
+            other.push("New/f", b"1")
+            self.assertEqual(other.ask("New/f"), b"1")
+            check(good, 1)
+            # A push of which half is refused: the map says so.
+            other.ask("Shop/dirmap")
+            other.push("Shop/main.qml", b"Item {")
+            other.push("Shop/f", b"new")
+            other.push("Shop/dirmap", b"main.qml 2\nf 2\n")
+            player.wait("received Shop")
+            self.assertEqual(contents(shop), good | {"f": b"new", "dirmap": b"main.qml 1\nf 2\n"})
+        b = self.start("B")
+        write_project(b.work / "Shop", {"main.qml": b"Item {", "f": b""}, {"main.qml": 3, "f": 3})
+        player.meet(b)
+        self.assertEqual(player.exchange("fetch", "B"), (False, "Not all came from B: 2 of 2 files could not be kept."))
+        self.assertEqual(contents(shop), good | {"f": b"new", "dirmap": b"main.qml 1\nf 2\n"})
+        write_project(b.work / "Shop", better, {"main.qml": 3, "f": 3})
+        self.assertTrue(b.exchange("send", "A")[0])
+        check(better, 3)
+        self.assert_nothing_half_received(player)
+
+    def test_the_log_stays_short(self):
+        player = self.start("A")
+        for _ in range(100):
+            with Peer.connect(player.port, "Bad", "127.0.0.9") as other:
+                other.send(peer.request("../" + "x" * 20_000) * 9 + b"GET / HTTP/1.1\r\n\r\n")
+                with self.assertRaises((EOFError, ConnectionError)):
+                    while other.read():
+                        pass
+            player.wait("finished Bad")
+        with socket.create_server(("127.0.0.1", 0)) as closed:
+            port = closed.getsockname()[1]
+        for _ in range(300):
+            player.say(f"connect 127.0.0.2 {port}")
+            player.wait("finished")
+        with Peer.connect(player.port, "Bad", "127.0.0.7") as other:
+            self.assertEqual(other.ask("../y"), b"")
+        self.assertEqual(player.quit(), 0)
+        log = player.log()
+        self.assertLess(len(log), 20_000)
+        self.assertIn('127.0.0.7 asks for "../y"', log)
+        self.assertEqual(log.count("No conected"), 20)
+        self.assertIn("127.0.0.2 - 280 lines left out", log)
+        self.assertIn("127.0.0.9 - 980 lines left out", log)
 
     def test_what_is_no_protocol_ends_that_connection_only(self):
         player = self.start("A")
@@ -338,6 +405,7 @@ class Transfers(unittest.TestCase):
         player = self.start("A", work)
         write_project(work / "Shop", {"f": b"old", "folder/f": b"old"})
         with Peer.connect(player.port) as other:
+            other.ask("Shop/dirmap")
             other.send(peer.file_frame("Shop/f", 10_000_000) + bytes(1_000_000))
             wait_for(lambda: shutil.disk_usage(work).used > 900_000, "its beginning")
             with (work / "filling").open("wb") as filling, self.assertRaises(OSError):
@@ -383,6 +451,7 @@ class Transfers(unittest.TestCase):
             tracer.stderr.readline()  # attached
             with Peer.connect(player.port) as other:
                 try:
+                    other.ask("Shop/dirmap")
                     for path, content in (NEW | {"folder/new": b"new"}).items():
                         other.push("Shop/" + path, content)
                     other.push("Shop/dirmap", b"one 2\n")

@@ -22,6 +22,8 @@ private slots:
     void answers();
     void ages_data();
     void ages();
+    void labels_data();
+    void labels();
     void arranged_data();
     void arranged();
     void clockHoldsWhileTheTimerHurries();
@@ -99,6 +101,30 @@ void TestDashboard::ages()
     const QString heard = QString("1e12 - %1, 1e12").arg(seconds * 1000, 0, 'f', 0);
     QTEST(run("Players.age(" + heard + ")").remove('\''), "age");
     QTEST(run("Players.color(" + heard + ")").remove('\''), "color");
+}
+
+void TestDashboard::labels_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("labels");
+
+    QTest::newRow("alone") << "'a_1', 'b_1'"
+                           << "['a:','b:']";
+    QTest::newRow("namesakes") << "'a_1764000360417', 'a_1764000000417', 'b_1'"
+                               << "['Player 60417:a','Player 00417:a','b:']";
+    QTest::newRow("by what is in the middle") << "'a_left_7', 'a_right_7'"
+                                              << "['Player left_7:a','Player right_7:a']";
+    QTest::newRow("short ones") << "'a_12', 'a_012', '__proto__'"
+                                << "['Player 12:a','Player 012:a',':']";
+}
+
+void TestDashboard::labels()
+{
+    QFETCH(QString, keys);
+    QTEST(run("Players.labelled([" + keys +
+              "].map(key => Players.playerOf(key, {})))"
+              ".map(player => player.label + ':' + player.host)"),
+          "labels");
 }
 
 void TestDashboard::arranged_data()

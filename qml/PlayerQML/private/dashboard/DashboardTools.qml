@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
 /// What one sees of the players, in which order and how large.
-Flow {
+FocusScope {
     id: root
 
     property PlayerList players
@@ -19,66 +19,72 @@ Flow {
         filter.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    spacing: 2 * BGUI.Theme.unit
+    implicitHeight: flow.height
 
-    BGUI.Input {
-        id: filter
-        objectName: "playerFilter"
-        width: Math.min(root.width, 30 * BGUI.Theme.unit)
-        size: "large"
-        faIcon: "fa-search"
-        placeholderText: qsTr("Name or project")
-        clearable: true
-        onTextChanged: root.players.filter = text
-    }
+    Flow {
+        id: flow
+        width: parent.width
+        spacing: 2 * BGUI.Theme.unit
 
-    BGUI.SwitchTabs {
-        id: tabs
-        objectName: "playerStates"
-        size: "large"
-        width: Math.min(root.width, implicitWidth)
-        model: [qsTr("All %1").arg(root.players.count), qsTr("Live %1").arg(root.players.liveCount),
-            qsTr("Silent %1").arg(root.players.count - root.players.liveCount)]
-        currentIndex: root.players.show
-        onActivated: root.players.show = index
-    }
-
-    BGUI.ComboBox {
-        objectName: "playerOrder"
-        width: 26 * BGUI.Theme.unit
-        size: "large"
-        model: [qsTr("By name"), qsTr("Longest silent first")]
-        onActivated: root.players.bySilence = index === 1
-    }
-
-    Row {
-        height: filter.height
-        spacing: BGUI.Theme.unit
-
-        BGUI.FontAwesomeIcon {
-            anchors.verticalCenter: parent.verticalCenter
-            faIcon: "fa-th"
-            color: BGUI.Theme.mutedInk
+        BGUI.Input {
+            id: filter
+            objectName: "playerFilter"
+            width: Math.min(root.width, 30 * BGUI.Theme.unit)
+            size: "large"
+            faIcon: "fa-search"
+            placeholderText: qsTr("Name or project")
+            clearable: true
+            onTextChanged: root.players.filter = text
         }
 
-        BGUI.Slider {
-            id: size
-            objectName: "tileSize"
-            anchors.verticalCenter: parent.verticalCenter
-            width: 16 * BGUI.Theme.unit
+        BGUI.SwitchTabs {
+            id: tabs
+            objectName: "playerStates"
             size: "large"
-            from: 95 * dp
-            to: 420 * dp
-            value: 250 * dp
-            stepSize: 10 * dp
-            Accessible.name: qsTr("Size of the tiles")
+            width: Math.min(root.width, implicitWidth)
+            model: [qsTr("All %1").arg(root.players.count), qsTr("Live %1").arg(root.players.liveCount),
+                qsTr("Silent %1").arg(root.players.count - root.players.liveCount)]
+            currentIndex: root.players.show
+            onActivated: root.players.show = index
         }
 
-        BGUI.FontAwesomeIcon {
-            anchors.verticalCenter: parent.verticalCenter
-            faIcon: "fa-th-large"
+        BGUI.ComboBox {
+            objectName: "playerOrder"
+            width: 26 * BGUI.Theme.unit
             size: "large"
-            color: BGUI.Theme.mutedInk
+            model: [qsTr("By name"), qsTr("Longest silent first")]
+            onActivated: root.players.bySilence = index === 1
+        }
+
+        Row {
+            height: filter.height
+            spacing: BGUI.Theme.unit
+
+            BGUI.FontAwesomeIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                faIcon: "fa-th"
+                color: BGUI.Theme.mutedInk
+            }
+
+            BGUI.Slider {
+                id: size
+                objectName: "tileSize"
+                anchors.verticalCenter: parent.verticalCenter
+                width: 16 * BGUI.Theme.unit
+                size: "large"
+                from: 95 * dp
+                to: 420 * dp
+                value: 250 * dp
+                stepSize: 10 * dp
+                Accessible.name: qsTr("Size of the tiles")
+            }
+
+            BGUI.FontAwesomeIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                faIcon: "fa-th-large"
+                size: "large"
+                color: BGUI.Theme.mutedInk
+            }
         }
     }
 }

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
-import "players.js" as Players
 
 /// A player of the local network, and what can be done with it.
-Rectangle {
+FocusScope {
     id: root
 
     property string player
+    // Where it is.
+    property string address
 
     signal sendRequested()
     signal fetchRequested()
@@ -16,39 +17,65 @@ Rectangle {
 
     objectName: "localPlayer"
     width: row.width + 3 * BGUI.Theme.unit
-    radius: BGUI.Theme.radius("base")
-    color: BGUI.Theme.ground
-    border.width: Math.max(1, dp)
-    border.color: BGUI.Theme.line
+
+    Rectangle {
+        anchors.fill: parent
+        radius: BGUI.Theme.radius("base")
+        color: BGUI.Theme.ground
+        border.width: Math.max(1, dp)
+        border.color: BGUI.Theme.line
+    }
 
     Row {
         id: row
         anchors.centerIn: parent
         spacing: BGUI.Theme.unit
 
-        BGUI.Label {
+        Column {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, 22 * BGUI.Theme.unit)
-            text: Players.nameOf(root.player) || root.player
-            textFormat: Text.PlainText
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
-            strong: true
+            width: Math.min(Math.max(name.implicitWidth, host.implicitWidth), 22 * BGUI.Theme.unit)
+
+            BGUI.Label {
+                id: name
+                objectName: "localPlayerName"
+                width: parent.width
+                text: root.player.replace(/_/g, " ")
+                textFormat: Text.PlainText
+                wrapMode: Text.NoWrap
+                elide: Text.ElideMiddle
+                strong: true
+            }
+
+            BGUI.Label {
+                id: host
+                objectName: "localPlayerHost"
+                width: parent.width
+                text: root.address
+                textFormat: Text.PlainText
+                wrapMode: Text.NoWrap
+                elide: Text.ElideRight
+                size: "small"
+                muted: true
+            }
         }
 
         BGUI.Button {
+            anchors.verticalCenter: parent.verticalCenter
+            focus: true
             faIcon: "fa-upload"
             text: qsTr("Send")
             onClicked: root.sendRequested()
         }
 
         BGUI.Button {
+            anchors.verticalCenter: parent.verticalCenter
             faIcon: "fa-download"
             text: qsTr("Fetch")
             onClicked: root.fetchRequested()
         }
 
         BGUI.Button {
+            anchors.verticalCenter: parent.verticalCenter
             faIcon: "fa-exchange"
             text: "Connect"
             onClicked: root.connectRequested()

@@ -1,34 +1,43 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import QtQuick.Templates 2.15 as T
 import Nuvex.GUI 1.0 as BGUI
 import Nuvex.Native 1.1
 import ".."
-import "players.js" as Players
+import "limits.js" as Limits
 
 /// The players of the local network, what can be exchanged with them, and how an exchange goes. Starts this player's
 /// part of it.
-Rectangle {
+FocusScope {
     id: root
 
     readonly property var status: exchange.status
     readonly property bool isBusy: status !== null && status.running
     readonly property real gap: 2 * BGUI.Theme.unit
+    readonly property bool isNarrow: width < 90 * BGUI.Theme.unit
+    // Whether the other player is waited for for long.
+    property bool isSilent: false
 
     // A project is to be chosen for begin().
     signal projectWanted(string player, bool isSending)
 
     function begin(player, isSending, project) {
         notice.text = "";
-        if (!(isSending ? exchange.send(player, project) : exchange.fetch(player, project)))
-            tellOutcome();
+        if (isSending)
+            exchange.send(player, project);
+        else
+            exchange.fetch(player, project);
     }
 
     // Comes back when the exchange is over, so this is the last that an event does.
     function connectTo(player) {
         notice.text = "";
         CAPI.setConnectedPlayerName(player);
+    }
+
+    // The keyboard follows what goes on: what had it takes no input while an exchange is running.
+    function takeFocus() {
+        (isBusy ? strip : list).forceActiveFocus(Qt.TabFocusReason);
     }
 
     function tellOutcome() {
@@ -38,7 +47,9 @@ Rectangle {
 
     function progressText() {
         const what = (status.sending ? qsTr("Sending %1 to %2") : qsTr("Fetching %1 from %2"))
-                     .arg(status.project).arg(Players.nameOf(status.player));
+                     .arg(status.project).arg(status.player);
+        if (isSilent)
+            return what + qsTr(": no answer yet…");
         if (status.files === 0)
             return what + "…";
         return what + qsTr(": %1 of %2 files, %3 MB").arg(status.filesDone).arg(status.files)
@@ -47,8 +58,17 @@ Rectangle {
 
     objectName: "localPlayers"
     implicitHeight: content.height + gap
-    color: BGUI.Theme.surface
     Component.onCompleted: CAPI.startLocalServer()
+    onIsBusyChanged: {
+        isSilent = false;
+        if (activeFocus)
+            Qt.callLater(takeFocus);
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: BGUI.Theme.surface
+    }
 
     Rectangle {
         width: parent.width
@@ -80,6 +100,8 @@ Rectangle {
                 anchors.left: icon.right
                 anchors.leftMargin: BGUI.Theme.unit
                 anchors.verticalCenter: parent.verticalCenter
+                width: root.isNarrow && list.count > 0 ? 0 : implicitWidth
+                visible: width > 0
                 text: qsTr("On this network")
                 textFormat: Text.PlainText
                 strong: true
@@ -110,11 +132,17 @@ Rectangle {
                 spacing: root.gap
                 clip: true
                 boundsBehavior: Flickable.StopAtBounds
+                highlightMoveDuration: 0
                 model: exchange.players
 
                 delegate: LocalPlayer {
                     height: list.height
                     player: modelData
+                    address: exchange.addressOf(modelData)
+                    onActiveFocusChanged: {
+                        if (activeFocus)
+                            list.currentIndex = index;
+                    }
                     enabled: !root.isBusy
                     onSendRequested: root.projectWanted(modelData, true)
                     onFetchRequested: root.projectWanted(modelData, false)
@@ -124,6 +152,7 @@ Rectangle {
         }
 
         ProgressStrip {
+            id: strip
             width: parent.width
             visible: root.isBusy
             text: root.isBusy ? root.progressText() : ""
@@ -146,5 +175,19 @@ Rectangle {
     Connections {
         target: root.status
         function onFinished() { root.tellOutcome(); }
+    }
+
+    ClockTimer {
+        readonly property string progress: root.isBusy ? root.status.filesDone + " " + root.status.bytes : ""
+
+        limit: Limits.silence
+        onPassed: root.isSilent = true
+        onProgressChanged: {
+            root.isSilent = false;
+            if (root.isBusy)
+                restart();
+            else
+                stop();
+        }
     }
 }

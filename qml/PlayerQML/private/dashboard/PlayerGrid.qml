@@ -11,15 +11,26 @@ GridView {
     id: root
 
     property PlayerList players
+    property ScreenshotWatch screenshots
+    // Left free above the first row.
+    property real headRoom: 0
     // Wanted width of a tile; they become a little wider so that a row is full.
     property real tileSize: 250 * dp
 
     readonly property real gap: (tileSize < 20 * BGUI.Theme.unit ? 1 : 1.5) * BGUI.Theme.unit
-    readonly property int columns: Math.max(1, Math.floor(width / (tileSize + gap)))
+    // A tile is never higher than what one sees of them.
+    readonly property real fittingWidth: Math.max(12 * BGUI.Theme.unit, (height - 12 * BGUI.Theme.unit - gap) * 16 / 9)
+    readonly property int columns: Math.max(1, Math.floor(width / (tileSize + gap)),
+                                            Math.ceil(width / (fittingWidth + gap)))
     readonly property real tileWidth: cellWidth - gap
+    // Of what stands above and below a tile's picture.
+    readonly property real linesHeight: (tileWidth < 20 * BGUI.Theme.unit ? 3 : (players.hasNamesakes ? 10 : 7.5))
+                                        * BGUI.Theme.unit
     // While tiles rush by, nothing is fetched for them.
     readonly property bool isCalm: Math.abs(verticalVelocity) < 2 * height
     property int round: 0
+    // Whether the current tile was gone to by keys, so that its frame shows where one is.
+    property bool movedByKeys: false
     // What the place is remembered by while all tiles are exchanged.
     property real keptY: 0
     property string keptPlayer
@@ -48,9 +59,9 @@ GridView {
 
     objectName: "playerGrid"
     cellWidth: Math.floor(width / columns)
-    cellHeight: Math.round(tileWidth * 9 / 16 + (tileWidth < 20 * BGUI.Theme.unit ? 3 : 7.5) * BGUI.Theme.unit
-                           + 8 * Math.max(1, dp) + gap)
+    cellHeight: Math.round(tileWidth * 9 / 16 + linesHeight + 8 * Math.max(1, dp) + gap)
     model: players.rows
+    header: Item { height: root.headRoom }
     clip: true
     cacheBuffer: 2 * cellHeight
     keyNavigationEnabled: true
@@ -58,12 +69,20 @@ GridView {
     boundsBehavior: Flickable.StopAtBounds
     T.ScrollBar.vertical: BGUI.ScrollBar {}
 
+    Keys.onPressed: {
+        movedByKeys = true;
+        event.accepted = false;
+    }
+
     delegate: FocusScope {
         id: cell
 
         function take() {
+            if (root.currentIndex !== index)
+                root.movedByKeys = false;
             root.currentIndex = index;
-            tile.forceActiveFocus(Qt.MouseFocusReason);
+            if (!tile.activeFocus)
+                tile.forceActiveFocus(Qt.MouseFocusReason);
         }
 
         width: root.cellWidth
@@ -77,12 +96,22 @@ GridView {
             focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             isCurrent: cell.GridView.isCurrentItem
             isSeen: root.isCalm && cell.y + cell.height > root.contentY && cell.y < root.contentY + root.height
-            name: model.playerName
+            name: model.label
+            host: model.host
+            isOld: root.screenshots.outdated[model.player] !== undefined
             heartbeat: model.heartbeat
             project: model.project
             now: root.players.now
             round: root.round
             screenshot: Players.screenshot(root.players.user, model.player)
+            onActiveFocusChanged: {
+                if (activeFocus && root.movedByKeys)
+                    focusReason = Qt.TabFocusReason;
+            }
+            onVisualFocusChanged: {
+                if (visualFocus)
+                    root.positionViewAtIndex(index, GridView.Contain);
+            }
             onClicked: {
                 cell.take();
                 root.chosen(model.player);

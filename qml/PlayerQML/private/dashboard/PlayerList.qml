@@ -26,10 +26,14 @@ Item {
     // What `rows` has.
     property var shown: []
     readonly property alias rows: rows
+    // Whether some players have the same name, so that it stands in a line of its own.
+    readonly property bool hasNamesakes: players.some(player => player.host !== "")
 
     // All of `rows` is about to be exchanged, or has been.
     signal aboutToReset()
     signal reset()
+    // A player that was known shows another project, or is to.
+    signal switched(string player, string project)
     // The first answer, or the answer to a first question that was asked again, has come.
     signal answered()
 
@@ -44,11 +48,32 @@ Item {
         isReading = false;
         hasFailed = !success;
         if (success) {
-            players = Players.playersOf(result);
+            exchangePlayers(Players.playersOf(result));
             isKnown = true;
-            arrange();
         }
         answered();
+    }
+
+    function exchangePlayers(wanted) {
+        const projects = new Map(players.map(player => [player.player, player.project]));
+        players = Players.labelled(wanted);
+        arrange();
+        players.forEach(player => {
+            if (player.project !== "" && projects.has(player.player) && projects.get(player.player) !== player.project)
+                switched(player.player, player.project);
+        });
+    }
+
+    function find(key) {
+        return players.find(player => player.player === key);
+    }
+
+    // What a player is called in a sentence.
+    function nameOf(key) {
+        const player = find(key);
+        if (!player)
+            return Players.nameOf(key);
+        return player.host === "" ? player.label : qsTr("%1 of %2").arg(player.label).arg(player.host);
     }
 
     // Shows what fits, each at its place: tiles that stay where they are stay as they are.
@@ -66,7 +91,7 @@ Item {
 
     function update(wanted) {
         wanted.forEach((player, index) => {
-            if (player.heartbeat !== shown[index].heartbeat || player.project !== shown[index].project)
+            if (["heartbeat", "project", "label"].some(role => player[role] !== shown[index][role]))
                 rows.set(index, player);
         });
     }
@@ -80,13 +105,12 @@ Item {
     }
 
     function remove(key) {
-        players = players.filter(player => player.player !== key);
-        arrange();
+        exchangePlayers(players.filter(player => player.player !== key));
     }
 
     function setProject(key, project) {
-        players = players.map(player => player.player === key ? Object.assign({}, player, {project: project}) : player);
-        arrange();
+        exchangePlayers(players.map(player => player.player === key ? Object.assign({}, player, {project: project})
+                                                                     : player));
     }
 
     onFilterChanged: typing.restart()

@@ -7,17 +7,21 @@ import Nuvex.Native 1.1
 import "players.js" as Players
 
 /// A player: whether it is live, when it was last heard of, its name, its last screenshot, what it shows. Enter or a
-/// click chooses its project, Del deletes it. Where it is small, the line for the project is left out.
+/// click chooses its project, Del deletes it. Where it is small, the lines for host and project are left out.
 T.AbstractButton {
     id: root
 
     property string name
+    // The name that it shares with others, if it does.
+    property string host
     property double heartbeat
     property string project
     property double now
     // Name of the screenshot in the cloud.
     property string screenshot
-    // Whether it is to be fetched: while this is false, one that is there stays.
+    // Whether it shows what the player showed before.
+    property bool isOld: false
+    // Whether it is to be fetched.
     property bool isSeen: false
     // Counts up when the screenshot is to be fetched again.
     property int round: 0
@@ -26,27 +30,32 @@ T.AbstractButton {
     readonly property real line: Math.max(1, dp)
     readonly property bool isSmall: width < 20 * BGUI.Theme.unit
     readonly property real lineHeight: (isSmall ? 3 : 4) * BGUI.Theme.unit
+    readonly property real hostHeight: host !== "" && !isSmall ? 2.5 * BGUI.Theme.unit : 0
     readonly property real footHeight: isSmall ? 0 : 3.5 * BGUI.Theme.unit
 
     signal deleteRequested()
 
     function fetch() {
-        if (!isSeen)
-            return;
         address.object = "";
-        address.object = screenshot;
+        if (isSeen)
+            address.object = screenshot;
     }
 
     objectName: "playerTile"
     hoverEnabled: true
     text: name
-    Accessible.name: qsTr("%1, last heard of %2 ago, shows %3").arg(name).arg(age.text).arg(project || qsTr("nothing"))
+    Accessible.name: qsTr("%1 %2, last heard of %3 ago, shows %4").arg(name).arg(host).arg(age.text)
+                     .arg(project || qsTr("nothing"))
 
     onIsSeenChanged: {
         if (isSeen && address.object === "")
             fetch();
     }
     onRoundChanged: fetch()
+    onIsOldChanged: {
+        if (!isOld)
+            fetch();
+    }
     Component.onCompleted: fetch()
 
     Keys.onReturnPressed: clicked()
@@ -56,8 +65,6 @@ T.AbstractButton {
     background: Rectangle {
         radius: BGUI.Theme.radius("base")
         color: BGUI.Theme.surface
-        border.width: root.visualFocus ? 3 * root.line : root.line
-        border.color: root.visualFocus || root.hovered ? BGUI.Theme.accent : BGUI.Theme.line
     }
 
     Rectangle {
@@ -99,6 +106,21 @@ T.AbstractButton {
         strong: true
     }
 
+    BGUI.Label {
+        objectName: "playerHost"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: BGUI.Theme.unit
+        y: root.lineHeight
+        visible: root.hostHeight > 0
+        text: root.host
+        textFormat: Text.PlainText
+        wrapMode: Text.NoWrap
+        elide: Text.ElideRight
+        size: "small"
+        muted: true
+    }
+
     T.AbstractButton {
         id: remove
         readonly property string faIcon: "fa-times"
@@ -125,7 +147,7 @@ T.AbstractButton {
     Rectangle {
         id: frame
         x: root.line
-        y: root.lineHeight + 4 * root.line
+        y: root.lineHeight + root.hostHeight + 4 * root.line
         width: parent.width - 2 * root.line
         height: parent.height - y - root.footHeight - 4 * root.line
         color: BGUI.Theme.sunken
@@ -140,6 +162,7 @@ T.AbstractButton {
             asynchronous: true
             fillMode: Image.PreserveAspectFit
             visible: status === Image.Ready
+            opacity: root.isOld ? 0.35 : 1
         }
 
         Image {
@@ -149,6 +172,28 @@ T.AbstractButton {
             sourceSize.width: 128
             visible: picture.status === Image.Error
             source: visible ? "qrc:///Nuvex/Components/icons/weather-unknown.png" : ""
+        }
+
+        Rectangle {
+            width: parent.width
+            height: note.height + BGUI.Theme.unit / 2
+            anchors.bottom: parent.bottom
+            visible: root.isOld
+            color: BGUI.Theme.bar
+
+            BGUI.Label {
+                id: note
+                objectName: "oldPicture"
+                anchors.centerIn: parent
+                width: parent.width - BGUI.Theme.unit
+                horizontalAlignment: Text.AlignHCenter
+                text: root.isSmall ? qsTr("old") : qsTr("Old picture – a new one is to come")
+                textFormat: Text.PlainText
+                wrapMode: Text.NoWrap
+                elide: Text.ElideRight
+                size: "small"
+                color: BGUI.Theme.barInk
+            }
         }
     }
 
@@ -165,6 +210,14 @@ T.AbstractButton {
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
         muted: root.project === ""
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: BGUI.Theme.radius("base")
+        color: "transparent"
+        border.width: root.visualFocus ? 3 * root.line : root.line
+        border.color: root.visualFocus || root.hovered ? BGUI.Theme.accent : BGUI.Theme.line
     }
 
     DownloadUrl {

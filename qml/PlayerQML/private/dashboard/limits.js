@@ -22,5 +22,13 @@ var refreshPeriod = 20000;
 var agePeriod = 1000;
 var picturePeriod = 600000;
 
+/// A player that shows another project is asked for a screenshot after this time, when it should be whole; then after
+/// times that double each time. Whether one has come is looked at with this pause.
+var firstScreenshot = 8000;
+var screenshotLook = 3000;
+
+/// After so long without any progress an exchange is called silent.
+var silence = 5000;
+
 /// Keys in the filter field are gathered for this long before the tiles follow.
 var typingPause = 120;

@@ -8,6 +8,7 @@
 //     heartbeat              when it was last heard of, milliseconds since 1970; 0 for never
 //     project                what it shows; "" for nothing
 //     player                 the entry's key
+//     label, host            what it is called here, and where that is not its name, its name; see labelled()
 
 /// Which players are shown.
 const Show = { all: 0, live: 1, silent: 2 };
@@ -31,6 +32,41 @@ function playerOf(key, entry) {
 /// The players in an answer of the database: an object from key to entry, or null.
 function playersOf(answer) {
     return Object.keys(answer || {}).map(key => playerOf(key, answer[key]));
+}
+
+// What tells `texts` apart: of numbers their ends, as long as it takes and at least of four digits.
+function telling(texts) {
+    if (!texts.every(text => /^\d+$/.test(text)))
+        return texts;
+    const longest = Math.max(...texts.map(text => text.length));
+    let ends = texts;
+    for (let length = 4; length < longest; ++length) {
+        ends = texts.map(text => text.slice(-length));
+        if (new Set(ends).size === texts.length)
+            return ends;
+    }
+    return texts;
+}
+
+/// The players with their labels: the name, or of those that share one the end of the rest of the key.
+function labelled(players) {
+    const labels = new Map();
+    const keysByName = new Map();
+    players.forEach(player => keysByName.set(player.playerName, []));
+    players.forEach(player => keysByName.get(player.playerName).push(player.player));
+    keysByName.forEach((keys, name) => {
+        const ends = telling(keys.map(key => key.slice(name.length + 1)));
+        keys.forEach((key, i) => labels.set(key, keys.length === 1 ? name : qsTr("Player %1").arg(ends[i])));
+    });
+    return players.map(player => {
+        const label = labels.get(player.player);
+        return Object.assign({}, player, {label: label, host: label === player.playerName ? "" : player.playerName});
+    });
+}
+
+/// The script with which a player that shows a project, given by its key in the database, sends a screenshot.
+function screenshotCommand(project) {
+    return "if (SS.key(CAPI.getBaseProjectName()) === " + JSON.stringify(project) + ") CAPI.uploadScreenshot(300);";
 }
 
 function isLive(heartbeat, now) {
@@ -61,7 +97,7 @@ function screenshot(user, player) {
 function fits(player, words, show, now) {
     if (show !== Show.all && isLive(player.heartbeat, now) !== (show === Show.live))
         return false;
-    const text = (player.player + " " + player.project).toLowerCase();
+    const text = [player.player, player.label, player.project].join(" ").toLowerCase();
     return words.every(word => text.includes(word));
 }
 
