@@ -33,6 +33,11 @@ constexpr int transfersAtOnce = 6;
 /// Files that fail one behind the other before the rest is not tried any more.
 constexpr int failuresInRow = 12;
 
+/// Of the files of one project that fail, those that the log names; the others are counted.
+constexpr int loggedPaths = 10;
+/// UTF-16 units of a text from outside in a line of the log.
+constexpr int loggedText = 1000;
+
 /// Silence after which a realtime stream counts as failed; the service keeps it alive every 30 s.
 constexpr std::chrono::milliseconds streamSilence{75'000};
 /// Size of one event of a realtime stream.

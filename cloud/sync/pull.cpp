@@ -88,9 +88,9 @@ void Pull::tell() const
                     << "to remove:" << m_plan.remove.size();
     qCDebug(lcCloud).noquote() << toText(m_plan);
     if (!m_plan.kept.isEmpty())
-        qCWarning(lcCloud) << "Edited here and not published, so not pulled:" << m_plan.kept;
+        qCWarning(lcCloud) << "Edited here and not published, so not pulled:" << someOf(m_plan.kept);
     if (!m_plan.refused.isEmpty())
-        qCWarning(lcCloud) << "Not possible as files of a project:" << m_plan.refused;
+        qCWarning(lcCloud) << "Not possible as files of a project:" << someOf(m_plan.refused);
 }
 
 // A map that takes the document itself away is none: a login page of a network's, or what is left of one.
@@ -106,7 +106,8 @@ void Pull::leaveOut(const QSet<QString>& paths)
 {
     if (paths.isEmpty())
         return;
-    qCWarning(lcCloud) << "Left as they are, for the cloud has them no more or there is no place:" << paths;
+    qCWarning(lcCloud) << "Left as they are, for the cloud has them no more or there is no place:"
+                       << someOf(paths.values());
     m_plan = withoutFiles(m_plan, paths, m_local, syncedOf(m_record));
 }
 

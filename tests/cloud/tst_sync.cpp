@@ -39,6 +39,7 @@ private slots:
     void oneBadFileHoldsAllBack();
     void fetchedFilesAreNotFetchedAgain();
     void manyRevisionsAreMerged();
+    void manyMissingFilesAreFewLines();
     void aFailingProjectHoldsNoOtherUp();
     void foldersAndFilesChangePlaces();
     void linksAreNotFollowed();
@@ -378,6 +379,23 @@ void TestSync::linksAreNotFollowed()
     QCOMPARE(m_player->tree().value("main.qml/own"), QByteArray("keep me"));
     QCOMPARE(m_player->tree().value("other"), QByteArray("o"));
     QVERIFY(log.contains("no place"));
+void TestSync::manyMissingFilesAreFewLines()
+{
+    QByteArray map = "main.qml 1\n";
+    for (int i = 0; i < 500; ++i)
+        map += QByteArray(200, 'x') + QByteArray::number(i) + " 1\n";
+    m_cloud.put(shared + "main.qml", "one");
+    m_cloud.put(shared + "dirmap", map);
+    const LogCapture log;
+    m_player->worker().pull("Shop", "1");
+    QTRY_COMPARE_WITH_TIMEOUT(m_player->said.size(), 4, 20'000);
+    m_player->turnOff();
+    QVERIFY2(log.messages().size() < 60, qPrintable(QString::number(log.messages().size())));
+    for (const QString& line : log.messages())
+        QVERIFY(line.size() < 2 * limits::loggedText);
+    QVERIFY(log.contains("500 of 501"));
+}
+
 }
 
 void TestSync::garbageIsNoMap()
@@ -452,9 +470,8 @@ void TestSync::endsInATransfer()
     m_editor->push();
     for (const char* fault : {"\"stallAfter\":5000", "\"delayMs\":20000", "\"bytesPerSecond\":1000"}) {
         m_cloud.setFaults(QByteArray("[{\"method\":\"GET\",\"target\":\"*a%20b*\",") + fault + "}]");
-        m_cloud.takeCounters();
         m_player->worker().pull("Shop", "0");
-        QTRY_COMPARE(m_cloud.takeCounters().value("GET media"), 0); // the counters' own wait
+        QTRY_VERIFY(m_player->tree().contains("images/a b.png_temp"));
         QTest::qWait(300);
         QElapsedTimer clock;
         clock.start();
