@@ -62,9 +62,6 @@ constexpr std::array<std::chrono::milliseconds, 2> retryPauses{std::chrono::mill
 /// Until a pull that failed is tried again: doubled each time, with some chance in it.
 constexpr std::chrono::milliseconds laterFirst{1000};
 constexpr std::chrono::milliseconds laterMost{60'000};
-/// Attempts after which a pull takes files that are newer than the directory map: some fifteen to thirty
-/// seconds.
-constexpr int patientAttempts = 5;
 /// How often a push plans again because somebody else has published meanwhile.
 constexpr int pushPlans = 10;
 /// How long a start waits, looking now and then, for the end of another program that has left journals.

@@ -128,6 +128,11 @@ StackView {
 
     Heartbeat {
         id: heartbeat
+        onAnswered: resumer.goOn()
+    }
+
+    PublishResumer {
+        id: resumer
     }
 
     // Streams that end are opened again.
