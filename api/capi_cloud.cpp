@@ -29,6 +29,19 @@ QVariantList toFolderMaps(const QStringList& names)
     return maps;
 }
 
+// As the database's keys have it, of which the dashboard makes the name again: key() of SharedVars.js.
+QString asKey(const QString& player)
+{
+    static const QString reserved = QStringLiteral("$#[]/\x7f");
+    QString key;
+    for (const QChar character : player) {
+        const bool isPlain = character >= QLatin1Char(' ') && !reserved.contains(character);
+        key += isPlain ? QString(character)
+                       : QStringLiteral("%%1").arg(character.unicode(), 2, 16, QLatin1Char('0')).toUpper();
+    }
+    return key;
+}
+
 QByteArray jpegOf(const QImage& image, int size)
 {
     constexpr int quality = 87;
@@ -162,13 +175,17 @@ bool CAPI::getFile(QString url, QString destDir, QString destName)
 
 void CAPI::uploadScreenshot(int size)
 {
+    if (m_cloud.account().isEmpty()) {
+        qCWarning(lcApi) << "Nobody is signed in, so there is no place for a screenshot";
+        return;
+    }
     const QImage window = m_view ? m_view->grabWindow() : QImage();
     if (window.isNull()) {
         qCWarning(lcApi) << "There is no window to take a screenshot of";
         return;
     }
     const QString object = users + m_cloud.account() + QStringLiteral("/screenshots/") +
-                           m_settings.text(QStringLiteral("playerUID")) + QStringLiteral(".jpg");
+                           asKey(m_settings.text(QStringLiteral("playerUID"))) + QStringLiteral(".jpg");
     m_cloud.storage().uploadData(jpegOf(window, size), object);
 }
 

@@ -5,6 +5,8 @@
 
 #include "api/importqueue.h"
 
+#include <QFileInfo>
+
 CloudServices::CloudServices(const Deployment& deployment, const Workspace& workspace,
                              const Settings& settings, ImportQueue& imports, QQuickView* view)
     : m_deployment(deployment)
@@ -27,5 +29,5 @@ StorageFault CloudServices::faultWithoutJob() const
 
 void CloudServices::import(const QString& archive)
 {
-    m_imports.start(archive);
+    m_imports.start(archive, QFileInfo(archive).completeBaseName());
 }

@@ -33,7 +33,8 @@ public:
 
     /// Why the worker had no job to give: there is no cloud, no network, or no such project.
     StorageFault faultWithoutJob() const;
-    /// Imports an archive of store() into the work directory, in the background, and removes it then.
+    /// Imports an archive of store() into the work directory, in the background, and removes it then. A
+    /// project without a folder in the archive gets one of the archive's name.
     void import(const QString& archive);
 
 private:

@@ -131,15 +131,43 @@ void CloudTransfers::downloadArchive(const QString& source)
 
 void CloudTransfers::publish(const QString& project, const QString& picture)
 {
-    if (begin())
-        startJob(m_services->worker().push(project, SharedFolderThread::Conflicts::Ask),
-                 [this, project, picture] { publishPicture(project, picture); });
+    startPush(project, SharedFolderThread::Conflicts::Ask,
+              [this, project, picture] { publishPicture(project, picture); });
+}
+
+void CloudTransfers::resume(const QString& project)
+{
+    startPush(project, SharedFolderThread::Conflicts::GiveUp, [this] { end({}); });
+}
+
+void CloudTransfers::startPush(const QString& project, SharedFolderThread::Conflicts conflicts,
+                               const Then& then)
+{
+    if (!begin())
+        return;
+    if (m_services->account().isEmpty()) {
+        refuse(StorageFault::NoAccount);
+        return;
+    }
+    m_pushed = project;
+    startJob(m_services->worker().push(project, conflicts), then);
+}
+
+QStringList CloudTransfers::begunPublishes() const
+{
+    return m_services ? m_services->worker().begunPushes() : QStringList();
+}
+
+void CloudTransfers::endPublish(const QString& project)
+{
+    if (m_services)
+        m_services->worker().endPush(project);
 }
 
 // The project is published; its picture is not worth a failure.
 void CloudTransfers::publishPicture(const QString& project, const QString& picture)
 {
-    if (picture.isEmpty()) {
+    if (picture.isEmpty() || !m_hasPublished) {
         end({});
         return;
     }
@@ -168,8 +196,11 @@ void CloudTransfers::cancel()
 {
     if (!m_isRunning || !m_services)
         return;
-    if (m_job != 0)
+    if (m_job != 0) {
         m_services->worker().cancel(m_job);
+        if (!m_pushed.isEmpty())
+            endPublish(m_pushed);
+    }
     m_work.cancel();
     m_storage->cancelAll();
 }
@@ -181,6 +212,8 @@ bool CloudTransfers::begin()
     if (m_isRunning || !m_services)
         return false;
     m_isRunning = true;
+    m_pushed.clear();
+    m_hasPublished = false;
     setProgress({});
     emit runningChanged();
     return true;
@@ -196,9 +229,13 @@ void CloudTransfers::startJob(int job, const Then& then)
 {
     m_job = job;
     m_then = then;
-    if (job != 0)
-        return;
-    const QString error = describe(m_services->faultWithoutJob());
+    if (job == 0)
+        refuse(m_services->faultWithoutJob());
+}
+
+void CloudTransfers::refuse(StorageFault fault)
+{
+    const QString error = describe(fault);
     QMetaObject::invokeMethod(
         this, [this, error] { end(error); }, Qt::QueuedConnection);
 }
@@ -208,6 +245,7 @@ void CloudTransfers::endJob(int job, const SyncResult& result)
     if (m_job == 0 || job != m_job)
         return;
     m_job = 0;
+    m_hasPublished = result.changedCloud;
     if (!result.kept.isEmpty())
         emit kept(result.kept);
     if (result.fault == StorageFault::None)

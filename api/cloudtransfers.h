@@ -5,7 +5,7 @@
 
 #include "api/backgroundjob.h"
 #include "cloud/storage/gcloud.h"
-#include "cloud/sync/syncjob.h"
+#include "cloud/sync/sharedfolderthread.h"
 
 #include <QPointer>
 #include <QVariant>
@@ -69,6 +69,21 @@ public:
     /// players follow, is to be counted up afterwards.
     Q_INVOKABLE void publish(const QString& project, const QString& picture = {});
 
+    /// Whether the last publish has brought anything: there may have been nothing to bring, or all of it may
+    /// have been settled to stay as it is in the cloud.
+    Q_INVOKABLE bool hasPublished() const { return m_hasPublished; }
+
+    // A publish is over when its players have been told of the new revision, or it was cancelled. One that
+    // the program's end or a failure has cut off leaves files in the cloud without their map, which nobody
+    // installs.
+
+    /// The account's projects whose publish was cut off and that have not been changed here since.
+    Q_INVOKABLE QStringList begunPublishes() const;
+    /// Goes on with such a publish. Cancelled when somebody else has published the same files meanwhile.
+    Q_INVOKABLE void resume(const QString& project);
+    /// The players of a project have been told of what was published.
+    Q_INVOKABLE void endPublish(const QString& project);
+
     /// A path at which a picture to publish may be saved for the time being; empty on failure, logged.
     Q_INVOKABLE QString pictureFile();
     /// Answers conflictsFound(): those of `theirs` stay as they are in the cloud, the others are overwritten.
@@ -95,6 +110,8 @@ private:
 
     bool begin();
     void startJob(int job, const Then& then);
+    void startPush(const QString& project, SharedFolderThread::Conflicts conflicts, const Then& then);
+    void refuse(StorageFault fault);
     void startWork(const Work& work, const Then& then);
     void list(const QString& prefix, bool areProjects);
     void publishPicture(const QString& project, const QString& picture);
@@ -106,8 +123,10 @@ private:
     QPointer<CloudServices> m_services;
     bool m_isRunning = false;
     SyncProgress m_progress;
-    Then m_then;                       // what follows a success of what is under way
-    int m_job = 0;                     // the worker's; 0 when none is under way
+    Then m_then;      // what follows a success of what is under way
+    int m_job = 0;    // the worker's; 0 when none is under way
+    QString m_pushed; // project that is being published; empty for anything else
+    bool m_hasPublished = false;
     std::unique_ptr<GCloud> m_storage; // the pool thread's, besides cancelling
     QVariantList m_entries;            // the pool thread's while it works
     BackgroundJob m_work;

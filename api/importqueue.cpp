@@ -12,9 +12,9 @@ ImportQueue::ImportQueue(const QString& work)
     connect(&m_job, &BackgroundJob::finished, this, &ImportQueue::report);
 }
 
-void ImportQueue::start(const QString& zipFile)
+void ImportQueue::start(const QString& zipFile, const QString& folder)
 {
-    m_waiting.append(zipFile);
+    m_waiting.append({zipFile, folder});
     if (isRunning())
         return;
     startNext();
@@ -29,9 +29,10 @@ void ImportQueue::cancel()
 
 void ImportQueue::startNext()
 {
-    m_archive = m_waiting.takeFirst();
-    m_job.start([this, zipFile = m_archive](JobControl& control) {
-        const ImportResult result = importArchive(zipFile, m_work, control);
+    const Waiting next = m_waiting.takeFirst();
+    m_archive = next.archive;
+    m_job.start([this, next](JobControl& control) {
+        const ImportResult result = importArchive(next.archive, m_work, control, next.folder);
         m_projects = result.projects;
         return result.outcome;
     });

@@ -6,6 +6,7 @@
 #include "api/backgroundjob.h"
 
 #include <QStringList>
+#include <QVector>
 
 /// Imports project archives in the background, one after the other (importArchive()). GUI thread.
 class ImportQueue : public QObject
@@ -17,8 +18,8 @@ public:
     /// may leave something for Leftovers at the next start.
     explicit ImportQueue(const QString& work);
 
-    /// Imports this archive when those begun before have ended.
-    void start(const QString& zipFile);
+    /// Imports this archive when those begun before have ended; for `folder` see importArchive().
+    void start(const QString& zipFile, const QString& folder = {});
     /// Stops the import under way and forgets those that wait. What is already being put in place is
     /// finished.
     void cancel();
@@ -37,11 +38,17 @@ signals:
     void finished(const QString& zipFile, const QString& error, const QStringList& projects, bool cancelled);
 
 private:
+    struct Waiting
+    {
+        QString archive;
+        QString folder;
+    };
+
     void startNext();
     void report(const Outcome& outcome);
 
     QString m_work;
-    QStringList m_waiting;
+    QVector<Waiting> m_waiting;
     QString m_archive;
     QStringList m_projects; // the pool thread's while an import runs
     BackgroundJob m_job;

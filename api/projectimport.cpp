@@ -35,10 +35,11 @@ QFileInfoList childrenOf(const QString& folder)
 class ProjectImport
 {
 public:
-    ProjectImport(const QString& zipFile, const QString& work, JobControl& control)
+    ProjectImport(const QString& zipFile, const QString& work, JobControl& control, const QString& folder)
         : m_archive(zipFile)
         , m_work(work)
         , m_control(control)
+        , m_folder(folder)
     {
     }
 
@@ -87,9 +88,24 @@ private:
         if (!made)
             return failure(m_work, made.reason());
         m_fresh = staging::freshFolder(m_staging);
-        if (!QDir().mkpath(m_fresh) || !QDir().mkpath(staging::displacedFolder(m_staging)))
+        const QString target =
+            m_folder.isEmpty() || !lacksFolder() ? m_fresh : m_fresh + QLatin1Char('/') + m_folder;
+        if (!QDir().mkpath(target) || !QDir().mkpath(staging::displacedFolder(m_staging)))
             return failure(m_staging.path(), qt_error_string(errno));
-        return m_archive.extractTo(m_fresh, m_control);
+        return m_archive.extractTo(target, m_control);
+    }
+
+    bool lacksFolder() const
+    {
+        bool hasFiles = false;
+        bool hasProject = false;
+        for (const QuaZipFileInfo64& entry : m_archive.entries()) {
+            if (entry.name == QLatin1String("main.qml"))
+                return true;
+            hasFiles = hasFiles || !entry.name.contains(QLatin1Char('/'));
+            hasProject = hasProject || entry.name.section(QLatin1Char('/'), 1) == QLatin1String("main.qml");
+        }
+        return hasFiles && !hasProject;
     }
 
     // Completes each unpacked project with what the older one has besides.
@@ -147,6 +163,7 @@ private:
     ArchiveReader m_archive;
     QString m_work;
     JobControl& m_control;
+    QString m_folder;        // for a project without one
     StagingFolder m_staging; // what was displaced goes with it
     QString m_fresh;
     QStringList m_projects;
@@ -154,9 +171,10 @@ private:
 
 } // namespace
 
-ImportResult importArchive(const QString& zipFile, const QString& work, JobControl& control)
+ImportResult importArchive(const QString& zipFile, const QString& work, JobControl& control,
+                           const QString& folder)
 {
-    ProjectImport import(zipFile, work, control);
+    ProjectImport import(zipFile, work, control, folder);
     const Outcome outcome = import.run();
     if (!outcome && !outcome.isCancelled())
         qCWarning(lcApi).noquote() << "Cannot import" << zipFile << "-" << outcome.reason();

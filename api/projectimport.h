@@ -25,4 +25,8 @@ struct ImportResult
 /// the free space; an archive that is damaged, a full disk, a file where a folder is to go or the other way
 /// round, a link in the way: after any failure before the exchanges nothing has changed. A failure is logged.
 /// Counts bytes. Blocks; meant for a pool thread.
-ImportResult importArchive(const QString& zipFile, const QString& work, JobControl& control);
+///
+/// With `folder`, a plain name, an archive that holds a project without its folder becomes the project of
+/// that name: one that has a main.qml at its top, or files there and a main.qml in none of its folders.
+ImportResult importArchive(const QString& zipFile, const QString& work, JobControl& control,
+                           const QString& folder = {});

@@ -3,6 +3,7 @@
 
 #include "app/commandline.h"
 #include "app/logfile.h"
+#include "app/messageguard.h"
 #include "app/projectcheck.h"
 #include "app/qmlhost.h"
 
@@ -20,5 +21,6 @@ int main(int argc, char* argv[])
         log = std::make_unique<LogFile>(options.logFile);
         log->captureMessages();
     }
+    guardMessages();
     return runHost(argc, argv, options);
 }

@@ -33,6 +33,11 @@ constexpr int transfersAtOnce = 6;
 /// Files that fail one behind the other before the rest is not tried any more.
 constexpr int failuresInRow = 12;
 
+/// Of the files of one project that fail, those that the log names; the others are counted.
+constexpr int loggedPaths = 10;
+/// UTF-16 units of a text from outside in a line of the log.
+constexpr int loggedText = 1000;
+
 /// Silence after which a realtime stream counts as failed; the service keeps it alive every 30 s.
 constexpr std::chrono::milliseconds streamSilence{75'000};
 /// Size of one event of a realtime stream.
@@ -57,9 +62,6 @@ constexpr std::array<std::chrono::milliseconds, 2> retryPauses{std::chrono::mill
 /// Until a pull that failed is tried again: doubled each time, with some chance in it.
 constexpr std::chrono::milliseconds laterFirst{1000};
 constexpr std::chrono::milliseconds laterMost{60'000};
-/// Attempts after which a pull takes files that are newer than the directory map: some fifteen to thirty
-/// seconds.
-constexpr int patientAttempts = 5;
 /// How often a push plans again because somebody else has published meanwhile.
 constexpr int pushPlans = 10;
 /// How long a start waits, looking now and then, for the end of another program that has left journals.

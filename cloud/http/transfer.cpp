@@ -59,9 +59,14 @@ void Transfer::begin(QNetworkAccessManager& manager)
 {
     send(manager);
     connect(m_reply, &QNetworkReply::errorOccurred, this,
-            [](QNetworkReply::NetworkError error) { qDebug() << "error storage" << nameOf(error); });
+            [this](QNetworkReply::NetworkError error) { debug() << "error storage" << nameOf(error); });
     connect(m_reply, &QNetworkReply::finished, this, &Transfer::finish);
     watch();
+}
+
+QDebug Transfer::debug() const
+{
+    return m_isSilent ? QDebug(&m_unheard) : qDebug();
 }
 
 void Transfer::send(QNetworkAccessManager& manager)
@@ -109,7 +114,7 @@ void Transfer::checkForStall()
         m_quiet = true;
         return;
     }
-    qDebug() << "Upload Time Out!!";
+    debug() << "Upload Time Out!!";
     m_stalled = true;
     emit stalled();
     finish();
@@ -160,14 +165,14 @@ void Transfer::finish()
 void Transfer::judge()
 {
     if (m_stalled || (m_quiet && m_reply)) {
-        qDebug() << "timeout";
+        debug() << "timeout";
         m_error = QNetworkReply::TimeoutError;
     } else if (!m_reply) {
-        qDebug() << "cancelled";
+        debug() << "cancelled";
         m_error = QNetworkReply::OperationCanceledError;
     } else if (m_reply->error() != QNetworkReply::NoError) {
-        qDebug() << "network error" << nameOf(m_reply->error())
-                 << m_reply->errorString().replace(m_url.toString(), withoutSecrets(m_url));
+        debug() << "network error" << nameOf(m_reply->error())
+                << m_reply->errorString().replace(m_url.toString(), withoutSecrets(m_url));
         m_error = m_reply->error();
     } else {
         judgeStatus();

@@ -5,6 +5,7 @@
 
 #include "cloud/http/transferthread.h"
 
+#include <QDebug>
 #include <QHash>
 #include <QNetworkReply>
 #include <QTimer>
@@ -27,6 +28,9 @@ public:
     /// win over the ones that every request has.
     Transfer(Method method, const QUrl& url, const Headers& headers, QIODevice* device);
     ~Transfer() override;
+
+    /// It says nothing in the log about how it ends. Before it begins.
+    void setSilent() { m_isSilent = true; }
 
     /// Status 200 or 206, and every byte could be written.
     bool succeeded() const { return m_succeeded; }
@@ -53,6 +57,7 @@ protected:
 private:
     friend class FileTransfers; // whose transfers are its children in the transfer thread
 
+    QDebug debug() const;
     QNetworkRequest request() const;
     void send(QNetworkAccessManager& manager);
     void watch();
@@ -78,4 +83,6 @@ private:
     bool m_succeeded = false;
     bool m_writeFailed = false;
     bool m_hasEnded = false;
+    bool m_isSilent = false;
+    mutable QString m_unheard; // what a silent one would have said
 };

@@ -79,7 +79,9 @@ void FirebaseSubscriber::eventFinished()
     m_reply = nullptr;
     ended->deleteLater();
     const QUrl target = ended->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-    if (!target.isEmpty())
+    if (target.isEmpty())
+        emit dataReceived({});
+    else
         follow(ended->url(), ended->url().resolved(target));
 }
 
@@ -94,6 +96,7 @@ void FirebaseSubscriber::follow(const QUrl& from, const QUrl& target)
     }
     qCWarning(lcCloud) << "A realtime stream is redirected too often, or without encryption";
     m_hasFailed = true;
+    emit dataReceived({});
 }
 
 void FirebaseSubscriber::slotError(QNetworkReply::NetworkError error)

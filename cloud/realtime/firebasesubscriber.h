@@ -32,6 +32,7 @@ public:
 
 signals:
     /// An event: its lines, each ended by "\n", and an empty one. The service's keep-alives are events too.
+    /// An empty text: the stream has ended, well or not.
     void dataReceived(QString data);
 
 private:

@@ -40,6 +40,8 @@ void FileTransfers::startSome()
         start(m_next++);
     if (m_underWay.empty() && !m_hasEnded) {
         m_hasEnded = true;
+        if (m_failures > limits::loggedPaths)
+            qCWarning(lcCloud) << "Files that could not be carried:" << m_failures << "of" << m_files.size();
         emit ended();
     }
 }
@@ -55,6 +57,8 @@ void FileTransfers::start(int index)
     m_observer(index, 0, -1);
     auto transfer = std::make_unique<Transfer>(m_direction, QUrl(m_files[index].url, QUrl::TolerantMode),
                                                headersFor(*file), file.get());
+    if (m_failures >= limits::loggedPaths)
+        transfer->setSilent();
     connect(transfer.get(), &Transfer::progress, this, [this, index](qint64 bytes, qint64 total) {
         if (bytes > 0)
             m_observer(index, bytes, total);
@@ -120,6 +124,7 @@ StorageFault FileTransfers::settled(UnderWay& done)
 
 void FileTransfers::countFailures(StorageFault fault)
 {
+    m_failures += fault != StorageFault::None;
     const bool failed = fault != StorageFault::None && fault != StorageFault::Missing;
     m_failuresInRow = failed ? m_failuresInRow + 1 : 0;
     if (failed && (fault == StorageFault::LocalFile || m_failuresInRow == limits::failuresInRow))

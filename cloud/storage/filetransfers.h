@@ -25,7 +25,8 @@ struct FileTransfer
 /// Carries files in one direction, some beside each other on connections that are kept.
 ///
 /// What was downloaded is whole, by length and hash, or its file is removed. Too many failures one behind the
-/// other, or one to write, end it all: the rest has the same fault then.
+/// other, or one to write, end it all: the rest has the same fault then. Of many that fail the log tells the
+/// number.
 class FileTransfers : public TransferTask
 {
     Q_OBJECT
@@ -63,6 +64,7 @@ private:
     QNetworkAccessManager* m_manager = nullptr;
     std::map<int, std::unique_ptr<UnderWay>> m_underWay;
     int m_next = 0;
+    int m_failures = 0;
     int m_failuresInRow = 0;
     bool m_hasEnded = false;
 };

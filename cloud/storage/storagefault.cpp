@@ -34,6 +34,8 @@ const char* text(StorageFault fault)
         return "";
     case StorageFault::NotSetUp:
         return QT_TRANSLATE_NOOP("Storage", "No cloud is set up");
+    case StorageFault::NoAccount:
+        return QT_TRANSLATE_NOOP("Storage", "Nobody is signed in");
     case StorageFault::Cancelled:
         return QT_TRANSLATE_NOOP("Storage", "Cancelled");
     case StorageFault::NoConnection:
@@ -46,6 +48,8 @@ const char* text(StorageFault fault)
         return QT_TRANSLATE_NOOP("Storage", "The cloud does not have it");
     case StorageFault::Changed:
         return QT_TRANSLATE_NOOP("Storage", "Somebody else has changed it meanwhile");
+    case StorageFault::Unfinished:
+        return QT_TRANSLATE_NOOP("Storage", "It is being published, or a publish of it was broken off");
     case StorageFault::Busy:
         return QT_TRANSLATE_NOOP("Storage", "The cloud is busy");
     case StorageFault::Damaged:

@@ -11,12 +11,14 @@ class Transfer;
 enum class StorageFault {
     None,
     NotSetUp,     ///< there is no deployment
+    NoAccount,    ///< nobody is signed in
     Cancelled,    ///< by the user or the program's end
     NoConnection, ///< the network, or something in between, failed
     TimedOut,     ///< no progress for too long
     Refused,      ///< the account may not (401, 403)
     Missing,      ///< no such object (404)
     Changed,      ///< the object is not what it was meant to be (412)
+    Unfinished,   ///< somebody is about to change what belongs together, or has broken that off
     Busy,         ///< later, perhaps (429, 5xx)
     Damaged,      ///< what came is not what is stored
     LocalFile,    ///< a file of this computer cannot be read or written

@@ -17,7 +17,7 @@ std::optional<ProjectPlace> ProjectPlace::of(const QString& project, const QStri
     if (pathFault(project).isEmpty() && !project.contains(QLatin1Char('/')))
         return ProjectPlace{workFolder + QLatin1Char('/') + project,
                             recordFolder + QLatin1Char('/') + project};
-    qCWarning(lcCloud) << "Not the name of a project:" << project;
+    qCWarning(lcCloud) << "Not the name of a project:" << shortened(project);
     return std::nullopt;
 }
 

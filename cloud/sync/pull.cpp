@@ -23,11 +23,10 @@ QSet<QString> toSet(const QStringList& list)
 
 } // namespace
 
-Pull::Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project, NewerFiles newerFiles)
+Pull::Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project)
     : m_cloud(cloud)
     , m_job(job)
     , m_project(project)
-    , m_newerFiles(newerFiles)
     , m_swap(project.place)
     , m_record(readRecord(project.place, project.source()))
     , m_local(readDirmap(project.place.folder).value_or(Dirmap()))
@@ -48,8 +47,8 @@ SyncResult Pull::run(const QString& revision)
         return answer.fault;
     });
     m_mapGeneration = answer.generation;
-    if (m_record && m_record->revision == revision)
-        m_newerFiles = NewerFiles::Take; // the one that was missing has come
+    m_fetchesMissing =
+        m_record && !m_record->complete && (revision.isEmpty() || m_record->revision == revision);
     QDir().mkpath(m_project.place.folder);
     if (fault != StorageFault::None && fault != StorageFault::Missing)
         return failure(fault);
@@ -88,9 +87,9 @@ void Pull::tell() const
                     << "to remove:" << m_plan.remove.size();
     qCDebug(lcCloud).noquote() << toText(m_plan);
     if (!m_plan.kept.isEmpty())
-        qCWarning(lcCloud) << "Edited here and not published, so not pulled:" << m_plan.kept;
+        qCWarning(lcCloud) << "Edited here and not published, so not pulled:" << someOf(m_plan.kept);
     if (!m_plan.refused.isEmpty())
-        qCWarning(lcCloud) << "Not possible as files of a project:" << m_plan.refused;
+        qCWarning(lcCloud) << "Not possible as files of a project:" << someOf(m_plan.refused);
 }
 
 bool Pull::wouldEmpty() const
@@ -105,7 +104,8 @@ void Pull::leaveOut(const QSet<QString>& paths)
 {
     if (paths.isEmpty())
         return;
-    qCWarning(lcCloud) << "Left as they are, for the cloud has them no more or there is no place:" << paths;
+    qCWarning(lcCloud) << "Left as they are, for the cloud has them no more or there is no place:"
+                       << someOf(paths.values());
     m_plan = withoutFiles(m_plan, paths, m_local, syncedOf(m_record));
 }
 
@@ -129,6 +129,8 @@ StorageFault Pull::fetch()
     if (!m_swap.prepare(m_plan.fetch, toSet(m_local.paths) + toSet(m_plan.local.paths)))
         return StorageFault::LocalFile;
     const StorageFault fault = persist(m_job, [this] { return fetchOnce(); });
+    if (fault == StorageFault::Unfinished)
+        qCWarning(lcCloud) << "Not pulled, there are files newer than its map:" << m_project.cloudPath;
     if (fault == StorageFault::Cancelled || fault == StorageFault::LocalFile)
         m_swap.rollBack();
     else if (fault != StorageFault::None)
@@ -167,9 +169,8 @@ StorageFault Pull::fetchOnce()
 StorageFault Pull::faultOf(const FileTransfer& file) const
 {
     const bool isNewer = m_mapGeneration != 0 && file.generation > m_mapGeneration;
-    return isNewer && file.fault == StorageFault::None && m_newerFiles == NewerFiles::Refuse
-               ? StorageFault::Changed
-               : file.fault;
+    return isNewer && file.fault == StorageFault::None && !m_fetchesMissing ? StorageFault::Unfinished
+                                                                            : file.fault;
 }
 
 bool Pull::applyPlan(const QString& revision)

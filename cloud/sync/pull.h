@@ -11,20 +11,17 @@
 
 /// Brings a project to the state that it has in the cloud: all at once, or not at all.
 ///
+/// A file that was uploaded after the directory map belongs to a push that goes on or was broken off: the
+/// fault is Unfinished then. What cannot be told is whether a file that is older than the map is the one that
+/// the map means, for it has no hashes: a push that was broken off before another one's map came.
+///
 /// It plans by the directory maps, fetches what differs beside the old files, tries again what fails, and
 /// changes the project only when all is there, with the player's project off the screen. A file that the
 /// cloud does not have any more stays as it is while the others change; the pull is not complete then.
 class Pull
 {
 public:
-    /// What a pull does with a file that was uploaded after the directory map, by somebody who is just
-    /// publishing, or has given it up.
-    enum class NewerFiles {
-        Refuse, ///< the fault is Changed: the map that it belongs to may come
-        Take
-    };
-
-    Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project, NewerFiles newerFiles);
+    Pull(GCloud& cloud, SyncJob& job, const SyncedProject& project);
 
     /// Whether `revision` says something new: it is not empty, nor the one pulled last and whole.
     bool isNews(const QString& revision) const;
@@ -48,12 +45,12 @@ private:
     GCloud& m_cloud;
     SyncJob& m_job;
     const SyncedProject m_project;
-    NewerFiles m_newerFiles;
     ProjectSwap m_swap;
     const std::optional<SyncRecord> m_record;
     const Dirmap m_local;
     PullPlan m_plan;
     qint64 m_mapGeneration = 0;
-    QSet<QString> m_missing; // in the cloud
+    bool m_fetchesMissing = false; // of this map, files that were not there before
+    QSet<QString> m_missing;       // in the cloud
     bool m_filesChanged = false;
 };

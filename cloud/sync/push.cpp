@@ -13,7 +13,10 @@ Push::Push(GCloud& cloud, SyncJob& job, const SyncedProject& project)
     , m_project(project)
     , m_record(readRecord(project.place, project.source()))
     , m_local(readDirmap(project.place.folder).value_or(Dirmap()))
+    , m_journal(readPushJournal(project))
 {
+    if (m_record)
+        m_synced = m_record->synced;
 }
 
 SyncResult Push::run()
@@ -21,7 +24,9 @@ SyncResult Push::run()
     StorageFault fault = StorageFault::Changed;
     for (int plans = 0; fault == StorageFault::Changed && plans < limits::pushPlans; ++plans)
         fault = attempt();
-    return failure(fault);
+    SyncResult result = failure(fault);
+    result.changedCloud = m_changesCloud;
+    return result;
 }
 
 StorageFault Push::attempt()
@@ -33,14 +38,33 @@ StorageFault Push::attempt()
     // The answer to the upload was lost, or it was sent a second time by the network stack.
     if (!written.isEmpty() && m_cloudMap == written)
         return remember();
+    knowOwnMap();
     if (!makePlan())
         return StorageFault::Cancelled;
     if (m_plan.local.isEmpty())
         return StorageFault::None;
+    if (m_plan.cloud == m_cloudMap)
+        return remember();
+    if (!begin())
+        return StorageFault::LocalFile;
     fault = upload();
-    if (fault == StorageFault::None && !(m_plan.cloud == m_cloudMap))
+    if (fault == StorageFault::None)
         fault = uploadMap();
     return fault == StorageFault::None ? remember() : fault;
+}
+
+// The program's last run has brought this map and ended before it could write that down.
+void Push::knowOwnMap()
+{
+    if (m_journal && m_journal->cloud == m_cloudMap)
+        m_synced = m_journal->synced;
+}
+
+bool Push::begin()
+{
+    m_changesCloud = true;
+    m_journal = PushJournal{m_project.source(), m_local, m_plan.cloud, m_plan.synced};
+    return writePushJournal(m_project.place, *m_journal);
 }
 
 StorageFault Push::readCloudMap()
@@ -61,9 +85,8 @@ StorageFault Push::readCloudMap()
 bool Push::makePlan()
 {
     const ProjectTree tree = lookAtProject(m_project.place.folder, m_local);
-    const std::optional<Dirmap> synced = m_record ? std::optional(m_record->synced) : std::nullopt;
     const auto planned = [&](const QSet<QString>& theirs) {
-        return planPush(tree.listed, tree.unlisted, synced, m_cloudMap, theirs);
+        return planPush(tree.listed, tree.unlisted, m_synced, m_cloudMap, theirs);
     };
     m_plan = planned({});
     // What stands in the cloud under a map of others may be what this push has brought: it wins in any case.
@@ -130,7 +153,19 @@ StorageFault Push::remember()
 {
     const SyncRecord after{m_project.source(), m_record ? m_record->revision : QString(),
                            !m_record || m_record->complete, m_plan.synced};
-    const bool written = (m_plan.local == m_local || writeDirmap(m_project.place.folder, m_plan.local)) &&
-                         writeRecord(m_project.place, after);
+    const bool written = writeLocalMap() && writeRecord(m_project.place, after);
     return written ? StorageFault::None : StorageFault::LocalFile;
+}
+
+// What was saved meanwhile has counted up in the map, and goes with the next push.
+bool Push::writeLocalMap()
+{
+    const QString& folder = m_project.place.folder;
+    if (m_plan.local == m_local || !(readDirmap(folder).value_or(Dirmap()) == m_local))
+        return true;
+    if (!writeDirmap(folder, m_plan.local))
+        return false;
+    if (m_journal)
+        m_journal->local = m_plan.local;
+    return !m_journal || writePushJournal(m_project.place, *m_journal);
 }

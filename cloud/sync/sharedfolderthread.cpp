@@ -8,6 +8,7 @@
 #include "cloud/sync/pull.h"
 #include "cloud/sync/push.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QRandomGenerator>
@@ -42,10 +43,14 @@ public:
 
     SyncResult carryOut()
     {
-        if (!m_owner.m_host.isConnected())
-            return failure(StorageFault::NoConnection);
         if (!m_owner.ownsProjects())
             return failure(StorageFault::InUse);
+        if (m_job.kind == Kind::EndPush) {
+            removePushJournal(m_job.project.place);
+            return {};
+        }
+        if (!m_owner.m_host.isConnected())
+            return failure(StorageFault::NoConnection);
         if (!ProjectSwap(m_job.project.place).finish())
             return failure(StorageFault::LocalFile);
         switch (m_job.kind) {
@@ -53,10 +58,9 @@ public:
             return follow();
         case Kind::Download:
             return download();
-        case Kind::Push:
-            break;
+        default:
+            return push();
         }
-        return Push(m_owner.m_cloud, *this, m_job.project).run();
     }
 
     bool isCancelled() const override
@@ -87,6 +91,10 @@ public:
     {
         if (m_job.conflicts == Conflicts::LocalWins)
             return QSet<QString>();
+        if (m_job.conflicts == Conflicts::GiveUp) {
+            qCWarning(lcCloud) << "Not published, changed in the cloud meanwhile:" << m_job.project.cloudPath;
+            return std::nullopt;
+        }
         emit m_owner.conflictsFound(m_job.number, conflicts);
         std::unique_lock lock(m_owner.m_mutex);
         m_owner.m_changed.wait(lock, [this] { return m_owner.m_theirs || mustEnd(); });
@@ -110,9 +118,7 @@ private:
 
     SyncResult follow()
     {
-        const bool isPatient = m_job.attempts < limits::patientAttempts;
-        Pull pull(m_owner.m_cloud, *this, m_job.project,
-                  isPatient ? Pull::NewerFiles::Refuse : Pull::NewerFiles::Take);
+        Pull pull(m_owner.m_cloud, *this, m_job.project);
         const QString source = m_job.project.source();
         if (!pull.isNews(m_job.revision) || m_owner.m_pulledEmpty.value(source) == m_job.revision)
             return {};
@@ -139,12 +145,21 @@ private:
 
     SyncResult download()
     {
-        Pull pull(m_owner.m_cloud, *this, m_job.project, Pull::NewerFiles::Take);
+        Pull pull(m_owner.m_cloud, *this, m_job.project);
         SyncResult result = pull.run({});
         if (pull.filesChanged())
             emit m_owner.reloadPlayer();
         if (!result.isThere)
             result.fault = StorageFault::Missing;
+        return result;
+    }
+
+    // A script counts the revision up itself, and nobody tells when.
+    SyncResult push()
+    {
+        const SyncResult result = Push(m_owner.m_cloud, *this, m_job.project).run();
+        if (result && m_job.conflicts == Conflicts::LocalWins)
+            removePushJournal(m_job.project.place);
         return result;
     }
 
@@ -222,6 +237,26 @@ int SharedFolderThread::push(const QString& project, Conflicts conflicts)
     job->conflicts = conflicts;
     const std::lock_guard lock(m_mutex);
     return queue(*job);
+}
+
+int SharedFolderThread::endPush(const QString& project)
+{
+    const std::optional<Job> job = jobOf(Kind::EndPush, project, sharedPath() + project);
+    const std::lock_guard lock(m_mutex);
+    return job ? queue(*job) : 0;
+}
+
+QStringList SharedFolderThread::begunPushes() const
+{
+    if (!m_deployment.isSet())
+        return {};
+    QStringList projects = QDir(m_host.shareFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    const auto isOther = [this](const QString& project) {
+        const std::optional<Job> job = jobOf(Kind::Push, project, sharedPath() + project);
+        return !job || !isPushBegun(job->project);
+    };
+    projects.erase(std::remove_if(projects.begin(), projects.end(), isOther), projects.end());
+    return projects;
 }
 
 int SharedFolderThread::download(const QString& cloudFolder)

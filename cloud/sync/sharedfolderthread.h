@@ -29,7 +29,8 @@ public:
     /// Which side wins where a file has changed on both since they were last synced.
     enum class Conflicts {
         LocalWins, ///< this computer's
-        Ask        ///< whichever conflictsFound() is answered with by settle()
+        Ask,       ///< whichever conflictsFound() is answered with by settle()
+        GiveUp     ///< neither: the push ends, cancelled
     };
 
     /// Finishes or takes back what was going on when the program last ended. When another running program
@@ -44,11 +45,18 @@ public:
     /// Pulls a project from the account's shared folder when `revision` is another one than the one pulled
     /// last. Of the pulls of one project that wait only the last is done.
     int pull(const QString& project, const QString& revision);
-    /// Pushes a project to the account's shared folder.
+    /// Pushes a project to the account's shared folder. When this is not a script's push (LocalWins), or it
+    /// fails, it counts as begun until endPush().
     int push(const QString& project, Conflicts conflicts);
+    /// Ends a push that has begun: its players have been told of it, or it is given up.
+    int endPush(const QString& project);
     /// Gets the project `cloudFolder`, an account and a path such as "e@x/ShareFolder/Name", under its last
     /// name.
     int download(const QString& cloudFolder);
+
+    /// The projects, of the account's, of which a push has begun, perhaps in an earlier run of the program,
+    /// and that have not been changed here since.
+    QStringList begunPushes() const;
 
     /// Waits until a job has ended, in a nested event loop; also ends when the program quits.
     void waitFor(int job);
@@ -74,7 +82,7 @@ protected:
     void run() override;
 
 private:
-    enum class Kind { Pull, Push, Download };
+    enum class Kind { Pull, Push, EndPush, Download };
     struct Job
     {
         int number = 0;

@@ -33,6 +33,7 @@ struct SyncResult
     bool complete = true; ///< false when, after a success, files were missing in the cloud
     bool isThere = true;  ///< false when the cloud has no directory map of the project, or an empty one
     QStringList kept;     ///< paths that a pull left alone, since they were edited here and are not published
+    bool changedCloud = false; ///< whether a push has brought anything
 
     explicit operator bool() const { return fault == StorageFault::None; }
 };

@@ -73,10 +73,10 @@ StackPage {
         text: root.notice !== "" ? root.notice : (root.failed ? "Error loading... " : "")
     }
 
-    // Where no cloud is set up there is no connection to lose.
+    // Where there is no cloud, or no account, there is no connection to lose.
     Rectangle {
         objectName: "connectionDot"
-        visible: SS.cloudIsSetUp()
+        visible: SS.cloudIsSetUp() && follower.user !== ""
         x: parent.width - width - 5
         y: 5
         width: 10
@@ -108,6 +108,7 @@ StackPage {
 
     ProjectFollower {
         id: follower
+        objectName: "follower"
         project: root.project
     }
 
@@ -115,7 +116,8 @@ StackPage {
         target: CAPI
 
         function onReloadPlayer() {
-            root.load();
+            if (!follower.showAwaited()) // which ends here again
+                root.load();
         }
 
         function onStartUpdating() {

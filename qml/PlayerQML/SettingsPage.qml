@@ -43,7 +43,16 @@ FormPage {
         }
     }
 
+    // Names a folder of the cloud and a place of the database.
+    function isHostName(name) {
+        return !/[\/#$\[\]\x00-\x1f\x7f]/.test(name) && /[^.\s]/.test(name);
+    }
+
     function save() {
+        if (form.hostName !== "" && !isHostName(form.hostName)) {
+            message.text = qsTr("A host name needs a letter or digit, and cannot have / # $ [ ] in it.");
+            return;
+        }
         CAPI.setSetting("doOnStart", form.startScreen);
         renameProject();
         if (form.hostName === "") {

@@ -28,9 +28,22 @@ var startedProject = "";
 
 // --- places in the database -------------------------------------------------------------------------------
 
-/// `name` as a key of the database, which knows no dots.
-function key(name) {
+/// `name` as the database's records have it.
+function withoutDots(name) {
     return name.replace(/\./g, "");
+}
+
+/// `name` as a key of the database: without dots, and with the other characters that keys cannot have (Realtime
+/// Database, "Structure data": $ # [ ] / and control characters) percent-encoded.
+function key(name) {
+    return withoutDots(name).replace(/[$#\[\]\/\x00-\x1f\x7f]/g, function(character) {
+        return "%" + ("0" + character.charCodeAt(0).toString(16).toUpperCase()).slice(-2);
+    });
+}
+
+// A place of the database whose parts are all there; who has no name, or one of dots alone, has no place.
+function isPlace(path) {
+    return path.split("/").indexOf("") < 0;
 }
 
 function playersPath(user) {
@@ -95,15 +108,24 @@ function send(request, callback, timer) {
     http.send(request.body);
 }
 
+function refuse(callback, reason) {
+    if (callback)
+        Qt.callLater(function() { callback(false, {"error": reason}); });
+}
+
 // Sends what `makeRequest` builds, or tells the callback that there is no cloud to send to.
 function sendIfSetUp(makeRequest, callback, timer) {
     if (cloudIsSetUp())
         send(makeRequest(), callback, timer);
-    else if (callback)
-        Qt.callLater(function() { callback(false, {"error": "no cloud is set up"}); });
+    else
+        refuse(callback, "no cloud is set up");
 }
 
 function firebaseCall(child, callback, timer, call) {
+    if (!isPlace(child)) {
+        refuse(callback, "no such place in the database");
+        return;
+    }
     sendIfSetUp(function() {
         return {
             "method": call.method,
@@ -186,7 +208,7 @@ function deletePlayer(user, player, callback, timerTimeOut) {
 
 /// Says which project a player is to show.
 function setPlayerProject(user, player, project, callback, timerTimeOut) {
-    firebaseSet(playerPath(user, player), {"project": key(project)}, callback, timerTimeOut);
+    firebaseSet(playerPath(user, player), {"project": withoutDots(project)}, callback, timerTimeOut);
 }
 
 /// Counts a project's revision up; the first one is 0. Two editors at the same moment can count once.
@@ -204,16 +226,17 @@ function updateRev(user, project, callback, timerTimeOut) {
 
 // --- realtime subscriptions -------------------------------------------------------------------------------
 
-// What is followed, by its subscriber: {url, take, reader, lastHeard (ms)}.
+// What is followed, by its subscriber: {url, take, reader, opened and lastHeard (times, ms), reopenAt (likewise; of a
+// stream that has ended), attempts (that have ended soon)}.
 const streams = new Map();
 
 // Calls `take` with each value that the place gets, the present one first. Returns the subscriber, which lives
-// until unsubscribe(); null without a cloud.
+// until unsubscribe(); null without a cloud, or such a place.
 function subscribe(child, take) {
-    const subscriber = cloudIsSetUp() ? JCAPI.newFirebaseSubscriber() : null;
+    const subscriber = cloudIsSetUp() && isPlace(child) ? JCAPI.newFirebaseSubscriber() : null;
     if (!subscriber)
         return null;
-    const stream = {"url": databaseUrl(child), "take": take};
+    const stream = {"url": databaseUrl(child), "take": take, "attempts": 0};
     streams.set(subscriber, stream);
     subscriber.dataReceived.connect(function(chunk) { hear(stream, chunk); });
     open(subscriber, stream);
@@ -222,13 +245,18 @@ function subscribe(child, take) {
 
 function open(subscriber, stream) {
     stream.reader = EventStream.reader();
-    stream.lastHeard = Date.now();
+    stream.opened = stream.lastHeard = Date.now();
+    stream.reopenAt = undefined;
     subscriber.subscribe(stream.url);
 }
 
-// Whoever takes a value may end the subscription.
+// An empty chunk says that the stream has ended. Whoever takes a value may end the subscription.
 function hear(stream, chunk) {
     stream.lastHeard = Date.now();
+    if (chunk === "") {
+        planReopening(stream);
+        return;
+    }
     stream.reader.feed(chunk).forEach(function(value) {
         if (!stream.ended)
             stream.take(value);
@@ -246,11 +274,27 @@ function unsubscribe(subscriber) {
     subscriber.destroy();
 }
 
-// A stream that failed is opened again, and one in which not even a keep-alive came: it has ended, or its
-// connection has gone without a word.
+function planReopening(stream) {
+    if (stream.lastHeard - stream.opened >= Limits.streamLasts)
+        stream.attempts = 0;
+    const most = Math.min(Limits.reopenMost, Limits.reopenFirst * Math.pow(2, stream.attempts));
+    stream.reopenAt = Date.now() + most * (1 + Math.random()) / 2;
+    ++stream.attempts;
+}
+
+/// Opens the streams again that have ended; called now and then.
+function reopenEnded() {
+    streams.forEach(function(stream, subscriber) {
+        if (Date.now() >= stream.reopenAt)
+            open(subscriber, stream);
+    });
+}
+
+// A stream that ended is opened again, and one in which not even a keep-alive came: its connection has gone without
+// a word.
 function checkUp(subscriber) {
     const stream = streams.get(subscriber);
-    if (stream && Date.now() - stream.lastHeard >= Limits.streamSilence)
+    if (stream && (stream.reopenAt || Date.now() - stream.lastHeard >= Limits.streamSilence))
         open(subscriber, stream);
     else
         subscriber.checkUp();
@@ -267,8 +311,13 @@ function checkUpSubscriptions() {
 /// Fetches the project whenever its revision in the cloud changes.
 function subscribeToProjectRevision(user, project) {
     return subscribe(projectPath(user, project) + "/revision", function(revision) {
-        if (revision !== null)
-            JCAPI.doOneShareDown(project, String(revision));
+        const text = String(revision);
+        if (revision === null)
+            return;
+        if (text.length <= Limits.revisionLength)
+            JCAPI.doOneShareDown(project, text);
+        else
+            console.warn("Not a revision:", shortened(text));
     });
 }
 
@@ -281,15 +330,61 @@ function localRevision(project) {
     return record && typeof record.revision === "string" ? record.revision : "";
 }
 
-/// Shows the project that the player's entry names, whenever that changes. The entry's name has no dots.
-function subscribeToPlayerProject(user, player) {
-    return subscribe(playerPath(user, player) + "/project", function(project) {
-        if (typeof project !== "string" || project === "" || project === key(JCAPI.getSSetting("lastProject")))
-            return;
-        JCAPI.setSetting("lastProject", project);
-        JCAPI.setBaseFolder(project);
-        JCAPI.reloadPlayer();
+/// Calls `show`, else showProject(), as show(user, player, project), with the project that the player is to show
+/// whenever its entry changes: the entry's, if somebody else has named it there, also while this player was off; else
+/// its own, which the entry is told then. The entry's name has no dots.
+function subscribeToPlayerProject(user, player, show) {
+    return subscribe(playerPath(user, player) + "/project", function(value) {
+        const own = JCAPI.getSSetting("lastProject");
+        const isOwn = value === withoutDots(own);
+        const isWish = !isOwn && isProjectName(value) && !wasTold(user, player, value);
+        (show || showProject)(user, player, isWish ? value : own);
+        if (isOwn)
+            keepTold(user, player, value);
+        else if (!isWish && own !== "")
+            tellProject(user, player, own);
     });
+}
+
+/// Shows a project from now on, which its player's entry names.
+function showProject(user, player, project) {
+    if (project === JCAPI.getSSetting("lastProject"))
+        return;
+    keepTold(user, player, project);
+    JCAPI.setSetting("lastProject", project);
+    JCAPI.setBaseFolder(project);
+    JCAPI.reloadPlayer();
+}
+
+// What this player knows to be in its entry is a setting: another name there is somebody else's.
+function keepTold(user, player, project) {
+    JCAPI.setSetting("toldProject", playerPath(user, player) + "/" + withoutDots(project));
+}
+
+function wasTold(user, player, project) {
+    return JCAPI.getSSetting("toldProject") === playerPath(user, player) + "/" + project;
+}
+
+function tellProject(user, player, project) {
+    setPlayerProject(user, player, project, function(success) {
+        if (success)
+            keepTold(user, player, project);
+    });
+}
+
+function isProjectName(value) {
+    if (typeof value !== "string" || value === "")
+        return false;
+    const isName = value.length <= Limits.nameLength && !/[\/\x00-\x1f]/.test(value) && value !== "." && value !== "..";
+    if (!isName)
+        console.warn("Not the name of a project:", shortened(value));
+    return isName;
+}
+
+// A text of any length for the log.
+function shortened(text) {
+    const some = text.substring(0, Limits.logLength);
+    return some === text ? text : some + "... (" + text.length + " characters)";
 }
 
 /// Runs the commands sent to the player in the scope of `evaluator`, which has a function evaluate(text).
@@ -316,6 +411,6 @@ function run(command, evaluator) {
     try {
         evaluator.evaluate(command);
     } catch (error) {
-        console.warn("The command failed: " + error);
+        console.warn("The command failed: " + shortened(String(error)));
     }
 }

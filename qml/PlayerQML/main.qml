@@ -5,6 +5,7 @@ import QtQml 2.15
 import QtQuick.Controls 1.4
 import Nuvex.Deployment 1.0
 import "private"
+import "private/limits.js" as Limits
 import "SharedVars.js" as SS
 
 /// The program's root: a stack of pages. Decides what is shown first and keeps the heartbeat going.
@@ -127,6 +128,19 @@ StackView {
 
     Heartbeat {
         id: heartbeat
+        onAnswered: resumer.goOn()
+    }
+
+    PublishResumer {
+        id: resumer
+    }
+
+    // Streams that end are opened again.
+    Timer {
+        interval: Limits.streamMending
+        repeat: true
+        running: Deployment.available
+        onTriggered: SS.reopenEnded()
     }
 
     Instantiator {

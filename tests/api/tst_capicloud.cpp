@@ -132,6 +132,10 @@ void TestCapiCloud::screenshotFitsTheSquare()
     const QByteArray bytes = m_cloud.object("NUVEX/users/a@b.c/screenshots/p1.jpg");
     const QImage picture = QImage::fromData(bytes, "JPG");
     QCOMPARE(picture.size(), QSize(200, 112));
+    m_capi->setSetting("userEmail", "");
+    m_cloud.takeCounters();
+    m_capi->uploadScreenshot(200);
+    QCOMPARE(m_cloud.takeCounters(), (QMap<QString, int>()));
     const QColor middle = picture.pixelColor(100, 56);
     QVERIFY2(middle.red() > 240 && middle.green() < 15, qPrintable(middle.name()));
 }
@@ -199,6 +203,18 @@ void TestCapiCloud::demosAreImported()
     QTRY_VERIFY(m_capi->extractFinished());
     QCOMPARE(contents(work("Show/main.qml")), QByteArray("Item { }"));
 
+    // One that holds a project without its folder; it gets one.
+    document.name = "main.qml";
+    ZipEntry picture2 = document;
+    picture2.name = "images/a.png";
+    m_cloud.put("NUVEX/Demos/Bare one.zip", ZipArchive{picture2, document}.bytes());
+    m_page->downloadArchive("NUVEX/Demos/Bare one.zip");
+    QCOMPARE(endOf(*m_page), QString("fine"));
+    QTRY_COMPARE(contents(work("Bare one/main.qml")), QByteArray("Item { }"));
+    QVERIFY(QFile::exists(work("Bare one/images/a.png")));
+    QCOMPARE(QDir(work(".")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList({"Bare one", "Show"}));
+
     // Nothing stays of the archives.
     QDir root(work(".."));
     for (const QString& hidden : root.entryList({".store-*"}, QDir::Dirs | QDir::Hidden))
@@ -253,9 +269,16 @@ void TestCapiCloud::pagesAskWhenBothHaveChanged()
     m_page->publish("Shop");
     QCOMPARE(endOf(*m_page), QString("fine"));
     QCOMPARE(asked, QStringList({"a", "b"}));
+    QVERIFY(m_page->hasPublished());
     QCOMPARE(m_cloud.object(shared + "Shop/a"), QByteArray("mine"));
     QCOMPARE(m_cloud.object(shared + "Shop/b"), QByteArray("theirs"));
     QCOMPARE(m_cloud.object(shared + "Shop/dirmap"), QByteArray("a 6\nb 5\n"));
+
+    m_cloud.put(shared + "Shop/dirmap", "a 6\nb 7\n");
+    m_capi->updateDirmapFile(QVariantMap{{"a", 6}, {"b", 8}});
+    m_page->publish("Shop");
+    QCOMPARE(endOf(*m_page), QString("fine"));
+    QVERIFY(!m_page->hasPublished());
 }
 
 void TestCapiCloud::pagesDownload()
@@ -329,6 +352,10 @@ void TestCapiCloud::errorsAreWords()
 {
     m_page->downloadProject("a@b.c/ShareFolder/None");
     QCOMPARE(endOf(*m_page), QString("The cloud does not have it"));
+    m_capi->setSetting("userEmail", "");
+    m_page->publish("Shop");
+    QCOMPARE(endOf(*m_page), QString("Nobody is signed in"));
+    m_capi->setSetting("userEmail", "a@b.c");
     m_page->publish("..");
     QCOMPARE(endOf(*m_page), QString("The cloud does not have it"));
     m_cloud.setFaults(R"([{"method":"GET","times":1000,"status":403}])");

@@ -3,6 +3,8 @@
 
 #include "app/limits.h"
 #include "app/logfile.h"
+#include "app/messageguard.h"
+#include "tests/support/logcapture.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -20,6 +22,8 @@ private slots:
     void messagesOfAllThreadsComeWhole();
     void startsANewFileAtTheLimit();
     void isQuietWithoutAFile();
+    void messagesHaveBoundsAndNoSecrets_data();
+    void messagesHaveBoundsAndNoSecrets();
 
 private:
     QString path() const { return m_home->filePath("nuvex.log"); }
@@ -72,6 +76,39 @@ void TestLogFile::isQuietWithoutAFile()
     LogFile log(m_home->filePath("no/such/folder/nuvex.log"));
     log.write("nobody reads this");
     QVERIFY(QDir(m_home->path()).isEmpty());
+}
+
+void TestLogFile::messagesHaveBoundsAndNoSecrets_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("logged");
+    QTest::newRow("plain") << "a=b, Signature=x"
+                           << "a=b, Signature=x";
+    QTest::newRow("picture")
+        << "Error transferring https://h/b/o.jpg?GoogleAccessId=a@b&Expires=1&Signature=ab%2Bc - "
+           "server replied: Not Found"
+        << "Error transferring https://h/b/o.jpg?GoogleAccessId=a@b&Expires=1&Signature=... - "
+           "server replied: Not Found";
+    QTest::newRow("database") << "\"http://h/x.json?auth=secret&shallow=true\" and ?key=other\n"
+                              << "\"http://h/x.json?auth=...&shallow=true\" and ?key=...\n";
+    QTest::newRow("huge") << QString(9'000'000, 'x')
+                          << QString(limits::messageLength, 'x') + "... (9000000 characters)";
+}
+
+// Also on their way past the file.
+void TestLogFile::messagesHaveBoundsAndNoSecrets()
+{
+    QFETCH(QString, message);
+    QFETCH(QString, logged);
+    const LogCapture seen;
+    {
+        LogFile log(path());
+        log.captureMessages();
+        guardMessages();
+        qInfo().noquote() << message;
+    }
+    QCOMPARE(seen.messages(), QStringList(logged));
+    QVERIFY(content(path()).endsWith(logged.toUtf8() + '\n'));
 }
 
 QTEST_GUILESS_MAIN(TestLogFile)

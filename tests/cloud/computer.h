@@ -60,9 +60,11 @@ public:
     /// Publishes and waits; conflicts go to the answer set by settleConflicts(), else the local side wins.
     SyncResult push()
     {
-        const bool asks = m_theirs.has_value();
-        return resultOf(m_worker->push("Shop", asks ? SharedFolderThread::Conflicts::Ask
-                                                    : SharedFolderThread::Conflicts::LocalWins));
+        return push(m_theirs ? SharedFolderThread::Conflicts::Ask : SharedFolderThread::Conflicts::LocalWins);
+    }
+    SyncResult push(SharedFolderThread::Conflicts conflicts)
+    {
+        return resultOf(m_worker->push("Shop", conflicts));
     }
     void settleConflicts(const QStringList& theirs) { m_theirs = theirs; }
     QStringList conflicts; ///< that were asked for

@@ -45,11 +45,14 @@ class CloudTest(ProgramTest):
     def start_player(self):
         profile = Profile()
         self.addCleanup(profile.remove)
-        profile.write_settings(userEmail=EMAIL, playerUID="wall_1", doOnStart="play", lastProject="Shop",
-                               shareFolder="true")
+        self.play(profile)
         screen = Screen()
         self.addCleanup(screen.close)
         return self.run_program(screen, profile)
+
+    def play(self, profile):
+        profile.write_settings(userEmail=EMAIL, playerUID="wall_1", doOnStart="play", lastProject="Shop",
+                               shareFolder="true")
 
     def write(self, project, colour, revision):
         """Saves a project's document as an editor does, which counts its revision up."""
@@ -131,6 +134,54 @@ class CloudTest(ProgramTest):
 
         self.look_at_the_cloud(editor)
         self.sign_out(editor)
+
+    def project_in_the_cloud(self, project, colour, revision):
+        place = f"NUVEX/users/{EMAIL}/ShareFolder/{project}/"
+        self.cloud.put(place + "main.qml", f"import QtQuick 2.15\nRectangle {{ color: '{colour}' }}\n")
+        self.cloud.put(place + "dirmap", f"main.qml {revision + 1}\n")
+        self.database(f"Projects/{project}/revision", revision)
+
+    def test_chosen_project(self):
+        """A project that the account chooses: what plays goes on until it is there; chosen while the player was off."""
+        self.project_in_the_cloud("Shop", "teal", 0)
+        self.project_in_the_cloud("Cafe", "purple", 0)
+        player = self.start_player()
+        self.wait_colour(player, TEAL)
+        wait_for(lambda: self.database("Players/wall_1/project") == "Shop", "what the player tells of its project")
+        self.cloud.faults({"method": "GET", "target": "*Cafe%2Fmain.qml*", "delayMs": 3000})
+        self.database("Players/wall_1/project", "Cafe")
+        end = time.monotonic() + 2.5
+        while time.monotonic() < end:
+            self.assertEqual(colour_at(player.screen, 640, 360), TEAL)
+        self.wait_colour(player, PURPLE)
+
+        player.close()
+        self.database("Players/wall_1/project", "Shop")
+        player = self.run_program(player.screen, player.profile)
+        self.wait_colour(player, TEAL)
+        self.assertEqual(self.database("Players/wall_1/project"), "Shop")
+
+    def test_publisher_is_killed(self):
+        """A publish that ends half-way: new players wait, and the publisher's next start ends it."""
+        self.write("Shop", "teal", 1)
+        for number in range(20):
+            (self.profile.work / f"Shop/x{number}").write_text("one", "utf-8")
+        self.profile.write_settings(userEmail=EMAIL, playerUID="desk_1", doOnStart="", lastProject="Shop")
+        editor = self.run_program(self.screen, self.profile)
+        editor.click("Open")
+        self.publish(editor, "Shop", 0)
+        self.write("Shop", "orange", 2)
+        (self.profile.work / "Shop/dirmap").write_text("main.qml 2\n" + "".join(f"x{n} 2\n" for n in range(20)), "utf-8")
+        self.cloud.faults({"method": "POST", "target": "*Shop%2Fx*", "skip": 8, "times": 99, "requestStallAfter": 1})
+        editor.click("Publish Shop")
+        wait_for(lambda: self.cloud.ask("GET", "/_localcloud/faults").body["left"] < 99, "the publish to be half-way")
+        editor.close()
+        self.cloud.faults()
+        player = self.start_player()
+        wait_for(lambda: "newer than its map" in player.log(), "the player to see what it is")
+        self.run_program(self.screen, self.profile)
+        self.wait_colour(player, ORANGE)
+        wait_for(lambda: self.database("Projects/Shop/revision") == 1, "the revision")
 
     def look_at_the_cloud(self, editor):
         """The store, and the tab Cloud: its list, a project got back, and words when the cloud has gone."""

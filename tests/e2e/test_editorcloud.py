@@ -57,7 +57,7 @@ class PublishingTest(EditorTest):
         self.publish()
         program.wait_text("Shop was changed in the cloud, too")
         program.click("Keep those in the cloud")
-        program.wait_text("Shop is published, as revision 1.")
+        program.wait_text("Nothing of Shop was published: it is now as in the cloud.")
         self.wait_colour("red", "#00aa00")  # what was kept has come, and is shown
         self.assertEqual(self.source(), theirs)
         program.key("ctrl+z")

@@ -356,6 +356,18 @@ class PagesTest(ProgramTest):
         program.wait_page("RADEditorPage")
         self.assertEqual([p.name for p in self.profile.work.iterdir()], ["Deli"])
 
+    def test_save_refuses_a_bad_host_name(self):
+        program = self.start()
+        self.go_to(program, "SettingsPage")
+        for host in ("Office/1", "[A]", "#", "$", ".", " "):
+            program.tab_to("hostName")
+            program.key("ctrl+a", "Delete")
+            program.type(host)
+            program.click("save")
+            program.wait_text("A host name needs a letter or digit")
+            self.assertEqual(program.page(), "SettingsPage")
+        self.assertEqual(self.profile.setting("playerUID"), "west_12")
+
     def test_save_refuses_a_bad_project_name(self):
         program = self.start()
         self.go_to(program, "SettingsPage")

@@ -17,6 +17,8 @@ FocusScope {
     readonly property bool running: transfers.running || isCounting
     // Files are published, and the revision that players follow is being counted up.
     property bool isCounting: false
+    // Files that differ from those in the cloud, which were to stay there.
+    property int kept: 0
     property var atEnd: () => {}
 
     // A type of Notice, and what there is to say.
@@ -29,11 +31,12 @@ FocusScope {
         project = name;
         caption = words;
         atEnd = whenDone;
+        kept = 0;
         told("info", "");
     }
 
     function publish(name) {
-        begin(name, qsTr("Publishing %1"), countUp);
+        begin(name, qsTr("Publishing %1"), endPublish);
         transfers.publish(name, localPath(still.source));
     }
 
@@ -66,6 +69,22 @@ FocusScope {
             CAPI.doOneShareDown(name, revision);
     }
 
+    function endPublish() {
+        if (transfers.hasPublished() || kept === 0)
+            countUp();
+        else
+            getKept();
+    }
+
+    // Nothing is new in the cloud; what was given up for it comes to this computer.
+    function getKept() {
+        transfers.endPublish(project);
+        caption = qsTr("Getting %1");
+        atEnd = () => told("info", qsTr("Nothing of %1 was published: it is now as in the cloud.").arg(project));
+        transfers.downloadProject(user + "/ShareFolder/" + project);
+    }
+
+    // When it fails, the next start tells the players.
     function countUp() {
         isCounting = true;
         SS.updateRev(user, project, (success, result) => {
@@ -79,18 +98,26 @@ FocusScope {
     }
 
     function tellPublished(revision) {
+        transfers.endPublish(project);
         note(project, String(revision));
-        told("success", qsTr("%1 is published, as revision %2.").arg(project).arg(revision));
+        const text = qsTr("%1 is published, as revision %2.").arg(project).arg(revision);
+        told("success", kept === 0 ? text : text + " " + qsTr("Files kept as they are in the cloud: %1.").arg(kept));
         published(project, revision);
     }
 
     function end(error, cancelled) {
         if (cancelled)
-            told("info", qsTr("%1 was cancelled.").arg(caption.arg(project)));
+            told("info", cancelText());
         else if (error !== "")
             told("danger", qsTr("%1 failed: %2.").arg(caption.arg(project)).arg(error));
         else
             atEnd();
+    }
+
+    function cancelText() {
+        const text = qsTr("%1 was cancelled.").arg(caption.arg(project));
+        return transfers.uploading && transfers.files > 0
+            ? text + " " + qsTr("Some files are in the cloud; until they all are, it cannot be got from there.") : text;
     }
 
     function progressText() {
@@ -126,7 +153,10 @@ FocusScope {
     ConflictBox {
         id: conflicts
         project: root.project
-        onSettled: transfers.settle(theirs)
+        onSettled: {
+            root.kept = theirs.length;
+            transfers.settle(theirs);
+        }
         onRejected: transfers.cancel()
     }
 

@@ -5,7 +5,7 @@ import "../SharedVars.js" as SS
 import "limits.js" as Limits
 
 /// Tells the account's database once a minute that this player is alive, and with sharing on sends a screenshot
-/// every twentieth time. The answer sets CAPI.iConnected.
+/// every twentieth time. The answer sets CAPI.iConnected. Without an account nothing is sent.
 Timer {
     id: root
 
@@ -13,6 +13,9 @@ Timer {
     property int sharedTicks: 0
 
     readonly property int screenshotWidth: 300
+
+    // The cloud has answered well.
+    signal answered()
 
     function sendScreenshotWhenDue() {
         if (!CAPI.getBSetting("shareFolder"))
@@ -24,8 +27,10 @@ Timer {
 
     function takeAnswer(success) {
         CAPI.iConnected = success;
-        if (success)
-            SS.checkUpSubscriptions();
+        if (!success)
+            return;
+        SS.checkUpSubscriptions();
+        answered();
     }
 
     interval: Limits.firstHeartbeat
@@ -33,7 +38,10 @@ Timer {
     onTriggered: {
         interval = Limits.heartbeatPeriod;
         timeOut.abort();
-        SS.heartbeat(CAPI.getSSetting("userEmail"), CAPI.getSSetting("playerUID"), takeAnswer, timeOut);
+        const user = CAPI.getSSetting("userEmail");
+        if (user === "")
+            return;
+        SS.heartbeat(user, CAPI.getSSetting("playerUID"), takeAnswer, timeOut);
         sendScreenshotWhenDue();
     }
 }

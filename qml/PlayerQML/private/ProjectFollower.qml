@@ -9,34 +9,54 @@ QtObject {
     id: root
 
     property string project
+    // The account has chosen it, and it is not here yet; empty for none. What plays goes on meanwhile.
+    property string awaited: ""
+    property var playing: null
     property var followed: []
-    // Outlives this object in the answers that are still to come.
-    property var life: ({ "isOver": false })
 
     readonly property string user: CAPI.getSSetting("userEmail")
     readonly property string player: CAPI.getSSetting("playerUID")
-    readonly property bool follows: CAPI.getBSetting("shareFolder") && SS.startedProject === ""
+    readonly property LoggingCategory log: LoggingCategory { name: "nuvex.shell" }
+    readonly property bool follows: user !== "" && CAPI.getBSetting("shareFolder") && SS.startedProject === ""
 
     function projectsToFollow(document) {
         const projects = document && document.listOfProjectsToUpdate ? [].concat(document.listOfProjectsToUpdate) : [];
-        return projects.includes(project) ? projects : projects.concat(project);
+        return projects.concat([project, awaited]).filter((name, at, all) => name !== "" && all.indexOf(name) === at);
     }
 
-    // Begins with the account's choice, once this player's own project has been told: what was chosen before
-    // must not come back. `document` is the playing document's root item, or null.
+    // `document` is the playing document's root item, or null.
     function start(document) {
         if (!follows)
             return;
         follow(document);
-        const ownLife = life;
-        SS.setPlayerProject(user, player, project, () => {
-            if (!ownLife.isOver)
-                SS.playersSubscription = SS.subscribeToPlayerProject(user, player);
-        });
+        SS.playersSubscription = SS.subscribeToPlayerProject(user, player, (owner, self, name) => show(name));
+    }
+
+    function isHere(name) {
+        return name !== "" && CAPI.fileExist(CAPI.getWorkDirectory() + "/" + name + "/" + SS.qmlFileName);
+    }
+
+    function show(name) {
+        const own = CAPI.getSSetting("lastProject");
+        awaited = name !== own && isHere(own) && !isHere(name) ? name : "";
+        follow(playing);
+        if (awaited === "")
+            SS.showProject(user, player, name);
+        else
+            console.info(log, "waits for", awaited);
+    }
+
+    // Shows the awaited project if it has come. False when there is none.
+    function showAwaited() {
+        const hasCome = isHere(awaited);
+        if (hasCome)
+            show(awaited);
+        return hasCome;
     }
 
     // Follows what `document` needs, in place of what the last one needed.
     function follow(document) {
+        playing = document;
         const wanted = projectsToFollow(document);
         if (!follows || wanted.join("/") === followed.join("/"))
             return;
@@ -46,7 +66,6 @@ QtObject {
     }
 
     function stop() {
-        life.isOver = true;
         SS.projectSubscriptions.forEach(SS.unsubscribe);
         SS.unsubscribe(SS.playersSubscription);
         SS.projectSubscriptions = [];

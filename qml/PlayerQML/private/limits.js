@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 //
-// Waits and periods of the shell, in milliseconds. Tests may set them.
+// Waits and periods of the shell, in milliseconds, and bounds of what it takes from outside. Tests may set them.
 
 /// The first heartbeat after the start, and the time between two.
 var firstHeartbeat = 1000;
@@ -15,6 +15,19 @@ var requestDeadline = 10000;
 
 /// A realtime stream that is silent for so long is opened again; its keep-alives come every 30 s.
 var streamSilence = 75000;
+
+/// How often streams that have ended are looked after; and until one is opened again: doubled each time up to the
+/// most, with some chance in it, and from the start once a stream has lasted.
+var streamMending = 1000;
+var reopenFirst = 1000;
+var reopenMost = 60000;
+var streamLasts = 40000;
+
+/// Longest name, in UTF-16 units, and longest revision that is taken from the database; and what the log shows of
+/// a longer text.
+var nameLength = 255;
+var revisionLength = 64;
+var logLength = 200;
 
 /// After a project's document came on the screen, its still is taken.
 var firstStill = 8000;

@@ -3,6 +3,7 @@
 
 #include "tests/qml/shell/script.h"
 #include "tests/support/httpserver.h"
+#include "tests/support/logcapture.h"
 
 #include <QtTest>
 
@@ -19,6 +20,7 @@ private slots:
     void results();
     void login();
     void signUp();
+    void placesWithoutAName();
     void revisionCountsUp_data();
     void revisionCountsUp();
     void timeOut();
@@ -27,7 +29,11 @@ private slots:
     void streams();
     void streamOpenedAgain();
     void silentStreamIsOpenedAnew();
+    void endedStreamsAreOpenedAgain();
+    void hugeValuesAreLeft();
     void subscriptions();
+    void playersProject_data();
+    void playersProject();
     void commands_data();
     void commands();
 
@@ -86,6 +92,13 @@ void TestCloudCalls::requests_data()
     QTest::newRow("player's project")
         << "SS.setPlayerProject('a.b@x.org', 'w.e_1', 'My.Shop 2', keep)" << QByteArray("POST") << player
         << QByteArray(R"({"project":"MyShop 2"})");
+    QTest::newRow("no keys of the database")
+        << "SS.firebaseGet(SS.playerPath('a/b', 'Office/1 [A]$#\\x01_1'), keep)" << QByteArray("GET")
+        << QByteArray("/Users/a%252Fb/Players/Office%252F1%20%255BA%255D%2524%2523%2501_1.json?auth=cred")
+        << QByteArray();
+    QTest::newRow("a project's name as a value")
+        << "SS.setPlayerProject('a.b@x.org', 'w.e_1', 'Bar [1] #2', keep)" << QByteArray("POST") << player
+        << QByteArray(R"({"project":"Bar [1] #2"})");
 }
 
 void TestCloudCalls::requests()
@@ -172,6 +185,19 @@ void TestCloudCalls::signUp()
     m_script->run("SS.signupNewUser('new@x.org', 'p', keep)");
     QTRY_COMPARE(m_script->answers(), QString(R"([[true,{"email":"new@x.org"}]])"));
     QCOMPARE(m_api->settings["userEmail"].toString(), QString("new@x.org"));
+}
+
+// Without an account there is no place for a heartbeat, nor for a command.
+void TestCloudCalls::placesWithoutAName()
+{
+    HttpServer server;
+    m_script->setHost(server.url(""));
+    m_script->run("SS.heartbeat('', 'west_1', keep); SS.updateRev('a', '...', keep);"
+                  "SS.subscribeToPlayerCommand('', 'west_1', harness)");
+    const QString refusal = R"([false,{"error":"no such place in the database"}])";
+    QTRY_COMPARE(m_script->answers(), "[" + refusal + "," + refusal + "]");
+    QCOMPARE(server.requests().size(), 0);
+    QVERIFY(m_api->calls.isEmpty());
 }
 
 void TestCloudCalls::revisionCountsUp_data()
@@ -301,6 +327,49 @@ void TestCloudCalls::silentStreamIsOpenedAnew()
     m_script->run("SS.unsubscribe(SS.commandsSubscription); SS.commandsSubscription = null");
 }
 
+// At once, then after growing pauses; a heartbeat may be sooner, and nothing is opened twice.
+void TestCloudCalls::endedStreamsAreOpenedAgain()
+{
+    m_script->setHost("http://h");
+    m_script->run(
+        "Limits.reopenFirst = 0; SS.commandsSubscription = SS.subscribeToProjectRevision('a', 'Shop')");
+    const QString opening = m_api->calls.constFirst();
+    m_script->run("SS.reopenEnded()");
+    send(put("5"));
+    QCOMPARE(m_api->calls, QStringList({opening, "doOneShareDown Shop 5"}));
+    m_api->calls.clear();
+    send("");
+    m_script->run("SS.reopenEnded(); SS.reopenEnded(); SS.checkUpSubscriptions()");
+    QCOMPARE(m_api->calls, QStringList({opening, "checkUp"}));
+    m_script->run("Limits.reopenFirst = 60000");
+    send("");
+    m_script->run("SS.reopenEnded()");
+    QCOMPARE(m_api->calls.size(), 2);
+    m_script->run("SS.checkUpSubscriptions(); SS.reopenEnded()");
+    QCOMPARE(m_api->calls, QStringList({opening, "checkUp", opening}));
+    m_script->run("Limits.reopenFirst = 1000; SS.unsubscribe(SS.commandsSubscription);"
+                  "SS.commandsSubscription = null; SS.reopenEnded()");
+    QCOMPARE(m_api->calls.size(), 4);
+}
+
+void TestCloudCalls::hugeValuesAreLeft()
+{
+    m_script->setHost("http://h");
+    const QString huge = put('"' + QByteArray(9'000'000, 'x') + '"');
+    const LogCapture log;
+    for (const char* subscribing :
+         {"SS.subscribeToProjectRevision('a', 'Shop')", "SS.subscribeToPlayerProject('a', 'b')"}) {
+        m_script->run(subscribing);
+        m_api->calls.clear();
+        send(huge);
+        QCOMPARE(m_api->calls, QStringList());
+    }
+    QCOMPARE(m_api->settings["lastProject"].toString(), QString("Sh.op"));
+    QCOMPARE(log.messages().size(), 2);
+    for (const QString& line : log.messages())
+        QVERIFY(line.size() < 1000);
+}
+
 void TestCloudCalls::subscriptions()
 {
     m_script->setHost("http://h");
@@ -321,6 +390,45 @@ void TestCloudCalls::subscriptions()
     QTRY_VERIFY(stream.isNull());
     m_script->run("SS.unsubscribe(null)");
     QVERIFY2(m_script->warnings.isEmpty(), qPrintable(m_script->warnings.join('\n')));
+}
+
+void TestCloudCalls::playersProject_data()
+{
+    QTest::addColumn<QString>("told"); // what the player knows to be in its entry
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QByteArray>("written");
+    const QByteArray own = R"({"project":"Shop"})";
+    QTest::newRow("a new player") << "" << QByteArray("null") << "Sh.op" << own;
+    QTest::newRow("as it was") << "Shop" << QByteArray("\"Shop\"") << "Sh.op" << QByteArray();
+    QTest::newRow("chosen here") << "Cafe" << QByteArray("\"Cafe\"") << "Sh.op" << own;
+    QTest::newRow("chosen there while it was off")
+        << "Shop" << QByteArray("\"Cafe\"") << "Cafe" << QByteArray();
+    QTest::newRow("chosen on both sides") << "Bar" << QByteArray("\"Cafe\"") << "Cafe" << QByteArray();
+    QTest::newRow("never told") << "" << QByteArray("\"Cafe\"") << "Cafe" << QByteArray();
+    for (const char* name : {"\"../x\"", "\"..\"", "7", "\"\"", "{\"a\":1}"})
+        QTest::newRow(name) << "Shop" << QByteArray(name) << "Sh.op" << own;
+}
+
+void TestCloudCalls::playersProject()
+{
+    QFETCH(QString, told);
+    QFETCH(QByteArray, entry);
+    QFETCH(QString, shown);
+    QFETCH(QByteArray, written);
+    HttpServer server;
+    server.setAnswer("/Users/ab/Players/w1.json?auth=cred", HttpAnswer::complete(200, "{}"));
+    m_script->setHost(server.url(""));
+    if (!told.isEmpty())
+        m_api->settings["toldProject"] = "Users/ab/Players/w1/" + told;
+    m_script->run("SS.subscribeToPlayerProject('a.b', 'w.1')");
+    send(put(entry));
+    QCOMPARE(m_api->settings["lastProject"].toString(), shown);
+    QTRY_COMPARE(server.requests().size(), written.isEmpty() ? 0 : 1);
+    QTRY_COMPARE(m_api->settings["toldProject"].toString(),
+                 "Users/ab/Players/w1/" + QString(shown).remove('.'));
+    if (!written.isEmpty())
+        QCOMPARE(server.requests().constFirst().body, written);
 }
 
 void TestCloudCalls::commands_data()

@@ -19,6 +19,7 @@ private slots:
     void silenceIsCutOff();
     void nextTickEndsTheOldRequest();
     void withoutCloud();
+    void withoutAnAccount();
 
 private:
     void tick() { QMetaObject::invokeMethod(m_script->child("heartbeat"), "triggered"); }
@@ -121,6 +122,18 @@ void TestHeartbeat::withoutCloud()
     QVERIFY(m_api->answers.isEmpty()); // never before the call returns
     QTRY_COMPARE(m_api->answers, QVector<bool>({false}));
     QVERIFY2(m_script->warnings.isEmpty(), qPrintable(m_script->warnings.join('\n')));
+}
+
+void TestHeartbeat::withoutAnAccount()
+{
+    HttpServer server;
+    m_script->setHost(server.url(""));
+    m_api->settings["userEmail"] = "";
+    setSharing(true);
+    tick();
+    QTest::qWait(100);
+    QCOMPARE(server.requests().size(), 0);
+    QVERIFY(m_api->calls.isEmpty() && m_api->answers.isEmpty());
 }
 
 QTEST_MAIN(TestHeartbeat)

@@ -19,6 +19,7 @@ private slots:
     void reload();
     void pageAfterForgetting();
     void connectionDot();
+    void chosenProjectIsAwaited();
 };
 
 namespace {
@@ -175,6 +176,37 @@ void TestPlayerPage::connectionDot()
     QCOMPARE(dot->property("color").value<QColor>(), QColor("white"));
     shell.api().setIConnected(false);
     QCOMPARE(dot->property("color").value<QColor>(), QColor("red"));
+}
+
+// What the account has chosen is not here yet: what plays goes on until it is.
+void TestPlayerPage::chosenProjectIsAwaited()
+{
+    setUp("import QtQuick 2.15\nItem { objectName: 'old' }");
+    Shell shell;
+    QVERIFY(shell.find("old"));
+    auto* follower = shell.page()->findChild<QObject*>("follower");
+    const auto choose = [&](const QString& name) {
+        QVERIFY(QMetaObject::invokeMethod(follower, "show", Q_ARG(QVariant, name)));
+    };
+    const auto followed = [&] {
+        return follower->property("followed").value<QJSValue>().toVariant().toStringList();
+    };
+    choose("Cafe");
+    QVERIFY(shell.find("old"));
+    QCOMPARE(TestProfile::setting("lastProject").toString(), QString("Shop"));
+    QCOMPARE(followed(), QStringList({"Shop", "Cafe"}));
+    emit shell.api().reloadPlayer(); // another one has been updated
+    QVERIFY(shell.find("old"));
+    TestProfile::addProject("Cafe", "import QtQuick 2.15\nItem { objectName: 'new' }");
+    emit shell.api().reloadPlayer();
+    QVERIFY(shell.find("new"));
+    QCOMPARE(TestProfile::setting("lastProject").toString(), QString("Cafe"));
+    QCOMPARE(followed(), QStringList({"Cafe"}));
+
+    choose("Bar");
+    choose("Cafe"); // taken back
+    QCOMPARE(followed(), QStringList({"Cafe"}));
+    QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
 }
 
 int main(int argc, char* argv[])
