@@ -125,8 +125,8 @@ ComponentCase {
         tryCompare(ground.video, "playbackState", MediaPlayer.StoppedState);
         ground.video.play();
         ground.video.pause();
-        ground.video.seek(500);
-        tryVerify(function() { return ground.video.position >= 400; });
+        // While its first frame is still on the way, GStreamer drops a seek.
+        tryVerify(function() { ground.video.seek(500); return ground.video.position >= 400; });
         compare(ground.video.playbackState, MediaPlayer.PausedState);
     }
 }
