@@ -61,9 +61,11 @@ function mediaOf(url, filters) {
     return kind === undefined ? null : kind;
 }
 
-/// Whether items of that type show a file of `kind`, which is their source.
-function showsMedia(typename, kind) {
-    return _shows[kind].indexOf(typename) >= 0;
+/// The property by which items of that type show a file of `kind`; "" for those that show none.
+function mediaProperty(typename, kind) {
+    if (_shows[kind].indexOf(typename) >= 0)
+        return "source";
+    return kind === "picture" && /^MenuItem\d$/.test(typename) ? "image" : "";
 }
 
 const _shows = {
