@@ -51,7 +51,7 @@ QtObject {
 
     function open() {
         Ejs.JCAPI = CAPI;
-        Ejs.selectItem = refresh;
+        Ejs.selectItem = takePanelChange;
         CAPI.readSourceCode("main.qml");
         root.savedSource = CAPI.editedSourceCode();
         still.project = CAPI.getBaseProjectName();
@@ -176,6 +176,13 @@ QtObject {
     function refresh() {
         ++revision;
         root.isChanged = CAPI.editedSourceCode() !== root.savedSource;
+    }
+
+    // Follows a change by the item's panel. What is made several times from its source is made anew.
+    function takePanelChange() {
+        refresh();
+        if (selection.isRepeated)
+            Qt.callLater(showAgain);
     }
 
     // Ends what goes on: a burst of keys, a text that is being written become changes.

@@ -15,6 +15,8 @@ QtObject {
     readonly property Item item: items.length > 0 ? items[0] : null
     /// Its record in the item map; null when nothing is selected.
     readonly property var record: item && desk.revision >= 0 ? Ejs.map[item.element] || null : null
+    /// Whether it is made several times from one place in the source, as by a repeater.
+    readonly property bool isRepeated: item !== null && desk.revision >= 0 && desk.live.isRepeated([item.element])
     readonly property bool isRoot: item !== null && item === desk.live.root
     /// The selected items without the document's root, without what lies in other selected ones, and without what is
     /// hidden or locked.

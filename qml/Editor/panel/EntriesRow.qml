@@ -57,6 +57,7 @@ PanelRow {
         put(list);
     }
 
+    minds: false
     labelWidth: width
 
     Column {

@@ -14,6 +14,11 @@ function number(value, decimals) {
     return String(Number(Number(value).toFixed(decimals)));
 }
 
+/// A live value, a number, truth value, colour or text, as source; numbers with at most two decimals.
+function literal(value) {
+    return typeof value === "number" ? number(value, 2) : typeof value === "boolean" ? String(value) : quoted(value);
+}
+
 /// The text that `source` writes between quotes; undefined when it is anything but one quoted text.
 function textIn(source) {
     if (!/^(?:"(?:[^"\\\n]|\\[^\n])*"|'(?:[^'\\\n]|\\[^\n])*')$/.test(source.trim()))

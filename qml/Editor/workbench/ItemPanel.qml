@@ -21,10 +21,12 @@ Item {
         onLoaded: item.radEditor = true
     }
 
-    Loader {
-        anchors.fill: parent
-        active: root.item !== null && !root.hasPanel
-        sourceComponent: GeneralPanel {
+    // A panel stays with its item: another item gets another one.
+    Repeater {
+        model: root.item !== null && !root.hasPanel ? [root.item] : []
+
+        GeneralPanel {
+            anchors.fill: parent
             desk: root.desk
         }
     }

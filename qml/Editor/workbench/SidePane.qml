@@ -46,6 +46,17 @@ FocusScope {
             elide: Text.ElideRight
         }
 
+        BGUI.Label {
+            objectName: "repeatedHint"
+            x: 2 * BGUI.Theme.unit
+            width: parent.width - 4 * BGUI.Theme.unit
+            bottomPadding: BGUI.Theme.unit
+            visible: root.selection.isRepeated
+            size: "small"
+            muted: true
+            text: qsTr("It shows several times: a change changes all.")
+        }
+
         ArrangeBar {
             x: 2 * BGUI.Theme.unit
             width: parent.width - 4 * BGUI.Theme.unit
