@@ -12,6 +12,9 @@ FocusScope {
     /// What to do first on an empty page.
     property alias emptyText: empty.text
 
+    /// An item that is no text was double-clicked: what it lists is to be edited.
+    signal entriesWanted()
+
     readonly property alias frameHost: host
     readonly property Item frame: host.item
     readonly property bool isEmpty: desk.live.root !== null && desk.revision >= 0
@@ -92,6 +95,8 @@ FocusScope {
             const text = mouse.button === Qt.LeftButton ? root.desk.changes.textOf(item) : null;
             if (text !== null)
                 root.frame.marks.text.open(item, text);
+            else if (mouse.button === Qt.LeftButton)
+                root.entriesWanted();
         }
 
         function onItemsToEdit(mouse) {

@@ -14,6 +14,11 @@ FocusScope {
 
     readonly property var selection: desk.selection
 
+    function openEntries() {
+        if (panel.openEntries())
+            tab = 0;
+    }
+
     Rectangle {
         anchors.fill: parent
         color: BGUI.Theme.surface
@@ -78,6 +83,7 @@ FocusScope {
         visible: head.visible
 
         ItemPanel {
+            id: panel
             anchors.fill: parent
             visible: tabs.currentIndex === 0
             desk: root.desk

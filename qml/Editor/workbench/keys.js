@@ -7,7 +7,7 @@
 const sheet = [
     { keys: qsTr("Click"), effect: qsTr("Selects what is on top; with Shift several") },
     { keys: qsTr("Right click"), effect: qsTr("Lists what lies there") },
-    { keys: qsTr("Double click"), effect: qsTr("Edits a text in place") },
+    { keys: qsTr("Double click"), effect: qsTr("Edits a text in place, a list as a table") },
     { keys: qsTr("Drag"), effect: qsTr("Moves; from the ground, selects what the band touches") },
     { keys: qsTr("Ctrl while dragging"), effect: qsTr("Does not snap") },
     { keys: qsTr("Shift while dragging"), effect: qsTr("Moves straight; keeps the shape while resizing") },
