@@ -13,6 +13,8 @@ import "placing.js" as Placing
 QtObject {
     id: root
 
+    /// Whether fingers work on it: what is to be hit on the canvas is larger.
+    property bool forTouch: false
     /// Loads the editing frame; the page has it on its canvas.
     property Loader frameHost
     readonly property Item frame: frameHost ? frameHost.item : null
@@ -21,6 +23,7 @@ QtObject {
     readonly property ProjectStill still: ProjectStill {}
     readonly property Selection selection: Selection { desk: root }
     readonly property Layers layers: Layers { desk: root }
+    readonly property Slides slides: Slides { desk: root }
     readonly property Changes changes: Changes { desk: root }
     readonly property Insertion insertion: Insertion { desk: root }
     readonly property FileDrop fileDrop: FileDrop { desk: root }

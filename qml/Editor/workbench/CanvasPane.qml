@@ -142,9 +142,18 @@ FocusScope {
         onClosed: root.takeKeyboard()
     }
 
+    SlideBar {
+        id: slides
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: root.desk.slides.show !== null
+        desk: root.desk
+        size: root.desk.forTouch ? "large" : "base"
+    }
+
     MessageStrip {
         anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
+        anchors.bottom: slides.visible ? slides.top : parent.bottom
         anchors.bottomMargin: 2 * BGUI.Theme.unit
         desk: root.desk
     }
