@@ -27,9 +27,9 @@ Item {
             label: qsTr("Entries")
             fields: [
                 { name: "name", label: qsTr("Name"), kind: "text" },
-                { name: "price", label: qsTr("Price"), kind: "text" },
-                { name: "details", label: qsTr("Details"), kind: "text" },
-                { name: "icon", label: qsTr("Mark"), kind: "text", hint: "fa-leaf" }
+                { name: "price", label: qsTr("Price"), kind: "text", share: 1 },
+                { name: "details", label: qsTr("Details"), kind: "text", share: 4 },
+                { name: "icon", label: qsTr("Mark"), kind: "text", hint: "fa-leaf", share: 1 }
             ]
         }
         CheckRow {

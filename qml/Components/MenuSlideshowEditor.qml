@@ -27,9 +27,9 @@ Item {
             label: qsTr("Entries")
             fields: [
                 { name: "name", label: qsTr("Name"), kind: "text" },
-                { name: "price", label: qsTr("Price"), kind: "text" },
-                { name: "details", label: qsTr("Details"), kind: "text" },
-                { name: "image", label: qsTr("Picture"), kind: "picture" }
+                { name: "price", label: qsTr("Price"), kind: "text", share: 1 },
+                { name: "details", label: qsTr("Details"), kind: "text", share: 3 },
+                { name: "image", label: qsTr("Picture"), kind: "picture", share: 3 }
             ]
         }
         ChoiceRow {

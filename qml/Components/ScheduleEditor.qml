@@ -4,7 +4,7 @@ import QtQuick 2.15
 import Nuvex.Editor.panel 1.0
 import "private/show"
 
-/// The panel of Schedule: when its slides are on, and how they turn.
+/// The panel of Schedule: when its slides are on, as a picture and as a list, and how they turn.
 Item {
     id: root
 
@@ -19,7 +19,13 @@ Item {
         anchors.fill: parent
         panel: root
 
+        WeekPicture {
+            schedules: Array.isArray(entries.value) ? entries.value : []
+            slides: form.item && form.item.slides || []
+            onChosen: entries.open = entry
+        }
         EntriesRow {
+            id: entries
             name: "schedules"
             label: qsTr("Schedules")
             fields: [

@@ -11,6 +11,8 @@ T.Button {
 
     property string size: "base"
     property color color: Theme.accent
+    /// Colours that are in use; the picker offers them.
+    property var used: []
 
     readonly property T.Popup popup: dropDown
 
@@ -82,6 +84,7 @@ T.Button {
             id: picker
             size: root.size
             color: root.color
+            used: root.used
             onPicked: {
                 root.color = color;
                 root.picked(color);

@@ -3,7 +3,8 @@
 import QtQuick 2.15
 import "private"
 
-/// Chooses a colour: a plane of saturation and brightness, strips of hue and opacity, the hexadecimal name, a palette.
+/// Chooses a colour: a plane of saturation and brightness, strips of hue and opacity, the hexadecimal name, a palette,
+/// and the colours that are in use.
 FocusScope {
     id: root
 
@@ -13,6 +14,8 @@ FocusScope {
     property var palette: ["#ffffff", "#c5ccd6", "#5e6978", "#1e252e", "#000000", bs["brand-primary"],
                            bs["brand-info"], bs["brand-success"], bs["brand-warning"], bs["brand-danger"], "#8e44ad",
                            "#00000000"]
+    /// Colours that are in use, shown below a title of their own.
+    property var used: []
 
     // Kept apart from the colour, as a grey has no hue and black no saturation.
     property real hue: 0
@@ -93,21 +96,26 @@ FocusScope {
             }
         }
 
-        Flow {
+        SwatchFlow {
             width: parent.width
-            spacing: Theme.unit * 0.75
+            picker: root
+            samples: root.palette
+        }
 
-            Repeater {
-                model: root.palette
+        Label {
+            visible: usedFlow.visible
+            size: "small"
+            muted: true
+            text: qsTr("In this project")
+        }
 
-                SwatchButton {
-                    visible: root.hasOpacity || sample.a === 1
-                    size: root.size
-                    sample: modelData
-                    selected: Qt.colorEqual(root.color, sample)
-                    onClicked: root.pick(sample)
-                }
-            }
+        SwatchFlow {
+            id: usedFlow
+            objectName: "usedColors"
+            width: parent.width
+            visible: root.used.length > 0
+            picker: root
+            samples: root.used
         }
 
         HexField {

@@ -13,6 +13,9 @@ Item {
     // The width that the control wants beside its label, at least.
     property real controlWidth: 24 * Theme.unit
     default property alias control: slot.data
+    property alias controlEnabled: slot.enabled
+    /// Where the control stands.
+    readonly property rect controlRect: Qt.rect(slot.x, slot.y, slot.width, slot.height)
 
     readonly property bool isNarrow: width < labelWidth + controlWidth
 

@@ -65,6 +65,7 @@ StackPage {
         id: desk
         objectName: "desk"
         frameHost: canvas.frameHost
+        forTouch: true
     }
 
     Rectangle {

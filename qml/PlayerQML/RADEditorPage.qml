@@ -120,6 +120,7 @@ StackPage {
         focus: true
         desk: desk
         hand: toolbar.handIsOn
+        onEntriesWanted: side.openEntries()
     }
 
     SourcePane {

@@ -126,6 +126,23 @@ class TouchEditorTest(EditorTest):
         wait_for(lambda: self.revision() == before + 1, "the saved revision")
         return self.source()
 
+    def test_handles_for_fingers(self):
+        program = self.open()
+        for name in ("red", "spot"):
+            self.select(name)
+            handles = [item["rect"] for item in program.items() if item["name"].startswith("handle ")]
+            self.assertGreaterEqual(len(handles), 4)
+            self.assertGreaterEqual(round(min(min(rect[2:]) for rect in handles)), 44)
+            middle = self.centre(name)
+            for i, (x, y, width, height) in enumerate(handles):
+                is_over_middle = x < middle[0] < x + width and y < middle[1] < y + height
+                self.assertFalse(is_over_middle, name)
+                for left, top, *_ in handles[:i]:
+                    self.assertTrue(abs(left - x) > width - 1 or abs(top - y) > height - 1, name)
+        before = self.rect("spot")
+        self.drag("handle 1,1", by=(30, 20), held=["ctrl"])
+        wait_for(lambda: round(self.rect("spot")[2] - before[2]) == 30, "the larger spot")
+
     def test_properties_and_source(self):
         program = self.open()
         self.select("red")

@@ -19,6 +19,18 @@ Item {
                                    ? frame.selection[0] : null
     readonly property var placing: single && frame.desk.revision >= 0 ? frame.desk.placingOf(single) : ({})
 
+    // What is a shader's source can be kept from being drawn without a change of its own properties.
+    Repeater {
+        model: root.frame.desk.layers.hidden
+
+        ShaderEffectSource {
+            visible: false
+            live: false
+            hideSource: true
+            sourceItem: modelData
+        }
+    }
+
     Guides {
         id: guideLines
         canvas: root.frame

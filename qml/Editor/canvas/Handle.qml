@@ -3,7 +3,8 @@
 import QtQuick 2.15
 import "limits.js" as Limits
 
-/// One of the eight handles of a selected item: -1, 0 or 1 `across` and `down`.
+/// One of the eight handles of a selected item: -1, 0 or 1 `across` and `down`. On a small item it is hit more outside
+/// than inside, so that the item itself can be hit as well.
 Item {
     id: root
 
@@ -13,15 +14,27 @@ Item {
     property int down
     /// Pixels of the canvas that one of the item takes.
     property real unit: 1
+    /// "mouse" or "touch": what it is made for.
+    property string pointer: "mouse"
 
-    x: (across + 1) / 2 * parent.width - width / 2
-    y: (down + 1) / 2 * parent.height - height / 2
-    width: Limits.handleReach * dp / unit
+    readonly property real outwardX: across * outward(parent.width)
+    readonly property real outwardY: down * outward(parent.height)
+
+    // How far its middle lies outside of an edge, beside a side of that length.
+    function outward(side) {
+        return Math.max(0, width / 2 - Limits.handleShare * side);
+    }
+
+    x: (across + 1) / 2 * parent.width - width / 2 + outwardX
+    y: (down + 1) / 2 * parent.height - height / 2 + outwardY
+    width: Limits.handleReach[pointer] * dp / unit
     height: width
 
     Rectangle {
         anchors.centerIn: parent
-        width: Limits.handleEdge * dp / root.unit
+        anchors.horizontalCenterOffset: -root.outwardX
+        anchors.verticalCenterOffset: -root.outwardY
+        width: Limits.handleEdge[root.pointer] * dp / root.unit
         height: width
         radius: 1.5 / root.unit
         color: area.containsMouse || area.pressed ? "#2a6496" : "white"

@@ -11,7 +11,8 @@ ItemSpace {
     /// What decides about the item's place and size; see EditingDesk.placingOf().
     property var placing: ({})
 
-    readonly property real shortSide: Limits.shortSide * dp
+    readonly property string pointer: frame.desk.forTouch ? "touch" : "mouse"
+    readonly property real shortSide: Limits.shortSide[pointer] * dp
 
     function isWanted(across, down) {
         const isFree = (across === 0 || (!placing.width && !(across < 0 && placing.x)))
@@ -29,6 +30,7 @@ ItemSpace {
             item: root.target
             across: modelData[0]
             down: modelData[1]
+            pointer: root.pointer
             unit: root.unit
             visible: root.isWanted(across, down)
         }

@@ -15,7 +15,11 @@ const fitMargin = 40;
 const dragDistance = 4;
 const snapReach = 6;
 
-/// Edge of a handle as it is seen, and as it is hit; sides shorter than this have no handle in their middle.
-const handleEdge = 9;
-const handleReach = 17;
-const shortSide = 44;
+/// Edge of a handle as it is seen, and as it is hit, by mouse and by finger; sides shorter than `shortSide` have no
+/// handle in their middle.
+const handleEdge = { mouse: 9, touch: 14 };
+const handleReach = { mouse: 17, touch: 44 };
+const shortSide = { mouse: 44, touch: 88 };
+
+/// The share of an item's side that a handle covers at most; the rest of it lies outside.
+const handleShare = 0.25;

@@ -3,6 +3,8 @@
 import QtQuick 2.15
 import Nuvex.Editor 1.0
 import "arrange.js" as Arrange
+import "parts.js" as Parts
+import "placing.js" as Placing
 import "../canvas/geometry.js" as Geometry
 
 /// How the selected items stand to each other: aligned, spread evenly, in front or behind.
@@ -82,5 +84,40 @@ QtObject {
         else
             items.forEach(item => desk.live.stack(item, before));
         desk.finish();
+    }
+
+    // Moves objects, by their numbers in the order of the source, into the object `parent`: before the object `before`
+    // or, when that is -1, behind all. What is placed by its numbers stays where it is on the page.
+    function nest(elements, parent, before) {
+        desk.settle();
+        const source = CAPI.editedSourceCode();
+        const type = Ejs.map[parent].typename;
+        const places = elements.reduce((all, element) => all.concat(placeInside(element, parent)), []);
+        if (!Parts.takesItems(type))
+            desk.say(qsTr("Nothing can be put into %1.").arg(type));
+        else if (!Ejs.moveElements(elements, parent, before))
+            desk.say(Ejs.problem);
+        if (CAPI.editedSourceCode() === source)
+            return;
+        if (places.length > 0)
+            Ejs.updateProperties(places);
+        const moved = elements.map(element => Ejs.map[element].pfirst);
+        if (!desk.showSource(source))
+            return;
+        desk.selection.set(moved.map(desk.selection.itemAt).filter(item => item !== null));
+        desk.finish();
+    }
+
+    // What gives the item of a number its present place on the page in the item `parent`; none where it keeps it, or
+    // something else decides about it. Changes as of Ejs.updateProperties().
+    function placeInside(element, parent) {
+        const item = Ejs.childrenByElement(desk.live.root, element);
+        const holder = Ejs.childrenByElement(desk.live.root, parent);
+        if (!item || !holder || desk.selection.parentOf(item) === holder || Parts.placesItems(Ejs.map[parent].typename))
+            return [];
+        const place = holder.mapFromItem(item.parent, item.x, item.y);
+        const isAnchored = desk.live.placement(item).by === "anchors";
+        return ["x", "y"].filter(name => !isAnchored && !Placing.isWorkedOut(Ejs.map[element].properties[name]))
+                         .map(name => ({ element: element, name: name, text: String(Math.round(place[name])) }));
     }
 }

@@ -13,6 +13,8 @@ import "placing.js" as Placing
 QtObject {
     id: root
 
+    /// Whether fingers work on it: what is to be hit on the canvas is larger.
+    property bool forTouch: false
     /// Loads the editing frame; the page has it on its canvas.
     property Loader frameHost
     readonly property Item frame: frameHost ? frameHost.item : null
@@ -20,6 +22,8 @@ QtObject {
     readonly property LiveDocument live: LiveDocument {}
     readonly property ProjectStill still: ProjectStill {}
     readonly property Selection selection: Selection { desk: root }
+    readonly property Layers layers: Layers { desk: root }
+    readonly property Slides slides: Slides { desk: root }
     readonly property Changes changes: Changes { desk: root }
     readonly property Insertion insertion: Insertion { desk: root }
     readonly property FileDrop fileDrop: FileDrop { desk: root }
@@ -50,7 +54,7 @@ QtObject {
 
     function open() {
         Ejs.JCAPI = CAPI;
-        Ejs.selectItem = refresh;
+        Ejs.selectItem = takePanelChange;
         CAPI.readSourceCode("main.qml");
         root.savedSource = CAPI.editedSourceCode();
         still.project = CAPI.getBaseProjectName();
@@ -66,6 +70,7 @@ QtObject {
         CAPI.generateEditor();
         const isMade = make(CAPI.editedSourceCode());
         Ejs.map = isMade ? CAPI.getMap() : [];
+        layers.clear();
         selection.clear();
         root.shown();
         return isMade;
@@ -104,7 +109,7 @@ QtObject {
         }
         const before = CAPI.editedSourceCode();
         CAPI.setSourceCode(source);
-        if (showSource(before))
+        if (showSource(before, before))
             finish();
     }
 
@@ -113,9 +118,11 @@ QtObject {
         return "file:///" + encodeURI(path).replace(/[?#]/g, encodeURIComponent);
     }
 
-    // Shows the document as its source is now instead of `before`. On failure it says why and leaves the view as it is.
-    function reload(before) {
-        const places = selection.places();
+    // Shows the document as its source is now; the item map is still of the source `mapped`. On failure it says why and
+    // leaves the view as it is.
+    function reload(mapped) {
+        const selected = selection.placesOf(selection.items);
+        const layered = layers.places();
         CAPI.generateEditor();
         if (!live.load(CAPI.editedSourceCode(), CAPI.baseFolder(), frame.viewport)) {
             sayFault(live.faults[0]);
@@ -124,19 +131,22 @@ QtObject {
         frame.myfill = live.root;
         Ejs.editorObj = live.root;
         Ejs.map = CAPI.getMap();
-        selection.restore(places, before);
+        layers.restore(layered, mapped);
+        selection.set(selection.foundAt(selected, mapped));
         root.fault = null;
         root.shown();
         return true;
     }
 
-    // Shows the source as it is now. When that fails the source is again `before`.
-    function showSource(before) {
-        if (reload(before))
+    // Shows the source as it is now. When that fails the source is again `before`. The item map is in step with the
+    // source, or else of the source `mapped`.
+    function showSource(before, mapped) {
+        const source = mapped === undefined ? CAPI.editedSourceCode() : mapped;
+        if (reload(source))
             return true;
         const fault = live.faults[0];
         CAPI.setSourceCode(before);
-        reload(before);
+        reload(source);
         sayFault(fault);
         return false;
     }
@@ -169,6 +179,13 @@ QtObject {
     function refresh() {
         ++revision;
         root.isChanged = CAPI.editedSourceCode() !== root.savedSource;
+    }
+
+    // Follows a change by the item's panel. What is made several times from its source is made anew.
+    function takePanelChange() {
+        refresh();
+        if (selection.isRepeated)
+            Qt.callLater(showAgain);
     }
 
     // Ends what goes on: a burst of keys, a text that is being written become changes.
@@ -318,12 +335,13 @@ QtObject {
     /// What decides where the item stands; see placing.js.
     function placingOf(item) {
         const record = Ejs.map[item.element];
-        const placement = live.placement(item);
         if (item === live.root || !record)
-            return { by: "", words: "", x: true, y: true, width: true, height: true };
+            return Placing.fixedBy("");
+        if (layers.isLocked(item))
+            return Placing.fixedBy("lock");
         if (item.isSlide === true && item.parent && item.parent.slides !== undefined)
-            return { by: "slideshow", words: Placing.placers.slideshow, x: true, y: true, width: true, height: true };
-        return Placing.withBindings(placement, record);
+            return Placing.fixedBy("slideshow");
+        return Placing.withBindings(live.placement(item), record);
     }
 
     function isReorderable(item) {

@@ -36,7 +36,8 @@ QtObject {
     function give(item, values) {
         const names = Object.keys(values);
         names.forEach(name => desk.live.assign(item, name, values[name]));
-        Ejs.updateProperties(names.map(name => ({ element: item.element, name: name, text: values[name] })));
+        if (names.length > 0)
+            Ejs.updateProperties(names.map(name => ({ element: item.element, name: name, text: values[name] })));
     }
 
     // Adds a component at a point of the frame.
@@ -83,9 +84,12 @@ QtObject {
             desk.say(Ejs.problem);
             return null;
         }
-        if (!item)
+        // A slideshow takes its slides as they come.
+        if (!item || (before && before.isSlide === true)) {
             desk.showSource(source);
-        else if (before)
+            return null;
+        }
+        if (before)
             desk.live.stack(item, before);
         return item;
     }

@@ -15,9 +15,13 @@ QtObject {
     readonly property Item item: items.length > 0 ? items[0] : null
     /// Its record in the item map; null when nothing is selected.
     readonly property var record: item && desk.revision >= 0 ? Ejs.map[item.element] || null : null
+    /// Whether it is made several times from one place in the source, as by a repeater.
+    readonly property bool isRepeated: item !== null && desk.revision >= 0 && desk.live.isRepeated([item.element])
     readonly property bool isRoot: item !== null && item === desk.live.root
-    /// The selected items without the document's root, and without what lies in other selected ones.
-    readonly property var movable: items.filter(item => item !== desk.live.root && !isInOther(item))
+    /// The selected items without the document's root, without what lies in other selected ones, and without what is
+    /// hidden or locked.
+    readonly property var movable: items.filter(item => item !== desk.live.root && !isInOther(item)
+                                                        && desk.layers.isFree(item))
 
     function set(chosen) {
         desk.settle();
@@ -118,17 +122,18 @@ QtObject {
     }
 
     function within(parent, test) {
-        return numberedIn(parent).filter(item => item.visible && test(item));
+        return numberedIn(parent).filter(item => item.visible && desk.layers.isFree(item) && test(item));
     }
 
-    /// The items under a point of the frame, the one on top last.
+    /// The items that are drawn at a point of the frame, the one on top last.
     function under(point) {
-        return Ejs.childrenIn(point.x, point.y, desk.live.root, desk.frame);
+        return Ejs.childrenIn(point.x, point.y, desk.live.root, desk.frame)
+                  .filter(item => !desk.layers.isHidden(item));
     }
 
     // The item on top at a point of the frame, the document itself where there is no other, null beside it.
     function at(point) {
-        const found = under(point);
+        const found = under(point).filter(item => desk.layers.isFree(item));
         const page = desk.live.root;
         if (found.length > 0)
             return found[found.length - 1];
@@ -147,16 +152,16 @@ QtObject {
         return [top];
     }
 
-    /// Where the selected items stand in the source, so that they are found again in another one.
-    function places() {
-        return items.filter(item => Ejs.map[item.element]).map(item => Ejs.map[item.element].pfirst);
+    /// Where items stand in the source that the item map is of, so that they are found again in another one.
+    function placesOf(items) {
+        return items.map(item => Ejs.map[item.element]).filter(record => record && record.plast > record.pfirst)
+                    .map(record => record.pfirst);
     }
 
-    // Selects what stood at `places` of the source `before` in the present one.
-    function restore(places, before) {
+    /// The items that stood at `places` of the source `before`, as far as they are in the present one.
+    function foundAt(places, before) {
         const after = CAPI.editedSourceCode();
-        const wanted = places.map(place => Places.moved(place, before, after));
-        set(wanted.map(itemAt).filter(item => item !== null));
+        return places.map(place => itemAt(Places.moved(place, before, after))).filter(item => item !== null);
     }
 
     /// The item that begins at `place` of the source; null when none does.

@@ -49,6 +49,11 @@ const _leaves = ["BasicImage", "KImage", "LiveImage", "BasicText", "GlowText", "
     "Image", "AnimatedImage", "BorderImage", "Video", "VideoOutput", "Canvas", "Loader", "Repeater", "ListView",
     "GridView", "PathView", "TableView", "Button", "TransparentVideo"];
 
+/// Whether items of that type place what is in them.
+function placesItems(typename) {
+    return /(?:Row|Column|Grid|Flow|Layout|Slideshow|Schedule)$/.test(typename);
+}
+
 /// The kind of file at `url`, "picture" or "video", by its ending; null for others. `filters` are those of files.js.
 function mediaOf(url, filters) {
     const ending = "*" + (/\.[^.\/]*$/.exec(String(url).toLowerCase()) || [""])[0];
@@ -56,9 +61,11 @@ function mediaOf(url, filters) {
     return kind === undefined ? null : kind;
 }
 
-/// Whether items of that type show a file of `kind`, which is their source.
-function showsMedia(typename, kind) {
-    return _shows[kind].indexOf(typename) >= 0;
+/// The property by which items of that type show a file of `kind`; "" for those that show none.
+function mediaProperty(typename, kind) {
+    if (_shows[kind].indexOf(typename) >= 0)
+        return "source";
+    return kind === "picture" && /^MenuItem\d$/.test(typename) ? "image" : "";
 }
 
 const _shows = {

@@ -4,7 +4,7 @@
 //
 // What decides where an item of the document stands, in words.
 
-/// Words for what places an item, as LiveDocument.placement() names it.
+/// Words for what places an item, as LiveDocument.placement() names it, or keeps it where it is.
 const placers = {
     row: qsTr("Placed by its row: drag it to another turn"),
     column: qsTr("Placed by its column: drag it to another turn"),
@@ -13,14 +13,20 @@ const placers = {
     layout: qsTr("Placed by its layout: drag it to another turn"),
     list: qsTr("Placed by its list"),
     anchors: qsTr("Placed by anchors"),
-    slideshow: qsTr("Placed by its slideshow")
+    slideshow: qsTr("Placed by its slideshow"),
+    lock: qsTr("Locked in the list of items")
 };
+
+/// The placement of an item that is neither moved nor resized; `by` is "" or one of the placers.
+function fixedBy(by) {
+    return { by: by, words: by === "" ? "" : placers[by], x: true, y: true, width: true, height: true };
+}
 
 /// The placement with what the item's record binds: values that are worked out are not overwritten by dragging.
 /// Shape: "by", "words" ("" when the item can be dragged anywhere) and "x", "y", "width", "height", true for fixed.
 function withBindings(placement, record) {
     const placing = Object.assign({}, placement);
-    const bound = ["x", "y", "width", "height"].filter(name => _isWorkedOut(record.properties[name]));
+    const bound = ["x", "y", "width", "height"].filter(name => isWorkedOut(record.properties[name]));
     bound.forEach(name => { placing[name] = true; });
     placing.words = placing.by !== "" ? placers[placing.by] : _wordsFor(bound, record);
     return placing;
@@ -31,7 +37,8 @@ function _wordsFor(bound, record) {
     return moved.map(name => qsTr("%1 is worked out: %2").arg(name).arg(record.properties[name].value)).join("\n");
 }
 
-function _isWorkedOut(property) {
+/// Whether the source of a property, its record or undefined, is anything but a number.
+function isWorkedOut(property) {
     const isNumber = /^[-+]?[0-9.]+(?:e[-+]?[0-9]+)?;?$/i;
     return property !== undefined && property.value !== "" && !isNumber.test(property.value);
 }

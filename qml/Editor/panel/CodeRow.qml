@@ -25,6 +25,7 @@ PanelRow {
         area.hasError = !form.commitAll([{ name: root.name, text: code, isHandler: true }]);
     }
 
+    minds: false
     labelWidth: width
     onCodeChanged: area.text = code
 

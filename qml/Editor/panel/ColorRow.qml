@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
+import "colors.js" as Colors
+import "limits.js" as Limits
 import "values.js" as Values
 
-/// A colour. The item follows while it is chosen; closing the picker finishes.
+/// A colour. The item follows while it is chosen; closing the picker finishes. The document's colours are offered.
 PanelRow {
     id: root
 
@@ -25,6 +27,9 @@ PanelRow {
 
     Connections {
         target: button.popup
+        function onAboutToShow() {
+            button.used = Colors.used(CAPI.editedSourceCode(), Limits.usedColors);
+        }
         function onClosed() {
             root.finish();
         }

@@ -5,18 +5,21 @@ import Nuvex.GUI 1.0 as BGUI
 import "files.js" as Files
 import "values.js" as Values
 
-/// A list of objects: to add, take away, order and fill in. A list that the document works out is left alone.
+/// A list of objects: to add, take away, order and fill in, one by one here or all in a table. A list that the document
+/// works out is left alone.
 PanelRow {
     id: root
 
     /// The members of an entry: a list of maps with "name", "label", "kind" ("text", "number" or one of files.js) and
-    /// "hint". The first one names the entry in the list.
+    /// "hint", and "share", how wide its column is beside the others' 2. The first one names the entry in the list.
     property var fields: []
     /// The member that an entry which is a plain text stands for.
     property string main: "name"
-    readonly property bool isPlain: Array.isArray(entries) && Values.isPlain(form.revision > 0 ? form.source(name) : "")
-    // The list as it is, with objects throughout.
-    readonly property var entries: Array.isArray(value) ? value.map(asObject) : null
+    readonly property bool isPlain: Array.isArray(value) && Values.isPlain(written)
+    // The list as it is, with objects throughout, and as it is written; undefined where an entry is not written.
+    readonly property var listed: isPlain && written !== "" ? Values.read(written) : value
+    readonly property var entries: Array.isArray(listed) ? listed.map(asObject) : null
+    readonly property var texts: isPlain && written !== "" ? Values.entryTexts(written) : []
     /// The entry that is open, -1 for none.
     property int open: -1
 
@@ -25,38 +28,48 @@ PanelRow {
         return isText ? { [root.main]: String(entry) } : Object.assign({}, entry);
     }
 
-    function put(list) {
-        root.form.commit(root.name, Values.list(list, root.form.indentation(root.name)));
+    function put(list, texts) {
+        root.form.commit(root.name, Values.list(list, root.form.indentation(root.name), texts));
+    }
+
+    function append() {
+        put(root.entries.concat({ [root.fields[0].name]: qsTr("New entry") }), root.texts);
     }
 
     function add() {
         const last = root.entries.length;
-        put(root.entries.concat({ [root.fields[0].name]: qsTr("New entry") }));
+        append();
         root.open = last;
+    }
+
+    function openTable() {
+        table.active = true;
+        table.item.open();
     }
 
     function remove(index) {
         const files = root.fields.filter(field => field.kind in Files.filters)
                                    .map(field => root.entries[index][field.name]);
         root.open = -1;
-        put(root.entries.filter((entry, i) => i !== index));
+        put(root.entries.filter((entry, i) => i !== index), root.texts.filter((text, i) => i !== index));
         files.forEach(file => Files.letGo(String(file || "")));
     }
 
     function move(index, by) {
-        const list = root.entries.slice();
-        list.splice(index + by, 0, list.splice(index, 1)[0]);
+        const order = root.entries.map((entry, i) => i);
+        order.splice(index + by, 0, order.splice(index, 1)[0]);
         root.open = root.open === index ? index + by : -1;
-        put(list);
+        put(order.map(i => root.entries[i]), order.map(i => root.texts[i]));
     }
 
     function setField(index, field, text) {
         const list = root.entries.slice();
         const isNumber = field.kind === "number" && text.trim() !== "" && isFinite(text);
-        list[index][field.name] = isNumber ? Number(text) : text;
-        put(list);
+        list[index] = Object.assign({}, list[index], { [field.name]: isNumber ? Number(text) : text });
+        put(list, root.texts.map((text, i) => i === index ? undefined : text));
     }
 
+    minds: false
     labelWidth: width
 
     Column {
@@ -81,13 +94,33 @@ PanelRow {
             text: qsTr("The document works this list out by itself.")
         }
 
-        BGUI.Button {
-            objectName: "add"
+        Row {
             visible: root.isPlain
-            size: root.size
-            faIcon: "fa-plus"
-            text: qsTr("Add")
-            onClicked: root.add()
+            spacing: BGUI.Theme.unit
+
+            BGUI.Button {
+                objectName: "add"
+                size: root.size
+                faIcon: "fa-plus"
+                text: qsTr("Add")
+                onClicked: root.add()
+            }
+
+            BGUI.Button {
+                objectName: "table"
+                size: root.size
+                faIcon: "fa-table"
+                text: qsTr("All in a table")
+                onClicked: root.openTable()
+            }
+        }
+    }
+
+    Loader {
+        id: table
+        active: false
+        sourceComponent: EntriesTable {
+            row: root
         }
     }
 }

@@ -32,6 +32,9 @@ FocusScope {
     readonly property var families: CAPI.getFonts(false).filter((family, i, all) => family !== "FontAwesome"
                                                                 && all.indexOf(family) === i).sort()
     readonly property real margin: 2 * BGUI.Theme.unit
+    /// Gives the live item's property a value, as source text; it throws or returns false where the item does not take
+    /// it. For items that cannot evaluate for themselves there is another one.
+    property var assign: (name, text) => root.item.evaluate(name + " = " + text)
 
     /// Source text of the property, without the semicolon that may end it, its lines ended by "\n"; "" when the item
     /// does not set it.
@@ -50,8 +53,7 @@ FocusScope {
         if (!root.item)
             return false;
         try {
-            root.item.evaluate(name + " = " + text);
-            return true;
+            return root.assign(name, text) !== false;
         } catch (refusal) {
             console.warn(log, "the item does not take", name, "=", text, "-", refusal);
             return false;
@@ -92,7 +94,6 @@ FocusScope {
     }
 
     function finish() {
-        ++root.revision;
         Ejs.propertyEdited = true;
         Ejs.codeEdited = true;
         CAPI.saveEditingState();
@@ -124,6 +125,15 @@ FocusScope {
         root.element = Ejs.element;
         root.record = Ejs.map[root.element];
         ++root.revision;
+    }
+
+    // What is changed elsewhere, as by dragging, shows here as well.
+    Connections {
+        target: CAPI
+
+        function onNewerEditingState() {
+            ++root.revision;
+        }
     }
 
     LoggingCategory {

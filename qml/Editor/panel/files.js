@@ -25,6 +25,11 @@ function wouldReplace(url) {
     return CAPI.fileExist(target) && decodeURIComponent(String(url)) !== own;
 }
 
+/// Address of the file `path` of the project.
+function urlOf(path) {
+    return "file://" + (CAPI.getBaseFolder() + "/" + path).split("/").map(encodeURIComponent).join("/");
+}
+
 /// Copies the file at `url` into the project and lists it; its path there, "" when that failed.
 function bringIn(url) {
     const path = CAPI.copyFileToDir(String(url), folder);

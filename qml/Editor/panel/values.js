@@ -14,6 +14,11 @@ function number(value, decimals) {
     return String(Number(Number(value).toFixed(decimals)));
 }
 
+/// A live value, a number, truth value, colour or text, as source; numbers with at most two decimals.
+function literal(value) {
+    return typeof value === "number" ? number(value, 2) : typeof value === "boolean" ? String(value) : quoted(value);
+}
+
 /// The text that `source` writes between quotes; undefined when it is anything but one quoted text.
 function textIn(source) {
     if (!/^(?:"(?:[^"\\\n]|\\[^\n])*"|'(?:[^'\\\n]|\\[^\n])*')$/.test(source.trim()))
@@ -29,11 +34,53 @@ function isPlain(source) {
     return /^[\s\[\]{},:0-9.eE+-]*$/.test(rest);
 }
 
+/// The value of a plain `source`, its members in their order; undefined when it cannot be read.
+function read(source) {
+    try {
+        return eval("(" + source + "\n)");
+    } catch (fault) {
+        return undefined;
+    }
+}
+
+/// The texts of the entries of `source`, a plain list, with the comments at them.
+function entryTexts(source) {
+    const parts = source.trim().slice(1, -1).match(_listParts) || [];
+    const texts = [""];
+    let depth = 0;
+    parts.forEach(part => {
+        depth += /^[\[{]$/.test(part) ? 1 : /^[\]}]$/.test(part) ? -1 : 0;
+        if (part === "," && depth === 0)
+            texts.push("");
+        else
+            texts[texts.length - 1] += part;
+    });
+    return _withLastComment(texts.map(text => text.trim()));
+}
+
+// What stands behind the last comma is no entry: at most a comment.
+function _withLastComment(texts) {
+    const last = texts[texts.length - 1];
+    if (last.replace(/\/\*[^]*?\*\/|\/\/[^\n]*/g, "").trim() !== "")
+        return texts;
+    return texts.slice(0, -1).map((text, i) => i < texts.length - 2 ? text : (text + " " + last).trim());
+}
+
+const _listParts = /"(?:[^"\\]|\\[^])*"|'(?:[^'\\]|\\[^])*'|\/\*[^]*?\*\/|\/\/[^\n]*|[^]/g;
+
 /// `entries`, a list of objects with texts, numbers and truth values, as a list over several lines, the first of which
-/// is indented by `indentation`. Members that are undefined or "" are left out.
-function list(entries, indentation) {
-    const lines = entries.map(entry => indentation + "    " + _object(entry));
+/// is indented by `indentation`. Members that are undefined or "" are left out. An entry that has one of `texts`, a
+/// list beside the entries', is written as that says.
+function list(entries, indentation, texts) {
+    const lines = entries.map((entry, i) => {
+        const text = indentation + "    " + (texts && texts[i] || _object(entry));
+        return i < entries.length - 1 && _endsInComment(text) ? text + "\n" + indentation + "    " : text;
+    });
     return lines.length === 0 ? "[]" : "[\n" + lines.join(",\n") + "\n" + indentation + "]";
+}
+
+function _endsInComment(text) {
+    return text.match(_listParts).pop().startsWith("//");
 }
 
 function _object(entry) {

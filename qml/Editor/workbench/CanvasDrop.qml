@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-/// What is dragged over the canvas: components from the palette, pictures and videos from other programs. The item
-/// that will take it is marked.
+/// What is dragged over the canvas: components from the palette, pictures and videos of the project or from other
+/// programs. The item that will take it is marked.
 DropArea {
     id: root
 
@@ -11,23 +11,25 @@ DropArea {
     property Item frame
 
     function mark(drag) {
-        frame.marks.dropTarget = desk.insertion.parentAt(Qt.point(drag.x, drag.y));
+        const point = Qt.point(drag.x, drag.y);
+        const file = drag.hasUrls ? drag.urls[0] : cargoOf(drag).file || "";
+        frame.marks.dropTarget = desk.fileDrop.showerAt(file, point) || desk.insertion.parentAt(point);
     }
 
     function take(drop) {
         const point = Qt.point(drop.x, drop.y);
-        if (drop.source && drop.source.componentType !== undefined)
-            desk.insertion.drop(drop.source.componentType, point);
+        const cargo = cargoOf(drop);
+        if (cargo.component)
+            desk.insertion.drop(cargo.component, point);
+        else if (cargo.file)
+            desk.fileDrop.show(cargo.file, point);
         else if (drop.hasUrls)
-            desk.fileDrop.take(drop.urls, point, aspectOf);
+            desk.fileDrop.take(drop.urls, point);
     }
 
-    // Width by height of the picture at `url`; of one that cannot be read, as of most.
-    function aspectOf(url) {
-        picture.source = url;
-        const aspect = picture.status === Image.Ready ? picture.implicitWidth / picture.implicitHeight : 3 / 2;
-        picture.source = "";
-        return aspect;
+    // What a tile carries; see DragTile.
+    function cargoOf(drag) {
+        return drag.source && drag.source.cargo || ({});
     }
 
     enabled: frame !== null
@@ -37,12 +39,5 @@ DropArea {
         frame.marks.dropTarget = null;
         take(drop);
         drop.accept(Qt.CopyAction);
-    }
-
-    Image {
-        id: picture
-        visible: false
-        cache: false
-        sourceSize.width: 64
     }
 }

@@ -12,6 +12,9 @@ FocusScope {
     /// What to do first on an empty page.
     property alias emptyText: empty.text
 
+    /// An item that is no text was double-clicked: what it lists is to be edited.
+    signal entriesWanted()
+
     readonly property alias frameHost: host
     readonly property Item frame: host.item
     readonly property bool isEmpty: desk.live.root !== null && desk.revision >= 0
@@ -92,6 +95,8 @@ FocusScope {
             const text = mouse.button === Qt.LeftButton ? root.desk.changes.textOf(item) : null;
             if (text !== null)
                 root.frame.marks.text.open(item, text);
+            else if (mouse.button === Qt.LeftButton)
+                root.entriesWanted();
         }
 
         function onItemsToEdit(mouse) {
@@ -137,9 +142,18 @@ FocusScope {
         onClosed: root.takeKeyboard()
     }
 
+    SlideBar {
+        id: slides
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: root.desk.slides.show !== null
+        desk: root.desk
+        size: root.desk.forTouch ? "large" : "base"
+    }
+
     MessageStrip {
         anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
+        anchors.bottom: slides.visible ? slides.top : parent.bottom
         anchors.bottomMargin: 2 * BGUI.Theme.unit
         desk: root.desk
     }

@@ -15,16 +15,33 @@ Item {
     readonly property bool hasPanel: item !== null && item.editor !== undefined && item.editor !== null
                                      && item.editor.status === Component.Ready
 
+    // Opens the table of the item's entries; false when it has none.
+    function openEntries() {
+        const row = rowOfEntries(own);
+        if (row)
+            row.openTable();
+        return row !== null;
+    }
+
+    function rowOfEntries(item) {
+        if (item.isPlain === true && item.openTable !== undefined)
+            return item;
+        return Array.prototype.reduce.call(item.children, (found, child) => found || rowOfEntries(child), null);
+    }
+
     Loader {
+        id: own
         anchors.fill: parent
         sourceComponent: root.hasPanel ? root.item.editor : null
         onLoaded: item.radEditor = true
     }
 
-    Loader {
-        anchors.fill: parent
-        active: root.item !== null && !root.hasPanel
-        sourceComponent: GeneralPanel {
+    // A panel stays with its item: another item gets another one.
+    Repeater {
+        model: root.item !== null && !root.hasPanel ? [root.item] : []
+
+        GeneralPanel {
+            anchors.fill: parent
             desk: root.desk
         }
     }

@@ -3,7 +3,7 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// What there is to add, and what there is already.
+/// What there is to add, what there is already, and the project's pictures and videos.
 FocusScope {
     id: root
 
@@ -19,7 +19,7 @@ FocusScope {
     BGUI.SwitchTabs {
         id: tabs
         width: parent.width
-        model: [qsTr("Parts"), qsTr("Items")]
+        model: [qsTr("Parts"), qsTr("Items"), qsTr("Media")]
         currentIndex: 0
     }
 
@@ -36,5 +36,13 @@ FocusScope {
         anchors.topMargin: tabs.height
         visible: tabs.currentIndex === 1
         desk: root.desk
+    }
+
+    MediaPane {
+        anchors.fill: parent
+        anchors.topMargin: tabs.height
+        visible: tabs.currentIndex === 2
+        desk: root.desk
+        dragArea: root.dragArea
     }
 }

@@ -7,7 +7,8 @@ import Nuvex.GUI 1.0 as BGUI
 import "../desk/outline.js" as Outline
 
 /// The objects of the document, one in the other: a click selects, with Shift several; a double click or F2 gives an
-/// object another id.
+/// object another id. Dragged onto another row an object goes there; the marks at the right, or the keys H and L, hide
+/// and lock it while it is edited.
 FocusScope {
     id: root
 
@@ -15,6 +16,9 @@ FocusScope {
 
     readonly property var rows: desk.revision >= 0 && visible ? Outline.matching(Outline.rows(Ejs.map), search.text)
                                                               : []
+    // The number of the object that is dragged, -1 for none, and where it would go; see outline.js.
+    property int dragged: -1
+    property var target: null
     readonly property var selected: desk.selection.items.map(item => item.element)
 
     // Selects the object's item; one that is no item, like a timer, cannot be selected.
@@ -26,6 +30,36 @@ FocusScope {
             desk.selection.toggle(item);
         else
             desk.selection.set([item]);
+    }
+
+    function indent(depth) {
+        return BGUI.Theme.unit * (1 + 1.5 * Math.min(depth, 8));
+    }
+
+    // Marks where the object would go that is dragged to `y` in the list.
+    function dragTo(element, y) {
+        const index = list.indexAt(1, Math.max(0, Math.min(list.contentHeight - 1, y)));
+        list.positionViewAtIndex(index, ListView.Contain);
+        const row = list.itemAtIndex(index);
+        dragged = element;
+        [mark.y, mark.height] = [row.y, row.height];
+        target = row.row.element === element ? null : Outline.dropPlace(Outline.rows(Ejs.map), row.row.element,
+                                                                        (y - row.y) / row.height);
+    }
+
+    // A selected object takes the other selected ones with it.
+    function drop() {
+        const wanted = target;
+        const elements = selected.indexOf(dragged) < 0 ? [dragged] : selected.slice();
+        [dragged, target] = [-1, null];
+        if (wanted === null)
+            return;
+        elements.sort((one, other) => Ejs.map[one].pfirst - Ejs.map[other].pfirst);
+        desk.arrangement.nest(elements, wanted.parent, wanted.before);
+    }
+
+    function cancelDrag() {
+        [dragged, target] = [-1, null];
     }
 
     function showSelected() {
@@ -73,15 +107,29 @@ FocusScope {
         Keys.onUpPressed: root.step(-1)
         Keys.onDownPressed: root.step(1)
         Keys.onPressed: {
-            if (event.key === Qt.Key_F2 && currentItem)
-                currentItem.rename();
-            event.accepted = event.key === Qt.Key_F2;
+            const acts = {};
+            acts[Qt.Key_F2] = () => currentItem.rename();
+            acts[Qt.Key_H] = () => root.desk.layers.toggleHidden(root.selected[0]);
+            acts[Qt.Key_L] = () => root.desk.layers.toggleLocked(root.selected[0]);
+            const act = currentItem && event.modifiers === Qt.NoModifier ? acts[event.key] : undefined;
+            if (act)
+                act();
+            event.accepted = act !== undefined;
         }
 
         delegate: OutlineRow {
             width: list.width
             row: modelData
+            indent: root.indent(modelData.depth)
             isSelected: root.selected.indexOf(modelData.element) >= 0
+            isHidden: root.desk.layers.hiddenElements.indexOf(modelData.element) >= 0
+            isLocked: root.desk.layers.lockedElements.indexOf(modelData.element) >= 0
+            opacity: root.dragged === modelData.element ? 0.5 : 1
+            onHiddenToggled: root.desk.layers.toggleHidden(modelData.element)
+            onLockedToggled: root.desk.layers.toggleLocked(modelData.element)
+            onDragged: root.dragTo(modelData.element, mapToItem(list.contentItem, 0, at).y)
+            onDropped: root.drop()
+            onDragCanceled: root.cancelDrag()
             onChosen: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 root.choose(modelData.element, isAdding);
@@ -90,6 +138,27 @@ FocusScope {
                 root.choose(modelData.element, false);
                 root.desk.changes.rename(id);
             }
+        }
+    }
+
+    Item {
+        id: mark
+        parent: list.contentItem
+        width: list.width
+        z: 1
+        visible: root.target !== null
+
+        Rectangle {
+            readonly property bool isEdge: root.target !== null && root.target.edge !== ""
+
+            objectName: "outlineMark"
+            x: isEdge ? root.indent(root.target.depth) : 0
+            y: !isEdge ? 0 : (root.target.edge === "upper" ? 0 : parent.height) - height / 2
+            width: parent.width - x
+            height: isEdge ? 2 * dp : parent.height
+            color: isEdge ? BGUI.Theme.accent : "transparent"
+            border.width: isEdge ? 0 : 2 * dp
+            border.color: BGUI.Theme.accent
         }
     }
 

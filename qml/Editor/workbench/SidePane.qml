@@ -14,6 +14,11 @@ FocusScope {
 
     readonly property var selection: desk.selection
 
+    function openEntries() {
+        if (panel.openEntries())
+            tab = 0;
+    }
+
     Rectangle {
         anchors.fill: parent
         color: BGUI.Theme.surface
@@ -46,6 +51,17 @@ FocusScope {
             elide: Text.ElideRight
         }
 
+        BGUI.Label {
+            objectName: "repeatedHint"
+            x: 2 * BGUI.Theme.unit
+            width: parent.width - 4 * BGUI.Theme.unit
+            bottomPadding: BGUI.Theme.unit
+            visible: root.selection.isRepeated
+            size: "small"
+            muted: true
+            text: qsTr("It shows several times: a change changes all.")
+        }
+
         ArrangeBar {
             x: 2 * BGUI.Theme.unit
             width: parent.width - 4 * BGUI.Theme.unit
@@ -67,6 +83,7 @@ FocusScope {
         visible: head.visible
 
         ItemPanel {
+            id: panel
             anchors.fill: parent
             visible: tabs.currentIndex === 0
             desk: root.desk

@@ -7,7 +7,7 @@
 const sheet = [
     { keys: qsTr("Click"), effect: qsTr("Selects what is on top; with Shift several") },
     { keys: qsTr("Right click"), effect: qsTr("Lists what lies there") },
-    { keys: qsTr("Double click"), effect: qsTr("Edits a text in place") },
+    { keys: qsTr("Double click"), effect: qsTr("Edits a text in place, a list as a table") },
     { keys: qsTr("Drag"), effect: qsTr("Moves; from the ground, selects what the band touches") },
     { keys: qsTr("Ctrl while dragging"), effect: qsTr("Does not snap") },
     { keys: qsTr("Shift while dragging"), effect: qsTr("Moves straight; keeps the shape while resizing") },
@@ -23,7 +23,7 @@ const sheet = [
     { keys: "Del", effect: qsTr("Deletes") },
     { keys: "Ctrl+Up, Ctrl+Down", effect: qsTr("Forward, backward; with Shift to the front, to the back") },
     { keys: "Ctrl+Z, Ctrl+Y", effect: qsTr("Undo; Redo is the button beside Undo") },
-    { keys: "F2", effect: qsTr("In the list of items: gives the item another id") },
+    { keys: "F2, H, L", effect: qsTr("In the list of items: gives another id, hides, locks") },
     { keys: "F4", effect: qsTr("Shows and hides the source") },
     { keys: "Ctrl+S", effect: qsTr("Saves, also while you write") },
     { keys: "F5", effect: qsTr("Plays, also while you write; Esc comes back") },

@@ -13,6 +13,7 @@ T.AbstractButton {
     property color sample
     property bool selected: false
 
+    objectName: "colour " + sample
     implicitWidth: 2.75 * Theme.unit
     implicitHeight: implicitWidth
     hoverEnabled: true

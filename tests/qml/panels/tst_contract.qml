@@ -221,7 +221,7 @@ PanelCase {
         compare(Ejs.elementObj.model.map(entry => entry.name), ["Coffee", "Tea", "New entry"]);
         compare(Ejs.elementObj.model[0].special, true);
         compare(Ejs.getProperty("model"), "[\n            { name: \"Coffee\", price: \"3.20 \\\"hot\\\"\", special: true },\n"
-                + "            { name: \"Tea\", price: \"2\" },\n            { name: \"New entry\" }\n        ]");
+                + "            { name: 'Tea', price: '2' },\n            { name: \"New entry\" }\n        ]");
         verifyMap();
         compare(valueAfterReload(0, ["model"]), [JSON.stringify(Ejs.elementObj.model)]);
     }
@@ -278,7 +278,7 @@ PanelCase {
         open("Carousel { model: ['a.png', 'b.png'] }");
         select(0);
         row("model").setField(1, { name: "name", kind: "text" }, "B");
-        compare(JSON.stringify(Ejs.elementObj.model), "[{\"image\":\"a.png\"},{\"image\":\"b.png\",\"name\":\"B\"}]");
+        compare(JSON.stringify(Ejs.elementObj.model), "[\"a.png\",{\"image\":\"b.png\",\"name\":\"B\"}]");
     }
 
     function bring(name, color) {

@@ -146,7 +146,7 @@ PanelCase {
         keyClick(Qt.Key_Return);
         compare(Ejs.elementObj.model.length, count + 1);
         takeChanges();
-        const field = focusOn(item => item.placeholderText !== undefined && isBelow(item, add.parent));
+        const field = focusOn(item => item.placeholderText !== undefined && isBelow(item, add.parent.parent));
         keyClick(Qt.Key_A, Qt.ControlModifier);
         "New".split("").forEach(letter => keyClick(letter));
         keyClick(Qt.Key_Return);

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Nuvex developers
+// SPDX-License-Identifier: MIT
+import QtQuick 2.15
+import Nuvex.Editor 1.0
+
+/// What the designer has hidden or locked. It holds in the editor alone and is not in the source: a hidden item is not
+/// drawn, and neither it nor a locked one is met by the pointer or moved. What lies in such an item goes with it.
+QtObject {
+    id: root
+
+    property var desk
+    /// The live items that are hidden, and those that are locked.
+    property var hidden: []
+    property var locked: []
+    /// Their numbers.
+    readonly property var hiddenElements: hidden.map(item => item.element)
+    readonly property var lockedElements: locked.map(item => item.element)
+
+    // Hides the item of that number, or shows it again.
+    function toggleHidden(element) {
+        hidden = toggled(hidden, element);
+    }
+
+    function toggleLocked(element) {
+        locked = toggled(locked, element);
+    }
+
+    function toggled(items, element) {
+        const item = Ejs.childrenByElement(desk.live.root, element);
+        if (!item)
+            desk.say(qsTr("Only items that show on the page can be hidden or locked."));
+        return !item ? items : items.indexOf(item) >= 0 ? items.filter(other => other !== item) : items.concat(item);
+    }
+
+    function isHidden(item) {
+        return isAround(hidden, item);
+    }
+
+    function isLocked(item) {
+        return isAround(locked, item);
+    }
+
+    /// Whether the pointer meets the item.
+    function isFree(item) {
+        return !isHidden(item) && !isLocked(item);
+    }
+
+    function isAround(holders, item) {
+        for (let step = holders.length > 0 ? item : null; step; step = step.parent) {
+            if (holders.indexOf(step) >= 0)
+                return true;
+        }
+        return false;
+    }
+
+    function clear() {
+        [hidden, locked] = [[], []];
+    }
+
+    /// Where they stand in the source; see Selection.placesOf().
+    function places() {
+        return [hidden, locked].map(desk.selection.placesOf);
+    }
+
+    // Hides and locks what stood at `places` of the source `before`.
+    function restore(places, before) {
+        [hidden, locked] = places.map(list => desk.selection.foundAt(list, before));
+    }
+}
