@@ -147,6 +147,11 @@ StackPage {
         onChosen: desk.insertion.addChosen(type)
     }
 
+    ElsewhereQuestion {
+        desk: desk
+        isActive: root.active
+    }
+
     LeaveQuestion {
         id: question
         project: CAPI.getBaseProjectName()

@@ -170,6 +170,11 @@ StackPage {
         id: sheet
     }
 
+    ElsewhereQuestion {
+        desk: desk
+        isActive: root.active
+    }
+
     LeaveQuestion {
         id: question
         project: toolbar.project

@@ -384,8 +384,7 @@ class DesktopEditorTest(EditorTest):
 
     def test_after_a_crash(self):
         program = self.open()
-        for step in range(11):  # the tenth is kept
-            self.drag("red", by=(5 if step % 2 else 10, 0), held=["ctrl"])
+        self.drag("red", by=(5, 0), held=["ctrl"])
         kept = self.folder / "main.savestatus"
         wait_for(kept.exists, "what is kept")
         text = kept.read_text()
@@ -405,6 +404,31 @@ class DesktopEditorTest(EditorTest):
         wait_for(lambda: not kept.exists(), "its end")
         program.key("ctrl+z")
         self.assertEqual(self.saved(), DOCUMENT)
+
+    def test_changed_elsewhere(self):
+        program = self.open()
+        file = self.folder / "main.qml"
+        other = DOCUMENT.replace("#b22222", "#00aa00")
+        file.write_text(other)
+        program.key("ctrl+s")  # nothing was changed here
+        self.wait_colour("red", "#00aa00")
+        self.drag("red", by=(5, 0), held=["ctrl"])
+        mine = self.saved()
+        self.drag("red", by=(0, 7), held=["ctrl"])
+        for answer, kept in (("Keep what is here", other), ("Take the other", DOCUMENT)):
+            file.write_text(kept)
+            program.key("ctrl+s")
+            wait_for(lambda: program.find(answer), "the question")
+            self.assertEqual(file.read_text(), kept)
+            program.click(answer)
+            wait_for(lambda: not program.find(answer), "its end")
+            if answer.startswith("Keep"):
+                self.assertEqual(self.saved(), mine.replace("y: 30\n", "y: 37\n"))
+                self.drag("red", by=(9, 0), held=["ctrl"])
+        self.wait_colour("red", "#b22222")
+        program.key("ctrl+z")
+        self.wait_colour("red", "#00aa00")
+        self.assertEqual(self.saved(), mine.replace("x: 25", "x: 34").replace("y: 30\n", "y: 37\n"))
 
     def test_what_is_offered(self):
         for name, age, offered in (("Old", 60, False), ("New ä", -60, True), ("50% #1?", -60, True)):

@@ -49,6 +49,9 @@ QtObject {
     signal shown()
     /// What goes on is to be ended before something else is done.
     signal settling()
+    /// Others have made `source` the document on disk, while it has changes here that are not saved. Either take() it,
+    /// or it becomes the savedSource, which the next save() replaces.
+    signal changedElsewhere(string source)
 
     Component.onDestruction: live.clear()
 
@@ -63,6 +66,8 @@ QtObject {
         Ejs.dirmap = CAPI.dirmap();
         refresh();
         recovery.look(root.savedSource);
+        if (!hasOwnFrame())
+            say(qsTr("This project cannot be written to: what is changed here cannot be saved."));
     }
 
     // Shows the source for the first time. False when it cannot be shown; `fault` says why.
@@ -113,9 +118,15 @@ QtObject {
             finish();
     }
 
+    // Whether the project holds a copy of the editing frame, which each start of an editor puts there.
+    function hasOwnFrame() {
+        return CAPI.fileExist(CAPI.editorVersion());
+    }
+
     function frameUrl() {
         const path = CAPI.baseFolder() + "/" + CAPI.editorVersion();
-        return "file:///" + encodeURI(path).replace(/[?#]/g, encodeURIComponent);
+        return hasOwnFrame() ? "file:///" + encodeURI(path).replace(/[?#]/g, encodeURIComponent)
+                             : "qrc:///Nuvex/PlayerQML/Editor.qml";
     }
 
     // Shows the document as its source is now; the item map is still of the source `mapped`. On failure it says why and
@@ -178,7 +189,10 @@ QtObject {
     // Reads anew what the selected item's source says.
     function refresh() {
         ++revision;
-        root.isChanged = CAPI.editedSourceCode() !== root.savedSource;
+        const source = CAPI.editedSourceCode();
+        root.isChanged = source !== root.savedSource;
+        if (root.isChanged)
+            recovery.keep(source);
     }
 
     // Follows a change by the item's panel. What is made several times from its source is made anew.
@@ -246,8 +260,12 @@ QtObject {
             say(qsTr("Not saved: the source is no document."));
             return false;
         }
+        if (isOtherOnDisk()) {
+            takeIn();
+            return false;
+        }
         if (!CAPI.writeToFile(source, "main.qml")) {
-            say(qsTr("Not saved: the file cannot be written. Is the disk full?"));
+            say(qsTr("Not saved: the file cannot be written. Is the disk full, or the project protected?"));
             return false;
         }
         Ejs.dirmap["main.qml"] = (Ejs.dirmap["main.qml"] || 0) + 1;
@@ -270,19 +288,29 @@ QtObject {
         return !isChanged || save();
     }
 
-    // Takes in what others have written into the project. Changes that are not saved stay.
+    // Whether the document's file is there, and other than it was read or saved.
+    function isOtherOnDisk() {
+        const source = CAPI.readTextFile("main.qml");
+        return source !== "" && source !== root.savedSource;
+    }
+
+    // Takes in what others have written into the project. Changes that are not saved stay until it is said what counts.
     function takeIn() {
         Ejs.dirmap = CAPI.dirmap();
-        const source = CAPI.readTextFile("main.qml");
-        if (source === root.savedSource)
+        if (still.project === "" || !isOtherOnDisk())
             return;
         settle();
-        const hasChanges = CAPI.editedSourceCode() !== root.savedSource;
-        root.savedSource = source;
-        if (hasChanges)
-            say(qsTr("The project has arrived from elsewhere. Saving puts what is here in its place."));
+        const source = CAPI.readTextFile("main.qml");
+        if (CAPI.editedSourceCode() === root.savedSource)
+            take(source);
         else
-            adopt(source);
+            changedElsewhere(source);
+    }
+
+    // Makes `source`, which others have saved, the document.
+    function take(source) {
+        root.savedSource = source;
+        adopt(source);
         refresh();
     }
 

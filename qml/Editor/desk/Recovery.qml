@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Qt.labs.folderlistmodel 2.15
+import "limits.js" as Limits
 
 /// What the editor kept of changes that were not saved, when the program has ended without their being saved or given
-/// up: CAPI.saveEditingState() writes it now and then into a file beside the document.
+/// up: a file beside the document, into which CAPI.saveEditingState() writes now and then as well.
 QtObject {
     id: root
 
@@ -26,8 +27,15 @@ QtObject {
             times.createObject(root, { kept: kept });
     }
 
+    // Keeps `source`, which is not saved, when nothing follows for a moment.
+    function keep(source) {
+        pause.source = source;
+        pause.restart();
+    }
+
     // Nothing is to be recovered any more.
     function forget() {
+        pause.stop();
         if (CAPI.fileExist(fileName))
             CAPI.removeFile(fileName);
     }
@@ -39,6 +47,13 @@ QtObject {
         const when = dates[fileName];
         if (when && !(dates["main.qml"] > when))
             found(kept, when);
+    }
+
+    readonly property Timer pause: Timer {
+        property string source
+
+        interval: Limits.keepPause
+        onTriggered: CAPI.writeToFile(source, root.fileName)
     }
 
     readonly property Component times: Component {
