@@ -26,7 +26,9 @@ T.TextField {
     onTextChanged: rest()
     onActiveFocusChanged: {
         rest();
-        if (activeFocus && focusReason !== Qt.MouseFocusReason)
+        if (activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason))
+            selectAll(); // what is typed then replaces it, as in any form
+        else if (activeFocus && focusReason !== Qt.MouseFocusReason)
             cursorPosition = length;
     }
 

@@ -181,6 +181,26 @@ class EditorTest(ProgramTest):
         for key in keys:
             self.screen.do("keyup", key)
 
+    def enter(self, field, text):
+        """Puts a text in place of that in a field."""
+        self.click(field)
+        self.program.key("ctrl+a")
+        self.program.type(text)
+        self.program.key("Return")
+
+    def begin(self, name, choice="Portrait"):
+        """Makes a project, of that form or from that template."""
+        program = self.program
+        program.wait_page("MainPage")
+        program.click("Open")
+        program.wait_page("ProjectsPage")
+        program.key("ctrl+n")
+        program.wait_page("NewProjectPage")
+        wait_for(lambda: program.find("projectName")["focus"], "the field for the name")
+        program.type(name)
+        program.click(choice)
+        program.click("Create and edit")
+
     # What is on disk
 
     def source(self):

@@ -125,12 +125,6 @@ class DesktopEditorTest(EditorTest):
         self.wait_values("page", onHeightChanged="page.color = 'red'")
         self.wait_colour((self.rect("page")[0] + 30, self.rect("page")[1] + 9), "#f7f1e3")  # it did not run
 
-    def enter(self, field, text):
-        self.click(field)
-        self.program.key("ctrl+a")
-        self.program.type(text)
-        self.program.key("Return")
-
     def test_adding_and_deleting(self):
         program = self.open()
         self.drag("palette BasicRectangle", to=(self.rect("page")[0] + 400, self.rect("page")[1] + 200))
@@ -369,18 +363,6 @@ class DesktopEditorTest(EditorTest):
                          sorted(["", *(name + " 1" for name in files if name != "dirmap")]))
         wait_for(lambda: program.find("zoomPercent"), "the editor")
         self.assertNotIn("faultHint", [item["name"] for item in program.items()])
-
-    def begin(self, name, template=None):
-        program = self.program
-        program.wait_page("MainPage")
-        program.click("Open")
-        program.wait_page("ProjectsPage")
-        program.key("ctrl+n")
-        program.wait_page("NewProjectPage")
-        wait_for(lambda: program.find("projectName")["focus"], "the field for the name")
-        program.type(name)
-        program.click(template or "Portrait")
-        program.click("Create and edit")
 
     def test_after_a_crash(self):
         program = self.open()

@@ -43,10 +43,6 @@ Loader {
             Accessible.name: root.field.label
             onEditingFinished: root.put(text)
             onAccepted: root.accepted()
-            onActiveFocusChanged: {
-                if (activeFocus && focusReason === Qt.TabFocusReason)
-                    selectAll();
-            }
             Component.onDestruction: root.put(text)
 
             Connections {

@@ -16,8 +16,8 @@ BGUI.MessageBox {
 
     objectName: "elsewhereQuestion"
     title: qsTr("Changed elsewhere")
-    text: qsTr("The document has been changed outside of this editor, and what is here is not saved. Saving would put what"
-               + " is here in its place. When you take the other, Undo brings back what is here.")
+    text: qsTr("The document has been changed outside of this editor, and what is here is not saved. Saving would put"
+               + " what is here in its place. When you take the other, Undo brings back what is here.")
     type: "danger"
     acceptText: qsTr("Take the other")
     rejectText: qsTr("Keep what is here")
