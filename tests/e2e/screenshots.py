@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: MIT
 """Takes one picture a page, demo and size of the real program for docs/screenshots.
 
-Further arguments name what is taken: pages, dashboard, gallery, or demos by their folders; without any it is all.
+Further arguments name what is taken: pages, editor, dashboard, gallery, or demos by their folders; without any it is
+all.
 """
 import os
 import shutil
@@ -18,6 +19,7 @@ sys.path[1:1] = [str(ROOT / "tests" / folder) for folder in ("lan", "localcloud"
 # pylint: disable=wrong-import-position
 from cloud import Cloud
 from driver import Profile, Program, Screen, read_setup, wait_for
+from editorshots import EditorShots
 from peer import Peer
 
 PICTURES = ROOT / "docs/screenshots"
@@ -72,6 +74,10 @@ def steps_of_the_pages(program):
             program.wait_page(page)
         program.key("Escape")
         program.wait_page("MainPage")
+
+
+def steps_of_the_editor(program):
+    EditorShots(program, lambda name: take(program, name, "jpg", 0.5)).all()
 
 
 def steps_of_the_gallery(program):
@@ -139,7 +145,7 @@ def main():
     # Boards that go by the clock are taken at nine in the morning.
     os.environ["TZ"] = f"DAY{time.gmtime().tm_hour - 9}"
     demos = [demo.parent for demo in sorted((ROOT / "demos").glob("*/main.qml"))]
-    wanted = wanted or ["pages", "dashboard", "gallery", *[demo.name for demo in demos]]
+    wanted = wanted or ["pages", "editor", "dashboard", "gallery", *[demo.name for demo in demos]]
     for size in SIZES:
         screen = Screen(size)
         try:
@@ -147,6 +153,8 @@ def main():
                 run(setup, screen, steps_of_a_first_start, None)
                 run(setup, screen, steps_of_the_pages, signed_in)
                 run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
+            if "editor" in wanted:
+                run(setup, screen, steps_of_the_editor, {**signed_in, "lastProject": "Menu Board"})
             if "dashboard" in wanted:
                 run_dashboard(setup, screen, signed_in)
             if "gallery" in wanted:
