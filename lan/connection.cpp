@@ -183,6 +183,7 @@ void Connection::processReadyRead()
         if (m_receivingFile)
             readIncomingFile();
     }
+    flush(); // what this has led to; it would wait for another turn of the event loop
 }
 
 void Connection::readIntoBuffer()

@@ -112,14 +112,16 @@ Outcome WorkFolder::putMap(QTemporaryFile& file, const QString& project, const Q
 // What has come may be the end of a broken connection or of a full disk there.
 Outcome WorkFolder::mayReplace(QFile& file, const QString& path) const
 {
+    const bool isEmpty = file.size() == 0;
     QFile old;
-    if (!openForReading(path, old) || old.size() == 0)
+    if ((!isEmpty && projectOf(path, documentName).isEmpty()) || !openForReading(path, old) ||
+        old.size() == 0)
         return Outcome::success();
-    if (file.size() == 0)
+    if (isEmpty)
         return Outcome::failure(QStringLiteral("came empty"));
-    if (projectOf(path, documentName).isEmpty() || !isDocument(old) || isDocument(file))
-        return Outcome::success();
-    return Outcome::failure(QStringLiteral("is no document"));
+    if (isDocument(old) && !isDocument(file))
+        return Outcome::failure(QStringLiteral("is no document"));
+    return Outcome::success();
 }
 
 bool WorkFolder::isDocument(QFile& file) const

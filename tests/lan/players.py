@@ -120,11 +120,11 @@ class Player:
 
 
 class Proxy:
-    """Passes connections on to `port`: in slices of `slice_bytes`, each `delay` seconds later than it came, and resets
-    them once `reset_after` bytes have passed in either direction."""
+    """Passes connections on to `port`: in slices of `slice_bytes`, each `delay` seconds later than it came. The end of
+    one side is a reset for the other."""
 
-    def __init__(self, port, slice_bytes=1 << 16, delay=0.0, reset_after=None):
-        self.target, self.slice, self.delay, self.left = port, slice_bytes, delay, reset_after
+    def __init__(self, port, slice_bytes=1 << 16, delay=0.0):
+        self.target, self.slice, self.delay = port, slice_bytes, delay
         self.listener = socket.create_server(("127.0.0.1", 0))
         self.port = self.listener.getsockname()[1]
         threading.Thread(target=self._accept, daemon=True).start()
@@ -159,9 +159,7 @@ class Proxy:
                 arrived.wait_for(lambda: queue)
                 due, data = queue.pop(0)
             time.sleep(max(0.0, due - time.monotonic()))
-            if self.left is not None:
-                self.left -= len(data)
-            if not data or (self.left is not None and self.left < 0):
+            if not data:
                 return self._reset(ends)
             try:
                 target.sendall(data)

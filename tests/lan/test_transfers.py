@@ -154,26 +154,6 @@ class Transfers(unittest.TestCase):
         self.assertTrue(b.exchange("fetch", "A")[0])
         self.assert_same(b.work / "Shop", FILES)
 
-    def test_resets(self):
-        """What is there after a reset is whole, and a second try brings the rest."""
-        a = self.start("A")
-        write_project(a.work / "Shop", FILES)
-        for limit in (300, 5_000, 40_000, 322_000) if THOROUGH else (40_000,):
-            for what in ("send", "fetch"):
-                with self.subTest(what, limit=limit), Player("B") as b:
-                    asker, other = (a, "B") if what == "send" else (b, "A")
-                    with Proxy(b.port, reset_after=limit) as proxy:
-                        a.meet(b, proxy.port)
-                        self.assertEqual(asker.exchange(what, other)[1].split(": ")[1], "the connection has ended.")
-                    a.wait("finished B")
-                    wait_for(lambda: not (b.work / ".incoming").exists() or not os.listdir(b.work / ".incoming"), "the end")
-                    found = contents(b.work / "Shop") if (b.work / "Shop").exists() else {}
-                    self.assertEqual(found, {path: FILES[path] for path in found})
-                    a.meet(b)
-                    self.assertTrue(asker.exchange(what, other)[0])
-                    self.assert_same(b.work / "Shop", FILES)
-                a.wait("finished B")
-
     def test_cut_at_every_byte(self):
         player, old = self.start("A"), {"f": b"old", "dirmap": b"f 1\n"}
         write_project(player.work / "Shop", {"f": b"old"})
