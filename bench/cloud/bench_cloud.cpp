@@ -10,15 +10,23 @@
 //                                                         prints the milliseconds of each round
 //   bench_cloud DEPLOYMENT sign SECONDS               prints signatures a second, and those of bare
 //   LibTomCrypt
+//   bench_cloud DEPLOYMENT revisions ROOT N           follows the revision of "Bench" in a window with one
+//   animated
+//                                                     item, writes N new ones, each when the last one was
+//                                                     pulled, and prints the milliseconds from each write to
+//                                                     the pull's begin
 // NUVEX_BENCH_CA names a file with a certificate to trust.
 
 #include "cloud/http/webfile.h"
+#include "cloud/realtime/firebasesubscriber.h"
 #include "cloud/storage/gcloud.h"
 #include "cloud/sync/sharedfolderthread.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQuickView>
 #include <QSslConfiguration>
 
 #include <array>
@@ -94,19 +102,88 @@ bool pull(const Deployment& deployment, const QString& root, int revision, int r
     return updates == rounds;
 }
 
-template <typename Work>
-double perSecond(int seconds, const Work& work)
+// Somebody elsewhere publishes: one write of the revision after the other, on a kept connection.
+class Publisher : public QObject
 {
-    constexpr int atOnce = 20;
-    QElapsedTimer clock;
-    clock.start();
-    int done = 0;
-    while (clock.elapsed() < seconds * 1000) {
-        for (int i = 0; i < atOnce; ++i)
-            work();
-        done += atOnce;
+public:
+    explicit Publisher(const Deployment& deployment)
+        : m_place(deployment.hosts.database +
+                  QStringLiteral("/Users/abc/Projects/Bench/revision.json?auth=") +
+                  deployment.databaseCredential)
+    {
     }
-    return done * 1000.0 / double(clock.elapsed());
+
+    QString place() const { return m_place; }
+    void write(int revision)
+    {
+        QNetworkReply* reply = m_manager.put(QNetworkRequest(QUrl(m_place)), QByteArray::number(revision));
+        connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+    }
+
+private:
+    const QString m_place;
+    QNetworkAccessManager m_manager;
+};
+
+void showAnimation(QQuickView& view)
+{
+    QQmlComponent scene(view.engine());
+    scene.setData("import QtQuick 2.15\nItem { width: 640; height: 360\nRectangle { width: 90; height: 90; "
+                  "color: 'teal'\n"
+                  "NumberAnimation on x { to: 500; duration: 2000; loops: Animation.Infinite } } }",
+                  QUrl());
+    view.setContent(QUrl(), &scene, scene.create());
+    view.show();
+}
+
+bool revisions(const Deployment& deployment, const QString& root, int count)
+{
+    QQuickView view;
+    showAnimation(view);
+    Player player(root);
+    SharedFolderThread worker(deployment, player);
+    Publisher publisher(deployment);
+    FirebaseSubscriber subscriber;
+    QElapsedTimer sinceWrite;
+    int revision = 0;
+    const auto publish = [&] {
+        sinceWrite.start();
+        publisher.write(++revision);
+    };
+    QObject::connect(&subscriber, &FirebaseSubscriber::dataReceived, &player, [&](const QString& event) {
+        if (event.endsWith(QStringLiteral("\"data\":%1}\n\n").arg(revision)))
+            worker.pull(QStringLiteral("Bench"), QString::number(revision));
+    });
+    QObject::connect(
+        &worker, &SharedFolderThread::startUpdating, &player,
+        [&] { std::printf("%.3f\n", double(sinceWrite.nsecsElapsed()) / 1e6); }, Qt::DirectConnection);
+    QObject::connect(&worker, &SharedFolderThread::projectUpdated, &player, [&] {
+        if (revision < count)
+            publish();
+        else
+            QCoreApplication::quit();
+    });
+    subscriber.subscribe(publisher.place());
+    publish();
+    return QCoreApplication::exec() == 0;
+}
+
+// Works a second by the one and by the other, in turns, so that both have the same share of a busy machine.
+template <typename One, typename Other>
+std::pair<double, double> perSecond(int seconds, const One& one, const Other& other)
+{
+    QElapsedTimer clock;
+    qint64 times[2] = {}; // ns
+    int rounds = 0;
+    for (; times[0] + times[1] < 2LL * seconds * 1'000'000'000; ++rounds) {
+        clock.start();
+        one();
+        times[0] += clock.nsecsElapsed();
+        clock.start();
+        other();
+        times[1] += clock.nsecsElapsed();
+    }
+    return {rounds * 1e9 / double(times[0]), rounds * 1e9 / double(times[1])};
 }
 
 // The least that the library has to do for a signature with a key that it has read once.
@@ -147,8 +224,8 @@ bool sign(const Deployment& deployment, int seconds)
     BareSigner bare(deployment.serviceAccount.privateKey);
     const QByteArray text(400, 'x');
     for (int round = 0; round < 3; ++round) {
-        const double ours = perSecond(seconds, [&] { cloud.sign(text); });
-        const double least = perSecond(seconds, [&] { bare.sign(text); });
+        const auto [ours, least] = perSecond(
+            seconds, [&] { cloud.sign(text); }, [&] { bare.sign(text); });
         std::printf("%.1f %.1f\n", ours, least);
     }
     return !cloud.sign(text).isEmpty();
@@ -175,6 +252,8 @@ bool run(const Deployment& deployment, const QStringList& words)
                       words.value(4));
     if (what == QLatin1String("pull"))
         return pull(deployment, words.value(1), words.value(2).toInt(), qMax(1, words.value(3).toInt()));
+    if (what == QLatin1String("revisions"))
+        return revisions(deployment, words.value(1), words.value(2).toInt());
     return what == QLatin1String("sign") && sign(deployment, words.value(1).toInt());
 }
 
@@ -182,7 +261,9 @@ bool run(const Deployment& deployment, const QStringList& words)
 
 int main(int argc, char* argv[])
 {
-    const QCoreApplication application(argc, argv);
+    const bool hasWindow = argc > 2 && qstrcmp(argv[2], "revisions") == 0;
+    const std::unique_ptr<QCoreApplication> application(hasWindow ? new QGuiApplication(argc, argv)
+                                                                  : new QCoreApplication(argc, argv));
     trustAlso(qEnvironmentVariable("NUVEX_BENCH_CA"));
     const QStringList words = QCoreApplication::arguments();
     return run(Deployment::find(words.value(1)), words.mid(2)) ? 0 : 1;

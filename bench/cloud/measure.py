@@ -30,7 +30,7 @@ def options():
     parser = argparse.ArgumentParser()
     parser.add_argument("bench")
     parser.add_argument("program")
-    for name, default in {"mebibytes": 1024, "files": 2000, "unchanged": 10_000, "rounds": 3}.items():
+    for name, default in {"mebibytes": 1024, "files": 2000, "unchanged": 10_000, "revisions": 200, "rounds": 3}.items():
         parser.add_argument("--" + name, type=int, default=default)
     known = parser.parse_args()
     known.bench, known.program = (str(pathlib.Path(path).resolve()) for path in (known.bench, known.program))
@@ -176,6 +176,21 @@ def measure_unchanged(known, server):
               f"record to make; then {statistics.median(others):.1f} ms (most {max(others):.1f}).")
 
 
+def measure_revisions(known, server):
+    """From the write of a revision to the begin of its pull, in a window with one animated item."""
+    screen = pathlib.Path(__file__).resolve().parents[2] / "tests/support/on-virtual-screen"
+    with tempfile.TemporaryDirectory() as root:
+        server.put(PROJECT + "0", b"x")
+        server.put(PROJECT + "dirmap", "0 1\n")
+        ended = subprocess.run([screen, known.bench, server.folder / "deployment.json", "revisions", root,
+                                str(known.revisions)],
+                               check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+    times = sorted(map(float, ended.stdout.split()))
+    late = times[len(times) * 99 // 100]
+    print(f"\nFrom a revision's write to startUpdating, {len(times)} events: median {statistics.median(times):.2f} ms, "
+          f"99th percentile {late:.2f} ms, most {times[-1]:.2f} ms.")
+
+
 def measure_signatures(known, server):
     ended = subprocess.run([known.bench, server.folder / "deployment.json", "sign", "2"], check=True,
                            stdout=subprocess.PIPE, text=True)
@@ -197,6 +212,7 @@ def main():
             Way(known, server, "HTTP", server.base, server.folder / "deployment.json"),
             Way(known, server, "TLS", terminator.base, terminator.deployment, terminator.certificate)])
         measure_unchanged(known, server)
+        measure_revisions(known, server)
         measure_signatures(known, server)
     finally:
         terminator.stop()

@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 std::optional<Dirmap> syncedOf(const std::optional<SyncRecord>& record)
@@ -64,10 +66,7 @@ SyncResult Pull::run(const QString& revision)
 
 SyncResult Pull::carryOut(const Dirmap& cloudMap, const QString& revision)
 {
-    m_plan = planPull(m_local, syncedOf(m_record), cloudMap, [this](const QString& path) {
-        const QFileInfo info(m_project.place.folder + QLatin1Char('/') + path);
-        return info.isSymLink() || (info.exists() && !info.isDir());
-    });
+    makePlan(cloudMap);
     tell();
     if (m_plan.refused.size() == cloudMap.paths.size() || wouldEmpty())
         return failure(StorageFault::Unexpected);
@@ -79,6 +78,23 @@ SyncResult Pull::carryOut(const Dirmap& cloudMap, const QString& revision)
     if (!applyPlan(revision))
         return failure(StorageFault::LocalFile);
     return {StorageFault::None, m_missing.isEmpty(), true, m_plan.kept};
+}
+
+// Most pulls find every map as it was, and need no look at each path then but whether it is there.
+void Pull::makePlan(const Dirmap& cloudMap)
+{
+    const auto exists = [this](const QString& path) {
+        const QFileInfo info(m_project.place.folder + QLatin1Char('/') + path);
+        return info.isSymLink() || (info.exists() && !info.isDir());
+    };
+    const bool isUnchanged = m_record && cloudMap == m_local && m_record->synced == m_local &&
+                             std::all_of(m_local.paths.cbegin(), m_local.paths.cend(), exists);
+    if (!isUnchanged) {
+        m_plan = planPull(m_local, syncedOf(m_record), cloudMap, exists);
+        return;
+    }
+    m_plan.local = m_local;
+    m_plan.synced = m_local;
 }
 
 void Pull::tell() const

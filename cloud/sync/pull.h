@@ -33,6 +33,7 @@ public:
 
 private:
     SyncResult carryOut(const Dirmap& cloudMap, const QString& revision);
+    void makePlan(const Dirmap& cloudMap);
     void tell() const;
     bool wouldEmpty() const;
     void leaveOut(const QSet<QString>& paths);

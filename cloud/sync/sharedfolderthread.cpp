@@ -157,7 +157,7 @@ private:
     // A script counts the revision up itself, and nobody tells when.
     SyncResult push()
     {
-        const SyncResult result = Push(m_owner.m_cloud, *this, m_job.project).run();
+        SyncResult result = Push(m_owner.m_cloud, *this, m_job.project).run();
         if (result && m_job.conflicts == Conflicts::LocalWins)
             removePushJournal(m_job.project.place);
         return result;

@@ -148,8 +148,10 @@ class CloudTest(ProgramTest):
         player = self.start_player()
         self.wait_colour(player, TEAL)
         wait_for(lambda: self.database("Players/wall_1/project") == "Shop", "what the player tells of its project")
+        self.cloud.ask("DELETE", "/_localcloud/streams")  # heard of all the same, long before the next heartbeat
         self.cloud.faults({"method": "GET", "target": "*Cafe%2Fmain.qml*", "delayMs": 3000})
         self.database("Players/wall_1/project", "Cafe")
+        wait_for(lambda: "waits for" in player.log(), "the player to hear of it")
         end = time.monotonic() + 2.5
         while time.monotonic() < end:
             self.assertEqual(colour_at(player.screen, 640, 360), TEAL)
