@@ -148,6 +148,7 @@ ComponentCase {
         var name = data.tag + ".png";
         if (data.tag === "broken")
             fixture.makeGarbage(name);
+        wait(30); // what is written while it is tried is tried again
         var item = makeImage(data.isEdited ? "property int element: 3" : "");
         ignoreWarning(new RegExp(name));
         item.source = fixture.url(name);

@@ -65,6 +65,7 @@ ComponentCase {
         var name = data.tag + ".mp4";
         if (data.tag === "broken")
             fixture.makeGarbage(name);
+        wait(30); // what is written while it is tried is tried again
         var ground = makeVideo(name, data.isEdited ? "element: 3" : "");
         tryVerify(function() { return ground.video.settled && ground.video.status === MediaPlayer.InvalidMedia; }, 8000);
         compare(colorAt(ground, 2, 2) !== "#000000", data.isEdited === true, "a mark is drawn in the editor alone");
