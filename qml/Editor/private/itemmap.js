@@ -25,9 +25,12 @@ function replace(map, edits) {
             _shiftRecord(record, shifts[next]);
             return;
         }
+        const isReplaced = _isWithinOne(edits, record);
         for (const name in record.properties)
             _changeValue(record.properties[name], edits);
         _moveRecord(record, moved, movedStart);
+        if (isReplaced)
+            record.plast = record.pfirst; // whatever stands there now
     });
 }
 
@@ -55,6 +58,11 @@ function _firstFrom(edits, position) {
 function _isApart(edits, next, record) {
     const isBefore = next === 0 || edits[next - 1].end <= record.pfirst;
     return isBefore && (next === edits.length || edits[next].beg >= record.plast);
+}
+
+function _isWithinOne(edits, record) {
+    const edit = edits[_firstFrom(edits, record.pfirst + 1) - 1];
+    return edit !== undefined && _isThere(record) && record.plast <= edit.end;
 }
 
 function _shiftRecord(record, shift) {
