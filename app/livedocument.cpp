@@ -7,6 +7,7 @@
 #include "qmldoc/editortext.h"
 #include "qmldoc/faults.h"
 #include "quick/limits.h"
+#include "quick/live/element.h"
 #include "quick/live/holdstill.h"
 #include "quick/live/placement.h"
 
@@ -44,8 +45,7 @@ QVariantList faultsOf(const QString& source, const QString& text, const QUrl& ur
 // How often each of the numbers stands below `item`.
 void countElements(const QQuickItem& item, QHash<int, int>& counts)
 {
-    const QVariant element = item.property("element");
-    const auto count = element.isValid() ? counts.find(element.toInt()) : counts.end();
+    const auto count = counts.find(elementOf(item));
     if (count != counts.end())
         ++*count;
     for (const QQuickItem* child : item.childItems())

@@ -259,6 +259,17 @@ int Outline::nextProperty(int object, int i) const
     return i < member(object).next ? i : -1;
 }
 
+int Outline::objectAround(int begin, int end) const
+{
+    const auto next =
+        std::lower_bound(m_members.cbegin(), m_members.cend(), begin,
+                         [](const Member& member, int offset) { return member.begin < offset; });
+    int i = int(next - m_members.cbegin()) - 1;
+    while (i >= 0 && !(member(i).kind == Member::Object && end < member(i).end))
+        i = member(i).parent;
+    return i;
+}
+
 int tokenAt(const QString& text, int position)
 {
     for (;;) {

@@ -73,6 +73,9 @@ public:
     /// there is none. Its properties are its own declarations and script bindings and those in its object
     /// bindings, but none of the objects that it holds.
     int nextProperty(int object, int i) const;
+    /// Index of the innermost object whose body holds the characters [begin, end), also when there are none;
+    /// -1 when none does. An object that is the value of a binding does not count.
+    int objectAround(int begin, int end) const;
     /// The type of an object up to its first dot, or a declared name, escapes worked out; or a bound name as
     /// it stands, with its blanks and comments.
     QString name(const Member& member) const;

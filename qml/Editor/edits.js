@@ -89,14 +89,25 @@ function _wholeOf(document) {
 function _carryOut(document, change) {
     if (change.refusal !== "")
         return change.refusal;
-    const old = change.edits.map(edit => _recordsIn(document.map, edit));
-    change.edits.slice().reverse().forEach(edit => {
-        document.api.replaceSourceCode(edit.beg, edit.end, edit.text);
-        ItemMap.replace(document.map, edit.beg, edit.end, edit.text);
-    });
+    const old = change.edits.map(edit => edit.objects.length > 0 ? _recordsIn(document.map, edit) : []);
+    _write(document.api, change.edits);
+    ItemMap.replace(document.map, change.edits);
     change.edits.forEach((edit, i) => edit.objects.forEach((record, k) => _put(document.map, record, old[i][k])));
-    change.records.forEach(record => _put(document.map, record, ItemMap.at(document.map, record.pfirst)));
+    const known = ItemMap.byPlace(document.map);
+    change.records.forEach(record => _put(document.map, record, known[record.pfirst]));
     return "";
+}
+
+// Makes all edits in one replacement: each one costs as much as the source is long.
+function _write(api, edits) {
+    if (edits.length === 0)
+        return;
+    let [text, copied] = ["", edits[0].beg];
+    edits.forEach(edit => {
+        text += api.sourceCode(copied, edit.beg) + edit.text;
+        copied = edit.end;
+    });
+    api.replaceSourceCode(edits[0].beg, copied, text);
 }
 
 // The records of the items that the objects in the edit's text are, in their order: those that were moved there, or the

@@ -92,11 +92,10 @@ int Comparison::itemAround(int edit) const
 {
     const int begin = m_begins[size_t(edit)];
     const int end = begin + m_edits[size_t(edit)].text.size();
-    const auto isAround = [&](int i) {
-        return m_after.member(i).begin < begin && end < m_after.member(i).end;
-    };
-    const auto found = std::find_if(m_after.items().cbegin(), m_after.items().cend(), isAround);
-    return found == m_after.items().cend() ? -1 : *found;
+    int object = m_after.objectAround(begin, end);
+    while (object >= 0 && !m_after.member(object).isNumbered)
+        object = m_after.member(object).parent;
+    return object;
 }
 
 int Comparison::editAt(int offset) const

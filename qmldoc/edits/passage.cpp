@@ -26,6 +26,11 @@ bool isBefore(const SourceEdit& one, const SourceEdit& other)
     return one.begin != other.begin ? one.begin < other.begin : one.end < other.end;
 }
 
+bool beginsBefore(const Outline::Member& member, int offset)
+{
+    return member.begin < offset;
+}
+
 // The sorted edits overlap.
 bool overlap(const std::vector<SourceEdit>& edits)
 {
@@ -71,24 +76,28 @@ Passage::Passage(const QString& source, int begin, int end)
 
 int Passage::objectAt(int offset) const
 {
-    const auto found =
-        std::find_if(m_outline.members().cbegin(), m_outline.members().cend(), [&](const auto& member) {
-            return member.kind == Outline::Member::Object && member.begin == offset - m_begin;
-        });
-    return found == m_outline.members().cend() ? -1 : int(found - m_outline.members().cbegin());
+    const auto& members = m_outline.members();
+    const int begin = offset - m_begin;
+    auto found = std::lower_bound(members.cbegin(), members.cend(), begin, beginsBefore);
+    while (found != members.cend() && found->begin == begin && found->kind != Outline::Member::Object)
+        ++found;
+    return found != members.cend() && found->begin == begin ? int(found - members.cbegin()) : -1;
 }
 
 QString Passage::lineEnd() const
 {
-    static const QRegularExpression pattern(QStringLiteral("\r\n|\n|\r"));
-    const QRegularExpressionMatch match = pattern.match(m_source);
-    return match.hasMatch() ? match.captured() : QStringLiteral("\n");
+    const auto end =
+        std::find_if(m_source.cbegin(), m_source.cend(), [](QChar c) { return c == '\n' || c == '\r'; });
+    const int at = int(end - m_source.cbegin());
+    if (m_source.midRef(at, 2) == QLatin1String("\r\n"))
+        return QStringLiteral("\r\n");
+    return end != m_source.cend() && *end == '\r' ? QStringLiteral("\r") : QStringLiteral("\n");
 }
 
 QString Passage::withLineEnds(const QString& text) const
 {
     static const QRegularExpression pattern(QStringLiteral("\r\n|\n|\r"));
-    return QString(text).replace(pattern, lineEnd());
+    return text.contains(pattern) ? QString(text).replace(pattern, lineEnd()) : text;
 }
 
 QString Passage::indentation(int offset) const
@@ -152,7 +161,19 @@ Change Passage::settledChange(std::vector<SourceEdit> edits) const
     if (asTheyAre.isPossible())
         return asTheyAre;
     for (SourceEdit& edit : edits)
-        if (!change({edit}).isPossible())
+        if (!isPossibleAlone(edit))
             edit.text += lineEnd();
     return change(edits);
+}
+
+// Judged by the text of the innermost object around the edit: there may be thousands of them.
+bool Passage::isPossibleAlone(SourceEdit edit) const
+{
+    const int object = m_outline.objectAround(edit.begin, edit.end);
+    if (object <= 0)
+        return change({edit}).isPossible();
+    const Outline::Member& member = m_outline.member(object);
+    edit.begin -= member.begin;
+    edit.end -= member.begin;
+    return Passage(m_text, member.begin, member.end).change({edit}).isPossible();
 }

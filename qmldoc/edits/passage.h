@@ -38,6 +38,8 @@ public:
     Change settledChange(std::vector<SourceEdit> edits) const;
 
 private:
+    bool isPossibleAlone(SourceEdit edit) const;
+
     const QString& m_source;
     int m_begin;
     QString m_text;

@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
+#include <set>
 
 namespace {
 
@@ -95,6 +95,10 @@ SourceEdit propertyEdit(const Passage& passage, const PropertyValue& value)
 // Why `text` is not the source of one value; empty when it is.
 QString faultInValue(const QString& text)
 {
+    bool isNumber = false;
+    text.toDouble(&isNumber);
+    if (isNumber)
+        return QString();
     const Outline outline("A{a:" + text + "\n}");
     if (!outline.isValid())
         return inWords("This is no value: %1.").arg(outline.error().message);
@@ -119,17 +123,16 @@ QString fault(const Passage& passage, const PropertyValue& value)
 Change setProperties(const Passage& passage, const std::vector<PropertyValue>& values)
 {
     std::vector<SourceEdit> edits;
+    std::set<int> begins;
     for (const PropertyValue& value : values) {
         const QString reason = fault(passage, value);
         if (!reason.isEmpty())
             return Change::refused(reason);
         edits.push_back(propertyEdit(passage, value));
-        const SourceEdit& edit = edits.back();
-        const bool isBehindOther =
-            std::any_of(edits.cbegin(), edits.cend() - 1,
-                        [&](const SourceEdit& other) { return other.begin == edit.begin; });
+        SourceEdit& edit = edits.back();
+        const bool isBehindOther = !begins.insert(edit.begin).second;
         if (isBehindOther && !isLineEnd(edit.text.at(0)))
-            edits.back().text.prepend(passage.lineEnd());
+            edit.text.prepend(passage.lineEnd());
     }
     return passage.settledChange(edits);
 }

@@ -3,6 +3,8 @@
 
 #include "quick/live/holdstill.h"
 
+#include "quick/live/element.h"
+
 #include <QMediaPlayer>
 #include <QQuickItem>
 #include <QSet>
@@ -29,6 +31,13 @@ constexpr Rest rests[] = {
     {"QQuickAnimatedSprite", "running", false, true},
 };
 
+bool inherits(const QMetaObject* type, const char* name)
+{
+    while (type && qstrcmp(type->className(), name) != 0)
+        type = type->superClass();
+    return type != nullptr;
+}
+
 class Holding
 {
 public:
@@ -42,31 +51,32 @@ public:
         if (m_seen.contains(&object))
             return;
         m_seen.insert(&object);
-        if (bringToRest(object))
+        const QMetaObject& type = classOf(object);
+        if (bringToRest(object, type))
             return;
         for (QObject* child : object.children())
             hold(*child);
-        if (auto* item = qobject_cast<QQuickItem*>(&object))
-            for (QQuickItem* child : item->childItems())
+        if (type.inherits(&QQuickItem::staticMetaObject))
+            for (QQuickItem* child : static_cast<QQuickItem&>(object).childItems())
                 hold(*child);
     }
 
 private:
     // Whether that was all there is to do about the object and what it holds.
-    bool bringToRest(QObject& object) const
+    bool bringToRest(QObject& object, const QMetaObject& type) const
     {
         for (const Rest& rest : rests)
-            if (object.inherits(rest.type)) {
+            if (inherits(&type, rest.type)) {
                 object.setProperty(rest.property, rest.value);
                 return rest.isWhole;
             }
-        if (object.inherits("QQuickAbstractAnimation"))
+        if (inherits(&type, "QQuickAbstractAnimation"))
             return pauseAnimation(object);
-        if (object.inherits("QQuickParticleSystem"))
+        if (inherits(&type, "QQuickParticleSystem"))
             object.setProperty("paused", m_particles == Particles::Hold);
-        if (auto* window = qobject_cast<QWindow*>(&object))
-            window->setVisible(false);
-        pausePlayer(object);
+        if (type.inherits(&QWindow::staticMetaObject))
+            static_cast<QWindow&>(object).setVisible(false);
+        pausePlayer(object, type);
         return false;
     }
 
@@ -77,11 +87,12 @@ private:
         return true;
     }
 
-    static void pausePlayer(QObject& object)
+    static void pausePlayer(QObject& object, const QMetaObject& type)
     {
-        const QVariant state = object.property("playbackState");
-        const bool isPlaying = state.isValid() && state.toInt() == QMediaPlayer::PlayingState;
-        if (isPlaying || object.inherits("TransparentVideo"))
+        const bool isPlayer = type.indexOfProperty("playbackState") >= 0;
+        const bool isPlaying =
+            isPlayer && object.property("playbackState").toInt() == QMediaPlayer::PlayingState;
+        if (isPlaying || inherits(&type, "TransparentVideo"))
             QMetaObject::invokeMethod(&object, "pause");
     }
 

@@ -3,6 +3,10 @@
 
 #include "quick/live/snapper.h"
 
+#include "quick/live/element.h"
+
+#include <QSet>
+
 namespace {
 
 QVariantMap mapOf(const Snapping::Result& result)
@@ -21,18 +25,25 @@ QVariantMap mapOf(const Snapping::Result& result)
 // What a component holds for itself is no neighbour: only what stands in the document has a number.
 bool isNeighbour(const QQuickItem& item)
 {
-    const QVariant element = item.property("element");
-    return item.isVisible() && item.width() > 0 && item.height() > 0 && element.isValid() &&
-           element.toInt() >= 0;
+    return item.isVisible() && item.width() > 0 && item.height() > 0 && elementOf(item) >= 0;
+}
+
+QSet<const QQuickItem*> itemsIn(const QVariantList& list)
+{
+    QSet<const QQuickItem*> items;
+    for (const QVariant& entry : list)
+        items.insert(entry.value<QQuickItem*>());
+    return items;
 }
 
 } // namespace
 
 void Snapper::gather(QQuickItem* parent, const QVariantList& moved)
 {
+    const QSet<const QQuickItem*> own = itemsIn(moved);
     QVector<QRectF> siblings;
     for (QQuickItem* item : parent->childItems())
-        if (isNeighbour(*item) && !moved.contains(QVariant::fromValue(item)))
+        if (isNeighbour(*item) && !own.contains(item))
             siblings.append(item->mapRectToItem(parent, QRectF(0, 0, item->width(), item->height())));
     m_snapping.gather(siblings, QRectF(0, 0, parent->width(), parent->height()));
 }

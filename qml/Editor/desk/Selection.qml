@@ -18,6 +18,11 @@ QtObject {
     /// Whether it is made several times from one place in the source, as by a repeater.
     readonly property bool isRepeated: item !== null && desk.revision >= 0 && desk.live.isRepeated([item.element])
     readonly property bool isRoot: item !== null && item === desk.live.root
+    // Lists of the selected items by their numbers, which items that are made several times share.
+    readonly property var byNumber: items.reduce((found, item) => {
+        (found[item.element] = found[item.element] || []).push(item);
+        return found;
+    }, {})
     /// The selected items without the document's root, without what lies in other selected ones, and without what is
     /// hidden or locked.
     readonly property var movable: items.filter(item => item !== desk.live.root && !isInOther(item)
@@ -87,8 +92,9 @@ QtObject {
     }
 
     function isInOther(item) {
-        for (let step = item.parent; step; step = step.parent) {
-            if (items.indexOf(step) >= 0 && step !== desk.live.root)
+        for (let step = item.parent; step && step !== desk.live.root; step = step.parent) {
+            const chosen = byNumber[step.element];
+            if (chosen && chosen.indexOf(step) >= 0)
                 return true;
         }
         return false;

@@ -11,20 +11,85 @@ function moveBehind(map, beg, corr) {
     map.forEach(record => _moveRecord(record, moved, moved));
 }
 
-/// Moves the map along when the source's range [beg, end) becomes `text`: what lies within the range collapses to
-/// its start, what follows or begins at an insertion moves, and a value that encloses the range takes the change.
-function replace(map, beg, end, text) {
-    const corr = text.length - (end - beg);
-    const moved = position => position <= beg ? position : position < end ? beg : position + corr;
+/// Moves the map along when in the source the range [beg, end) of each of `edits`, which are in the order of the text
+/// and none within another, becomes its "text": what lies within the range collapses to its start, what follows or
+/// begins at an insertion moves, and a value that encloses the range takes the change.
+function replace(map, edits) {
+    const shifts = _shifts(edits);
+    const moved = position => _moved(edits, shifts, position);
     const movedStart = (position, last) =>
-        position === beg && beg === end && last > position ? position + corr : moved(position);
+        moved(position) + (last > position ? _insertedAt(edits, position) : 0);
     map.forEach(record => {
-        if (record.plast <= beg)
+        const next = _firstFrom(edits, record.pfirst);
+        if (_isApart(edits, next, record)) {
+            _shiftRecord(record, shifts[next]);
             return;
+        }
+        const isReplaced = _isWithinOne(edits, record);
         for (const name in record.properties)
-            _changeValue(record.properties[name], beg, end, text);
+            _changeValue(record.properties[name], edits);
         _moveRecord(record, moved, movedStart);
+        if (isReplaced)
+            record.plast = record.pfirst; // whatever stands there now
     });
+}
+
+// How far each edit moves what stands behind the edits before it; the last entry is for what stands behind all.
+function _shifts(edits) {
+    const shifts = [0];
+    edits.forEach((edit, i) => shifts.push(shifts[i] + edit.text.length - (edit.end - edit.beg)));
+    return shifts;
+}
+
+// Index of the first edit at or behind `position`.
+function _firstFrom(edits, position) {
+    let [first, last] = [0, edits.length];
+    while (first < last) {
+        const middle = (first + last) >> 1;
+        if (edits[middle].beg < position)
+            first = middle + 1;
+        else
+            last = middle;
+    }
+    return first;
+}
+
+// Whether no edit concerns the record; `next` is the first one from its begin on.
+function _isApart(edits, next, record) {
+    const isBefore = next === 0 || edits[next - 1].end <= record.pfirst;
+    return isBefore && (next === edits.length || edits[next].beg >= record.plast);
+}
+
+function _isWithinOne(edits, record) {
+    const edit = edits[_firstFrom(edits, record.pfirst + 1) - 1];
+    return edit !== undefined && _isThere(record) && record.plast <= edit.end;
+}
+
+function _shiftRecord(record, shift) {
+    if (shift === 0)
+        return;
+    for (const name in record.properties) {
+        const property = record.properties[name];
+        property.pfirst += shift;
+        property.plast += shift;
+    }
+    record.pfirst += shift;
+    record.pfirstL += shift;
+    record.plast += shift;
+}
+
+function _moved(edits, shifts, position) {
+    const next = _firstFrom(edits, position);
+    const isInside = next > 0 && position < edits[next - 1].end;
+    return isInside ? edits[next - 1].beg + shifts[next - 1] : position + shifts[next];
+}
+
+// Number of characters that are inserted at `position`.
+function _insertedAt(edits, position) {
+    let length = 0;
+    for (let i = _firstFrom(edits, position); i < edits.length && edits[i].beg === position; ++i)
+        length += edits[i].end === position ? edits[i].text.length : 0;
+    return length;
 }
 
 function _moveRecord(record, moved, movedStart) {
@@ -39,10 +104,24 @@ function _moveRange(range, moved, movedStart) {
     range.plast = moved(range.plast);
 }
 
-function _changeValue(property, beg, end, text) {
+// Makes the edits within a property's value.
+function _changeValue(property, edits) {
     const start = property.plast - property.value.length;
-    if (start <= beg && end <= property.plast && beg < property.plast)
-        property.value = property.value.slice(0, beg - start) + text + property.value.slice(end - start);
+    let [value, copied] = ["", 0];
+    for (let i = _firstFrom(edits, start); i < edits.length && edits[i].beg < property.plast; ++i) {
+        if (edits[i].end > property.plast)
+            break;
+        value += property.value.slice(copied, edits[i].beg - start) + edits[i].text;
+        copied = edits[i].end - start;
+    }
+    property.value = value + property.value.slice(copied);
+}
+
+/// The records of the items that are there, by the position at which they begin.
+function byPlace(map) {
+    const found = {};
+    map.filter(_isThere).forEach(record => { found[record.pfirst] = record; });
+    return found;
 }
 
 /// The record of the item that begins at `position`; undefined when none does.
@@ -58,8 +137,8 @@ function within(map, beg, end) {
 
 /// The innermost item around all of `records`, one of them included.
 function around(map, records) {
-    const first = Math.min(...records.map(record => record.pfirst));
-    const last = Math.max(...records.map(record => record.plast));
+    const first = records.reduce((least, record) => Math.min(least, record.pfirst), Infinity);
+    const last = records.reduce((most, record) => Math.max(most, record.plast), 0);
     return map.filter(record => record.pfirst <= first && record.plast >= last)
               .reduce((inner, record) => record.plast - record.pfirst < inner.plast - inner.pfirst ? record : inner);
 }

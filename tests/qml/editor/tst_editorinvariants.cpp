@@ -131,7 +131,7 @@ bool TestEditorInvariants::change()
     m_script.run("Ejs.element = a", {item});
     const QString import = any(imports);
     const QStringList lines = import.isEmpty() ? QStringList() : QStringList(import);
-    switch (m_random.bounded(8)) {
+    switch (m_random.bounded(9)) {
     case 0:
         m_call = "removeElements";
         return m_script.run("Ejs.removeElements([a, b])", {item, m_random.bounded(2) ? item : other})
@@ -150,6 +150,17 @@ bool TestEditorInvariants::change()
     case 4:
         m_call = "replaceElement";
         return m_script.run("Ejs.replaceElement(a)", {any(objects)}).toBool();
+    case 5: {
+        m_call = "updateProperties";
+        QVariantList values;
+        for (int i = m_random.bounded(2, 7); i > 0; --i) {
+            const int number = anyItem();
+            values.append(QVariantMap{{"element", number},
+                                      {"name", anyName(m_map[number].toMap())},
+                                      {"text", QString::number(m_random.bounded(10000))}});
+        }
+        return m_script.run("Ejs.updateProperties(a)", {QVariant(values)}).toBool();
+    }
     default:
         const QString name = anyName(record), value = any(values);
         m_call = "updateProperty " + name + " " + value;
