@@ -93,6 +93,7 @@ FormPage {
         local.reload();
         local.select(projects[0]);
         tab = 0;
+        stills.make(projects);
     }
 
     objectName: "ProjectsPage"
@@ -245,6 +246,11 @@ FormPage {
     Imports {
         id: imports
         onFinished: root.showImported(archive, error, projects, cancelled)
+    }
+
+    StillMaker {
+        id: stills
+        onMade: local.stillMade(project)
     }
 
     RequestTimer {

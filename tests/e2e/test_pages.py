@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Every button of every page, by mouse and by keyboard, in the real program."""
 
+import re
+import subprocess
 import zipfile
 
 from driver import Program, ProgramTest, Screen, run_tests, wait_for
@@ -227,6 +229,24 @@ class PagesTest(ProgramTest):
         program.wait_page("ImportPage")
         program.key("Escape")
         program.wait_page("ProjectsPage")
+
+    def test_still_of_an_import(self):
+        self.profile.write_settings(**{**ACCOUNT, "lastProject": "Shop"})
+        program = self.start()
+        still = self.profile.work.parent / "Stills/Museum.jpg"
+        for color in ("#0000FF", "#FF0000"):
+            self.make_archive("museum.zip", {
+                "Museum/main.qml": "import QtQuick 2.15\nGround { width: 400; height: 300 }",
+                "Museum/Ground.qml": f"import QtQuick 2.15\nRectangle {{ color: '{color}' }}"})
+            self.import_archive(program, "museum.zip")
+            wait_for(lambda: still.exists() and self.middle_of(still)[1] == color[1], "the project's still")
+
+    @staticmethod
+    def middle_of(picture):
+        """The colour in the middle of a picture, as "#RRGGBB"."""
+        found = subprocess.run(["convert", picture, "-gravity", "center", "-crop", "1x1+0+0", "-depth", "8", "txt:-"],
+                               capture_output=True, text=True, check=True).stdout
+        return re.search(r"#[0-9A-F]{6}", found)[0]
 
     def test_import_can_be_stopped(self):
         self.make_archive("large.zip", {f"Shop/{number}.txt": "x" for number in range(1000)})

@@ -19,6 +19,8 @@ FocusScope {
     signal chosen(string name)
     signal publishRequested(string name)
     signal removeRequested(string name)
+    /// The project's still is another one.
+    signal stillMade(string project)
 
     // Shows the workspace as it is now; the current row stays the current one as far as it is there.
     function reload() {
@@ -81,6 +83,15 @@ FocusScope {
             ProjectStill {
                 id: still
                 project: name
+            }
+
+            Connections {
+                target: root
+
+                function onStillMade(project) {
+                    if (project === row.text)
+                        still.project = project;
+                }
             }
 
             BGUI.ActionButton {

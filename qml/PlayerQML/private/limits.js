@@ -31,6 +31,9 @@ var logLength = 200;
 
 /// After a project's document came on the screen, its still is taken.
 var firstStill = 8000;
+/// For a still that is taken beside the screen: until pictures are loaded, and until the still is taken and written.
+var stillLoads = 3000;
+var stillIsTaken = 1000;
 
 /// How long a line at a page's foot stays.
 var footerMessage = 5000;
