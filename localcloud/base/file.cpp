@@ -20,6 +20,14 @@ namespace {
     throw std::system_error(errno, std::generic_category(), std::string("cannot ") + action + " " + path);
 }
 
+// Returns when that is on the disk.
+void moveFile(const std::string& from, const std::string& to)
+{
+    if (std::rename(from.c_str(), to.c_str()) != 0)
+        fail("rename", from);
+    syncFolder(std::filesystem::path(to).parent_path().string());
+}
+
 } // namespace
 
 File::File(const std::string& path, int flags)
@@ -114,13 +122,6 @@ void replaceFile(const std::string& path, std::string_view bytes)
         ::unlink(beside.c_str());
         throw;
     }
-}
-
-void moveFile(const std::string& from, const std::string& to)
-{
-    if (std::rename(from.c_str(), to.c_str()) != 0)
-        fail("rename", from);
-    syncFolder(std::filesystem::path(to).parent_path().string());
 }
 
 void syncFolder(const std::string& folder)

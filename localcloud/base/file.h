@@ -43,10 +43,6 @@ private:
 /// std::system_error.
 void replaceFile(const std::string& path, std::string_view bytes);
 
-/// Renames `from` to `to` in the same file system; returns when that is on the disk. Throws
-/// std::system_error.
-void moveFile(const std::string& from, const std::string& to);
-
 /// Returns when the entries of `folder` are on the disk. Throws std::system_error.
 void syncFolder(const std::string& folder);
 

@@ -110,8 +110,11 @@ Object ObjectStore::commit(const NewObject& object, const UploadFile& upload,
                   upload.md5(),    upload.crc32c(),  now, now,
                   object.isPublic, object.attributes};
     upload.sync();
-    moveFile(upload.path(), path(result.generation));
-    return place(std::move(result), old, alongside);
+    // The upload keeps its file until the rows say that it is an object's: a kill in between loses nothing.
+    addFile(upload.path(), result.generation);
+    result = place(std::move(result), old, alongside);
+    ::unlink(upload.path().c_str());
+    return result;
 }
 
 Object ObjectStore::copy(const Object& source, const NewObject& object)
@@ -124,10 +127,7 @@ Object ObjectStore::copy(const Object& source, const NewObject& object)
     result.created = result.updated = unixNow();
     result.isPublic = object.isPublic;
     result.attributes = object.attributes;
-    // Content never changes, so two objects may share it.
-    if (::link(path(source.generation).c_str(), path(result.generation).c_str()) != 0)
-        throw std::system_error(errno, std::generic_category(), "cannot copy an object");
-    syncFolder(m_folder);
+    addFile(path(source.generation), result.generation);
     return place(std::move(result), old, {});
 }
 
@@ -182,6 +182,14 @@ void ObjectStore::putRow(const Object& object)
 {
     m_put.run(object.name, object.generation, object.metageneration, object.size, object.md5, object.crc32c,
               object.created, object.updated, std::int64_t(object.isPublic), object.attributes.dump());
+}
+
+// Content never changes, so that names may share it.
+void ObjectStore::addFile(const std::string& content, std::int64_t generation) const
+{
+    if (::link(content.c_str(), path(generation).c_str()) != 0)
+        throw std::system_error(errno, std::generic_category(), "cannot make the file of an object");
+    syncFolder(m_folder);
 }
 
 // One that is still being sent stays readable until that is done.

@@ -61,6 +61,7 @@ private:
     Object place(Object object, const std::optional<Object>& old, const std::function<void()>& alongside);
     std::optional<Object> findForWriting(const NewObject& object);
     void putRow(const Object& object);
+    void addFile(const std::string& content, std::int64_t generation) const;
     void removeFile(std::int64_t generation) const;
     void removeOrphans();
 

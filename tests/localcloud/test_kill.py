@@ -184,20 +184,26 @@ def kill_at(program, template, call, number):
         clients = [kind(server, i, 1) for i, kind in enumerate([Uploads, Uploads, Appends, Counts, Moves])]
         clients[0].sure = clients[1].sure = b"old"
         try:
-            for _ in range(3):
-                for client in clients:
-                    client.step()
-            killed = False
-        except CUT:
-            killed = server.process.wait(10) == -signal.SIGKILL
-            assert killed, "the server ended by itself"
-        strace.terminate()
-        strace.communicate()
-        server.kill()
-        server.start()
-        check_all(server, clients)
-        server.stop()
-        return killed
+            return is_killed_at_work(server, strace, clients)
+        finally:
+            server.kill()
+
+
+def is_killed_at_work(server, strace, clients):
+    try:
+        for _ in range(3):
+            for client in clients:
+                client.step()
+        killed = False
+    except CUT:
+        killed = server.process.wait(10) == -signal.SIGKILL
+        assert killed, "the server ended by itself"
+    strace.terminate()
+    strace.communicate()
+    server.kill()
+    server.start()
+    check_all(server, clients)
+    return killed
 
 
 def table(program, most):
@@ -219,9 +225,11 @@ def main():
     if known.table:
         return table(known.program, known.table)
     server = cloud.Cloud(known.program)
-    for seed in range(known.seed, known.seed + known.kills):
-        print(f"kill {seed}: {kill_once(server, seed)} operations acknowledged, all there")
-    server.stop()
+    try:
+        for seed in range(known.seed, known.seed + known.kills):
+            print(f"kill {seed}: {kill_once(server, seed)} operations acknowledged, all there")
+    finally:
+        server.kill()
 
 
 if __name__ == "__main__":
