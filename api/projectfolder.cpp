@@ -3,7 +3,6 @@
 
 #include "api/projectfolder.h"
 
-#include "api/limits.h"
 #include "api/logging.h"
 #include "api/textencoding.h"
 #include "base/atomicfile.h"
@@ -114,14 +113,10 @@ bool ProjectFolder::append(const QString& text, const QString& path) const
 
 QString ProjectFolder::read(const QString& path) const
 {
-    QFile file(resolved(path));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    if (file.size() > limits::textFileBytes) {
-        qCWarning(lcApi) << "Too large for a text file:" << file.fileName();
-        return {};
-    }
-    QTextStream stream(&file);
+    const QString file = resolved(path);
+    if (QFileInfo::exists(file) && !isTextFile(file))
+        qCWarning(lcApi) << "Not readable, or too large, as a text file:" << file;
+    QTextStream stream(textBytes(file));
     stream.setCodec("UTF-8");
     return stream.readAll();
 }

@@ -7,18 +7,10 @@
 #include "api/logging.h"
 #include "base/atomicfile.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QTextCodec>
 
 namespace {
-
-// Nothing when it is no text file.
-QByteArray textBytes(const QString& path)
-{
-    QFile file(path);
-    return file.size() <= limits::textFileBytes && file.open(QIODevice::ReadOnly) ? file.readAll()
-                                                                                  : QByteArray();
-}
 
 bool isUtf8(const QByteArray& bytes)
 {
@@ -36,6 +28,18 @@ QString freeName(const QString& path)
 }
 
 } // namespace
+
+bool isTextFile(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable() && file.size() <= limits::textFileBytes;
+}
+
+QByteArray textBytes(const QString& path)
+{
+    QFile file(path);
+    return isTextFile(path) && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 bool isUtf8File(const QString& path)
 {

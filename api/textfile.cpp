@@ -4,10 +4,7 @@
 #include "api/textfile.h"
 
 #include "api/capi.h"
-#include "api/limits.h"
 #include "api/textencoding.h"
-
-#include <QFileInfo>
 
 bool TextFile::isUtf8() const
 {
@@ -18,6 +15,5 @@ bool TextFile::isUtf8() const
 bool TextFile::isReadable() const
 {
     const CAPI* capi = CAPI::of(this);
-    const QFileInfo file(capi ? capi->resolvedPath(m_path) : m_path);
-    return file.isReadable() && file.size() <= limits::textFileBytes;
+    return isTextFile(capi ? capi->resolvedPath(m_path) : m_path);
 }

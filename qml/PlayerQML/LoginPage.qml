@@ -5,11 +5,22 @@ import Nuvex.Deployment 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
 import "private/identity.js" as Identity
+import "private/limits.js" as Limits
 import "SharedVars.js" as SS
 
 /// Signing in to the account, or making one. A success restarts the program, which is the account's then.
 FormPage {
     id: root
+
+    /// Opens what a start without an account goes on with, where there is no cloud to log in to; null for nothing.
+    property var start: null
+
+    function goOn() {
+        const next = start;
+        back();
+        if (next)
+            next();
+    }
 
     function send(call) {
         form.problem = "";
@@ -57,14 +68,22 @@ FormPage {
         faIcon: "fa-cloud"
         title: qsTr("No cloud is set up")
         text: qsTr("This player works on its own: projects stay on this computer, and no account is needed.")
+              + (root.start ? "\n\n" + qsTr("Its start screen opens in a few seconds.") : "")
 
         BGUI.Button {
             focus: !Deployment.available
             type: "primary"
             size: "large"
             text: qsTr("Continue without an account")
-            onClicked: root.back()
+            onClicked: root.goOn()
         }
+    }
+
+    // A wall without a cloud comes back by itself after a power cut.
+    Timer {
+        interval: Limits.startWithoutAccount
+        running: root.active && !Deployment.available && root.start !== null
+        onTriggered: root.goOn()
     }
 
     RequestTimer {

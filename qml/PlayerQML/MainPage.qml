@@ -54,7 +54,8 @@ StackPage {
 
     // A project that is not there is not edited: the editor would have nothing to show and nowhere to save.
     function edit() {
-        const problem = workspaceProblem();
+        const problem = project === "" ? qsTr("No project is open. Press Open to choose one, or to make a new one.")
+                                       : workspaceProblem();
         if (problem === "")
             whenDrawn(shell.edit);
         else

@@ -200,11 +200,13 @@ FormPage {
         visible: root.tab === 1
         isStore: true
         obstacle: Deployment.available ? "" : qsTr("No cloud is set up")
-        remedy: qsTr("The store's ready-made projects need a cloud.")
+        remedy: qsTr("The store's ready-made projects need a cloud. A new one can begin as a template.")
+        remedyText: qsTr("New project")
         emptyTitle: qsTr("The store is empty")
         emptyText: qsTr("Whoever looks after this cloud can put archives of projects into it.")
         canChoose: !transfer.running && !imports.running
         onChosen: transfer.getArchive(source, name)
+        onRemedyChosen: root.shell.open("NewProjectPage")
     }
 
     CloudList {

@@ -87,15 +87,15 @@ StackView {
             open("GalleryPage");
     }
 
-    function openBySettings() {
+    // What opens the page that the settings start with; null when that is the main page.
+    function startScreen() {
         const action = CAPI.getSSetting("doOnStart");
         const hasProject = CAPI.getSSetting("lastProject") !== "";
         if (action === "play" && hasProject)
-            play();
-        else if (action === "edit" && hasProject)
-            edit();
-        else if (action === "dashboard")
-            openDashboard();
+            return play;
+        if (action === "edit" && hasProject)
+            return edit;
+        return action === "dashboard" ? openDashboard : null;
     }
 
     objectName: "theStackView"
@@ -118,10 +118,12 @@ StackView {
         if (startAction !== "") {
             openByCommandLine();
         } else if (user === "") {
-            open("LoginPage");
+            open("LoginPage").start = startScreen();
         } else {
             SS.firebaseSet(SS.playerPath(user, player), {"version": CAPI.getSSetting("version")});
-            openBySettings();
+            const start = startScreen();
+            if (start)
+                start();
         }
     }
     Component.onDestruction: SS.unsubscribe(SS.commandsSubscription)

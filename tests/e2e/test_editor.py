@@ -433,6 +433,7 @@ class DesktopEditorTest(EditorTest):
     def test_documents_that_cannot_be_shown(self):
         cases = {"Item {\n    width: }": "Line 2: ", "import QtQuick 2.15\nItm {}": "Line 2: Itm is not a type",
                  "import QtQml 2.15\nQtObject {}": "its root is no visual item", "": "It is empty.",
+                 "/" * 68_000_000: "too large for a text",
                  "import QtQuick 2.15\nItem { property int element }": "is taken by the editor",
                  "import QtQuick 2.15\nItem { Component.onCompleted: { while (true) {} } }": "does not end"}
         for number, (document, message) in enumerate(cases.items()):

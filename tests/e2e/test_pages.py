@@ -346,6 +346,27 @@ class PagesTest(ProgramTest):
             _, y, _, height = program.find(label)["rect"]
             self.assertTrue(y >= 56 and y + height <= 360, f"{label} at {y}")
 
+    def test_wall_without_a_cloud_starts_by_itself(self):
+        self.profile.write_settings(**{**ACCOUNT, "userEmail": "", "doOnStart": "play"})
+        program = self.start()
+        program.wait_page("LoginPage")
+        program.wait_text("Its start screen opens in a few seconds.")
+        program.wait_page("PlayerPage")
+        program.close()
+        program = self.start()
+        program.wait_page("LoginPage")
+        program.key("Return")
+        program.wait_page("PlayerPage")
+        self.assertIn("page MainPage", program.log())
+        self.assert_clean(program)
+
+    def test_editing_needs_a_project(self):
+        self.profile.write_settings(**{**ACCOUNT, "lastProject": ""})
+        program = self.start()
+        program.click("Edit")
+        program.wait_text("No project is open.")
+        self.assertEqual(program.page(), "MainPage")
+
     def test_sharing_needs_an_account(self):
         self.profile.write_settings(**{**ACCOUNT, "userEmail": "", "shareFolder": "false"})
         program = self.start()

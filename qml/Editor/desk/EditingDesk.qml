@@ -21,6 +21,7 @@ QtObject {
 
     readonly property LiveDocument live: LiveDocument {}
     readonly property ProjectStill still: ProjectStill {}
+    readonly property TextFile file: TextFile { path: "main.qml" }
     readonly property Selection selection: Selection { desk: root }
     readonly property Layers layers: Layers { desk: root }
     readonly property Slides slides: Slides { desk: root }
@@ -84,8 +85,8 @@ QtObject {
     // Makes the source the live document, in the frame. The first time it brings the frame.
     function make(source) {
         const isMade = live.load(source, CAPI.baseFolder(), frame ? frame.viewport : frameHost);
-        root.fault = isMade ? null : source.trim() === "" ? { line: 0, column: 0, message: qsTr("It is empty.") }
-                                                          : live.faults[0];
+        root.fault = isMade ? null
+                   : source.trim() === "" ? { line: 0, column: 0, message: whyEmpty() } : live.faults[0];
         if (!isMade)
             return false;
         if (!frame)
@@ -94,6 +95,11 @@ QtObject {
             frame.myfill = live.root;
         Ejs.editorObj = live.root;
         return true;
+    }
+
+    function whyEmpty() {
+        return file.isReadable ? qsTr("It is empty.")
+                               : qsTr("Its file is missing, cannot be read, or is too large for a text.");
     }
 
     // Puts `code` in place of a source that cannot be shown.

@@ -42,5 +42,8 @@ var footerMessage = 5000;
 var fullScreenInterval = 5000;
 var fullScreenRounds = 24;
 
+/// Without a cloud there is nobody to log in: so long the login page says so before the start screen opens.
+var startWithoutAccount = 10000;
+
 /// What a busy indicator gets to be drawn before work that blocks.
 var drawFirst = 10;
