@@ -319,8 +319,11 @@ void Connection::takeAnswer(QTemporaryFile* file)
     if (m_openRequests == 0)
         return;
     --m_openRequests;
-    if (const std::optional<FileBatch::File> next = m_owner->fileReceived(m_baseDir, file))
+    if (const std::optional<FileBatch::File> next = m_owner->nextToGet()) {
         getFileFromServer(next->remotePath);
+        flush(); // the peer reads that file while this one is put in its place
+    }
+    m_owner->fileReceived(m_baseDir, file);
 }
 
 void Connection::store(QTemporaryFile& file)

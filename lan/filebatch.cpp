@@ -14,7 +14,13 @@ std::optional<FileBatch::File> FileBatch::next()
 FileBatch::File FileBatch::current() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_files[m_begun - 1];
+    return m_files[m_finished];
+}
+
+bool FileBatch::isUnderWay() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_finished < m_begun;
 }
 
 void FileBatch::finish(const Outcome& outcome)

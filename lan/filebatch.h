@@ -30,9 +30,11 @@ public:
 
     /// The file to move next; nothing after the last one, or when the batch has ended.
     std::optional<File> next();
-    /// The file that next() returned last.
+    /// The first file that next() has returned and that is not finished.
     File current() const;
-    /// That file has been moved, or not, for the reason in `outcome`.
+    /// Whether there is such a file.
+    bool isUnderWay() const;
+    /// The current file has been moved, or not, for the reason in `outcome`.
     void finish(const Outcome& outcome);
     /// Nothing more will be moved, for `reason`: the connection has ended, or the caller has cancelled. What
     /// is over already stays as it is.

@@ -92,7 +92,9 @@ Outcome ThreadConnection::getFilesAndWait(const std::shared_ptr<FileBatch>& batc
 
 std::optional<FileBatch::File> ThreadConnection::fileSent(const Outcome& outcome)
 {
-    return finishFirst(m_sending, outcome);
+    std::optional<FileBatch::File> next = nextOf(m_sending);
+    finishFirst(m_sending, outcome);
+    return next;
 }
 
 bool ThreadConnection::wantsAnswer() const
@@ -101,7 +103,12 @@ bool ThreadConnection::wantsAnswer() const
     return !m_getting.empty() && !m_getting.front()->hasEnded();
 }
 
-std::optional<FileBatch::File> ThreadConnection::fileReceived(const WorkFolder& folder, QTemporaryFile* file)
+std::optional<FileBatch::File> ThreadConnection::nextToGet()
+{
+    return nextOf(m_getting);
+}
+
+void ThreadConnection::fileReceived(const WorkFolder& folder, QTemporaryFile* file)
 {
     std::shared_ptr<FileBatch> batch;
     {
@@ -112,7 +119,7 @@ std::optional<FileBatch::File> ThreadConnection::fileReceived(const WorkFolder& 
     if (!batch->hasEnded())
         outcome = file ? folder.put(*file, batch->current().localPath)
                        : Outcome::failure(QStringLiteral("not received"));
-    return finishFirst(m_getting, outcome);
+    finishFirst(m_getting, outcome);
 }
 
 void ThreadConnection::run()
@@ -141,15 +148,18 @@ void ThreadConnection::enqueue(Batches& batches, const std::shared_ptr<FileBatch
         batches.push_back(batch);
 }
 
-std::optional<FileBatch::File> ThreadConnection::finishFirst(Batches& batches, const Outcome& outcome)
+std::optional<FileBatch::File> ThreadConnection::nextOf(Batches& batches)
 {
     const std::lock_guard lock(m_mutex);
-    FileBatch& batch = *batches.front();
-    batch.finish(outcome);
-    std::optional<FileBatch::File> next = batch.next();
-    if (!next)
+    return batches.front()->next();
+}
+
+void ThreadConnection::finishFirst(Batches& batches, const Outcome& outcome)
+{
+    const std::lock_guard lock(m_mutex);
+    batches.front()->finish(outcome);
+    if (!batches.front()->isUnderWay())
         batches.pop_front();
-    return next;
 }
 
 void ThreadConnection::endBatches()

@@ -69,8 +69,10 @@ public:
     std::optional<FileBatch::File> fileSent(const Outcome& outcome);
     /// Whether some caller still wants the answer that arrives next.
     bool wantsAnswer() const;
-    /// An answer is there, in `file`, which is null when it could not be kept. The next file to ask for.
-    std::optional<FileBatch::File> fileReceived(const WorkFolder& folder, QTemporaryFile* file);
+    /// An answer is there: the file to ask for now. fileReceived() follows.
+    std::optional<FileBatch::File> nextToGet();
+    /// Puts the answer, which is in `file`, or null when it could not be kept, in its place.
+    void fileReceived(const WorkFolder& folder, QTemporaryFile* file);
 
 signals:
     void signalSendFileToServer(QString localPath, QString targetPath);
@@ -85,7 +87,8 @@ private:
     using Batches = std::deque<std::shared_ptr<FileBatch>>; // the first one is being worked on
 
     void enqueue(Batches& batches, const std::shared_ptr<FileBatch>& batch);
-    std::optional<FileBatch::File> finishFirst(Batches& batches, const Outcome& outcome);
+    std::optional<FileBatch::File> nextOf(Batches& batches);
+    void finishFirst(Batches& batches, const Outcome& outcome);
     void endBatches();
 
     LanHost& m_host;
