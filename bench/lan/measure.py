@@ -124,6 +124,11 @@ def costs(action, processes):
     return passed, cpu_milliseconds(processes) - before
 
 
+def status_kib(player, field):
+    text = pathlib.Path(f"/proc/{player.process.pid}/status").read_text()
+    return int(re.search(rf"^{field}:\s+(\d+)", text, re.M)[1])
+
+
 def exchange(player, what, other, project):
     succeeded, outcome = player.exchange(what, other, project)
     assert succeeded, outcome
@@ -135,7 +140,8 @@ def assert_same(source, target):
 
 
 def compare(folder, project, rounds):
-    """Costs by what was done, and milliseconds of an exchange that moves nothing; A has the project."""
+    """A, which has the project, and B: costs by what was done, milliseconds of an exchange that moves nothing, and KiB of
+    memory that each of the two took more than before at most."""
     source, target = folder / "A" / project, folder / "B" / project
     rsync = Rsync(folder)
     with Player("A", folder / "A") as a, Player("B", folder / "B") as b:
@@ -149,25 +155,31 @@ def compare(folder, project, rounds):
         }
         processes = [os.getpid(), *(part.process.pid for part in (a, b, rsync))]
         results = {name: [] for name in actions}
+        before = [status_kib(player, "RssAnon") for player in (a, b)]
         for _ in range(rounds):
             for name, action in actions.items():
                 shutil.rmtree(target, ignore_errors=True)
                 results[name].append(costs(action, processes))
                 assert_same(source, target)
         unchanged = [milliseconds(lambda: exchange(a, "send", "B", project)) for _ in range(rounds)]
+        grown = [status_kib(player, "VmHWM") - status_kib(player, "RssFile") - first
+                 for player, first in zip((a, b), before)]
     rsync.process.terminate()
     rsync.process.wait()
-    return {name: list(zip(*values[1:])) for name, values in results.items()}, unchanged[1:]
+    return {name: list(zip(*values[1:])) for name, values in results.items()}, unchanged[1:], grown
 
 
-def print_comparison(title, results, unchanged):
-    print(f"\n{title}, ms\n\n| | time | to rsync | CPU | to rsync |\n|---|---|---|---|---|")
+def print_comparison(title, aims, results, unchanged, grown):
+    """`aims` are the times to rsync's, sent and fetched."""
+    print(f"\n{title}, ms; aims {aims[0]} and {aims[1]} of rsync's time\n\n| | time | to rsync | CPU | to rsync |"
+          "\n|---|---|---|---|---|")
     for name, columns in results.items():
         rsync = results["rsync, pushed" if name == "Nuvex, sent" else "rsync, pulled"]
         ratios = [f"{statistics.median(own) / statistics.median(other):.2f}" for own, other in zip(columns, rsync)]
         shown = ratios if name.startswith("Nuvex") else ["", ""]
         print(f"| {name} |", " | ".join(f"{spread(own)} | {ratio}" for own, ratio in zip(columns, shown)), "|")
     print(f"| Nuvex, sent again unchanged | {spread(unchanged)} | | | |")
+    print(f"\nMemory grew by at most {grown[0]} KiB where the files are, {grown[1]} KiB at the other end")
 
 
 def print_trips(folder, rounds):
@@ -226,9 +238,9 @@ def main():
         folder = pathlib.Path(name)
         chunk = os.urandom(1 << 20)
         write_project(folder / "A/Large", {"film": chunk * options.large})
-        print_comparison(f"One file of {options.large} MiB", *compare(folder, "Large", options.rounds))
+        print_comparison(f"One file of {options.large} MiB", (1.25, 1.25), *compare(folder, "Large", options.rounds))
         write_project(folder / "A/Small", {f"{i}": chunk[i:i + 10_000] for i in range(options.small)})
-        print_comparison(f"{options.small} files of 10 KB", *compare(folder, "Small", options.rounds))
+        print_comparison(f"{options.small} files of 10 KB", (1.0, 1.6), *compare(folder, "Small", options.rounds))
         print_trips(folder, options.rounds)
         print_connections(folder)
 
