@@ -23,9 +23,13 @@ namespace {
 
 Outcome systemFailure()
 {
-    if (errno == EXDEV)
-        return Outcome::failure(QStringLiteral("a link leads out of the folder"));
     return Outcome::failure(QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+Outcome openFailure()
+{
+    return errno == EXDEV ? Outcome::failure(QStringLiteral("a link leads out of the folder"))
+                          : systemFailure();
 }
 
 bool isRegular(int fd)
@@ -89,7 +93,7 @@ Outcome ConfinedFolder::openForReading(const QString& path, QFile& file) const
     FileDescriptor fd =
         open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK); // a pipe would wait for a writer
     if (!fd.isOpen())
-        return systemFailure();
+        return openFailure();
     if (!isRegular(fd.get()))
         return Outcome::failure(QStringLiteral("not a file"));
     file.open(fd.release(), QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
@@ -102,10 +106,11 @@ Outcome ConfinedFolder::moveInto(const QString& from, const QString& path) const
         return Outcome::failure(fault);
     const auto [folderPath, name] = split(QFile::encodeName(path));
     const FileDescriptor folder = makeFolder(folderPath);
-    if (!folder.isOpen() ||
-        ::renameat(AT_FDCWD, QFile::encodeName(from).constData(), folder.get(), name.constData()) != 0)
-        return systemFailure();
-    return Outcome::success();
+    if (!folder.isOpen())
+        return openFailure();
+    const QByteArray source = QFile::encodeName(from);
+    return ::renameat(AT_FDCWD, source.constData(), folder.get(), name.constData()) == 0 ? Outcome::success()
+                                                                                         : systemFailure();
 }
 
 Outcome ConfinedFolder::sync() const

@@ -240,7 +240,7 @@ void Connection::answer(const QString& path)
 void Connection::receive(const Frame& frame)
 {
     if (!m_baseDir.hasRoomFor(frame.size)) {
-        drop(QStringLiteral("a file of %1 bytes does not fit").arg(frame.size));
+        drop(QStringLiteral("the disk here has no room for a file of %1 bytes").arg(frame.size));
         return;
     }
     if (m_missed.size() > limits::missedFiles) {

@@ -161,7 +161,7 @@ Outcome LocalServerFunctions::fetchRemoteDirmap(const QString& folder, Dirmap& m
 {
     const auto place = m_work.newFile();
     if (!place)
-        return Outcome::failure(QStringLiteral("nothing can be received"));
+        return Outcome::failure(QStringLiteral("nothing can be written to the folder of projects here"));
     const auto batch = std::make_shared<FileBatch>(
         QVector<FileBatch::File>{{m_work.pathOf(*place), inProject(folder, mapName)}});
     if (Outcome fetched = run(&ThreadConnection::getFilesAndWait, batch); !fetched)
