@@ -17,6 +17,7 @@ import tempfile
 import threading
 import time
 import unittest
+from contextlib import suppress
 from pathlib import Path
 
 import peer
@@ -136,7 +137,14 @@ class Transfers(unittest.TestCase):
 
     def test_both_directions_at_once(self):
         big = {f"{i}": random.Random(i).randbytes(700_000 * i) for i in range(1, 8)}
-        a, b = self.pair(big)
+        a, b = self.start("A"), self.start("B")
+        for player, other in ((a, b), (b, a)):
+            player.say(f"connect 127.0.0.1 {other.port}")
+        for player, other in ((a, "B"), (b, "A")):
+            player.wait("started " + other)
+            player.say("players")
+            self.assertEqual(player.wait("players"), "players " + other)  # once, whether there are two connections or one
+        write_project(a.work / "Shop", big)
         write_project(b.work / "Bar", NEW | big)
         a.say("send B Shop")
         b.say("send A Bar")
@@ -388,10 +396,7 @@ class Transfers(unittest.TestCase):
             other.ask("Shop/dirmap")
             other.send(peer.file_frame("Shop/f", 10_000_000) + bytes(1_000_000))
             wait_for(lambda: shutil.disk_usage(work).used > 900_000, "its beginning")
-            with (work / "filling").open("wb") as filling, self.assertRaises(OSError):
-                while True:
-                    filling.write(bytes(1 << 16))
-                    filling.flush()
+            self.fill(work)
             other.send(bytes(9_000_000))
             self.assertEqual(other.ask("Shop/f"), b"old")
             (work / "filling").unlink()
@@ -405,47 +410,79 @@ class Transfers(unittest.TestCase):
             other.send(peer.file_frame("Shop/huge", 70_000_000))
             while other.read():
                 pass
+        b, before = self.start("B"), contents(work)
+        write_project(b.work / "Shop", {"f": b"newer"}, {"f": 9})
+        self.fill(work)
+        player.meet(b)
+        self.assertIn("the disk here has no room", player.exchange("fetch", "B")[1])
+        (work / "filling").unlink()
+        player.meet(b)
+        subprocess.run(["mount", "-o", "remount,ro", work], check=True)
+        self.assertIn("nothing can be written", player.exchange("fetch", "B")[1])
+        self.assertIn("1 of 1 files could not be kept", b.exchange("send", "A")[1])
+        self.assertEqual(contents(work), before)
+        subprocess.run(["mount", "-o", "remount,rw", work], check=True)
+        self.assertTrue(b.exchange("send", "A")[0])
         self.assert_nothing_half_received(player)
 
-    def test_killed_at_any_moment(self):
-        """Kills a receiving player at every call that changes files (in short, at some): each file is old or new."""
-        if not THOROUGH:
-            for call, when in (("openat", 3), ("write", 4), ("linkat", 5), ("renameat", 2), ("syncfs", 1), ("renameat", 7)):
-                self.assertTrue(self.kill_at(call, when), f"not killed at {call} {when}")
-            return
-        rows = 0
-        for call in ("openat", "openat2", "mkdirat", "write", "linkat", "renameat", "unlink", "syncfs"):
-            when = 1
-            while self.kill_at(call, when):
-                when += 1
-            rows += when - 1
-        print(rows, "rows killed")
+    @staticmethod
+    def fill(disk):
+        with suppress(OSError), (disk / "filling").open("wb") as filling:
+            while True:
+                filling.write(bytes(1 << 16))
+                filling.flush()
 
-    def kill_at(self, call, when):
-        """Whether the player was killed at that call while it received a project."""
-        work = Path(self.enterContext(tempfile.TemporaryDirectory()))
+    def test_killed_at_any_moment(self):
+        """Kills a player that is sent or fetches a project at every call that changes files (in short, at some): each
+        file is old or new, and the map new only if all are."""
+        if not THOROUGH:
+            for fetches, call, when in ((False, "openat", 3), (False, "write", 4), (False, "linkat", 5), (True, "linkat", 6),
+                                        (False, "renameat", 2), (True, "syncfs", 1), (False, "renameat", 7)):
+                self.assertTrue(self.kill_at(fetches, call, when), f"not killed at {call} {when}")
+            return
+        for fetches in (False, True):
+            rows = 0
+            for call in ("openat", "openat2", "mkdirat", "write", "linkat", "renameat", "unlink", "syncfs"):
+                when = 1
+                while self.kill_at(fetches, call, when):
+                    when += 1
+                rows += when - 1
+            print(rows, "rows killed,", "fetching" if fetches else "being sent")
+
+    def kill_at(self, fetches, call, when):
+        """Whether the player was killed at that call while a project came."""
+        work, source = [Path(self.enterContext(tempfile.TemporaryDirectory())) for _ in range(2)]
+        new = NEW | {"folder/new": b"new"}
         write_project(work / "Shop", FILES)
+        write_project(source / "Shop", new, dict.fromkeys(new, 2))
+        maps = [(folder / "Shop/dirmap").read_bytes() for folder in (work, source)]
         with Player("A", work) as player:
             tracer = subprocess.Popen(["strace", "-f", "-o/dev/null", f"-p{player.process.pid}", f"-etrace={call}",
                                        f"-einject={call}:signal=KILL:when={when}"], stderr=subprocess.PIPE)
             tracer.stderr.readline()  # attached
             with Peer.connect(player.port) as other:
                 try:
-                    other.ask("Shop/dirmap")
-                    for path, content in (NEW | {"folder/new": b"new"}).items():
-                        other.push("Shop/" + path, content)
-                    other.push("Shop/dirmap", b"one 2\n")
-                    other.ask("Shop/dirmap")
-                except (EOFError, OSError):
-                    pass
+                    if fetches:
+                        player.wait("started")
+                        player.say("fetch Python Shop")
+                        other.serve(source, len(new) + 3)  # and the name and both maps
+                        player.ended()
+                    else:
+                        other.ask("Shop/dirmap")
+                        for path, content in new.items():
+                            other.push("Shop/" + path, content)
+                        other.push("Shop/dirmap", maps[1])
+                        other.ask("Shop/dirmap")
+                except (AssertionError, EOFError, OSError):
+                    pass  # it was killed
             killed = player.quit() == -signal.SIGKILL
             tracer.communicate()
         found = contents(work / "Shop")
-        self.assertIn(found.pop("dirmap"), (b"one 2\n", "".join(f"{path} 1\n" for path in FILES).encode()))
-        self.assertIn(found.pop("folder/new", b"new"), b"new")
-        self.assertEqual(set(found), set(FILES))
-        for path, content in found.items():
-            self.assertIn(content, (FILES[path], NEW[path]), f"{path} after {call} {when}")
+        if found["dirmap"] != maps[0]:
+            self.assertEqual(found, new | {"dirmap": maps[1]}, f"{call} {when}")
+        self.assertEqual(found.keys() - {"folder/new"}, FILES.keys() | {"dirmap"})
+        for path in found.keys() - {"dirmap"}:
+            self.assertIn(found[path], (FILES.get(path), new[path]), f"{path} after {call} {when}")
         return killed
 
 
