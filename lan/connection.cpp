@@ -347,8 +347,11 @@ Outcome Connection::storeMap(QTemporaryFile& file, const QString& project)
     }
     m_pushedProject.clear();
     Outcome stored = m_baseDir.putMap(file, project, missed);
-    if (stored)
-        m_owner->host().projectReceived(project);
+    if (!stored)
+        return stored;
+    if (mayLog())
+        qCInfo(lcLan).noquote() << m_owner->hostAddress().toString() << "has sent the project" << project;
+    m_owner->host().projectReceived(project);
     return stored;
 }
 

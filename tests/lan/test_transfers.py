@@ -109,6 +109,7 @@ class Transfers(unittest.TestCase):
         a, b = self.pair()
         self.assertEqual(a.exchange("send", "B"), (True, "6 files sent to B."))
         b.wait("received Shop")
+        self.assertIn("127.0.0.1 has sent the project Shop", b.log())
         self.assert_same(b.work / "Shop", FILES)
         for player, other, what in ((a, "B", "send"), (a, "B", "fetch"), (b, "A", "fetch")):
             self.assertEqual(player.exchange(what, other), (True, f"{other} and this player have the same files."))
