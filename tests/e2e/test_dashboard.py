@@ -134,7 +134,8 @@ class DashboardTest(ProgramTest):
         self.assertIn("hall", program.texts())
         program.click("playerFilter")
         program.type("board lob")
-        wait_for(lambda: [tile["text"] for tile in self.named(program, "playerTile")] == ["lobby"], "the filter")
+        self.wait_same(lambda: [tile["text"] for tile in self.named(program, "playerTile")], ["lobby"])
+        program.wait_text("All 1")
 
     def test_picture_follows_the_project(self):
         """Assigns the project that this program has to itself: it is asked for a screenshot and sends one."""
@@ -185,7 +186,7 @@ class DashboardTest(ProgramTest):
         for work in (self.profile.work, kiosk.work):
             write_project(work / "Shop", files)
         kiosk.say(f"connect 127.0.0.1 {wait_for(program.local_port, 'the local server')}")
-        program.wait_text("Kiosk 7")
+        program.wait_text("Kiosk_7")
         program.wait_text("127.0.0.1")
         return kiosk
 
@@ -232,7 +233,7 @@ class DashboardTest(ProgramTest):
         self.outcome(program, "Kiosk_7 and this player have the same files.")
         kiosk.quit()
         with Peer.connect(program.local_port(), "Shut_8") as leaving:
-            program.wait_text("Shut 8")
+            program.wait_text("Shut_8")
             program.tab_to("Connect")
             program.key("Return")
             while leaving.read()[0] != b"GFILE":

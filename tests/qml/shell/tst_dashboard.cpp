@@ -149,10 +149,12 @@ void TestDashboard::arranged_data()
 void TestDashboard::arranged()
 {
     QFETCH(QString, how);
-    QTEST(run("Players.arranged(Players.playersOf({'c_4': {heartbeat: 1e6}, 'b10_3': {heartbeat: 2e6, "
+    QTEST(run("((filter, show, bySilence) => Players.arranged(Players.named(Players.playersOf({'c_4': "
+              "{heartbeat: 1e6}, 'b10_3': {heartbeat: 2e6, "
               "project: 'Shop'},"
-              "'B2_2': {heartbeat: 9.9e6, project: 'shop'}, 'b1_1': {heartbeat: 9.99e6}}), " +
-              how + ", 1e7).map(p => p.player)"),
+              "'B2_2': {heartbeat: 9.9e6, project: 'shop'}, 'b1_1': {heartbeat: 9.99e6}}), filter), show, "
+              "bySilence, 1e7))(" +
+              how + ").map(p => p.player)"),
           "players");
 }
 

@@ -42,8 +42,8 @@ FocusScope {
             objectName: "playerStates"
             size: "large"
             width: Math.min(root.width, implicitWidth)
-            model: [qsTr("All %1").arg(root.players.count), qsTr("Live %1").arg(root.players.liveCount),
-                qsTr("Silent %1").arg(root.players.count - root.players.liveCount)]
+            model: [qsTr("All %1").arg(root.players.namedCount), qsTr("Live %1").arg(root.players.liveCount),
+                qsTr("Silent %1").arg(root.players.namedCount - root.players.liveCount)]
             currentIndex: root.players.show
             onActivated: root.players.show = index
         }

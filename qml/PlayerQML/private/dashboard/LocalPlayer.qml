@@ -39,7 +39,7 @@ FocusScope {
                 id: name
                 objectName: "localPlayerName"
                 width: parent.width
-                text: root.player.replace(/_/g, " ")
+                text: root.player
                 textFormat: Text.PlainText
                 wrapMode: Text.NoWrap
                 elide: Text.ElideMiddle

@@ -21,6 +21,8 @@ Item {
     property bool hasFailed: false
     property bool isReading: false
     property int count: 0
+    // Those that have the words of the filter, and those of them that are live.
+    property int namedCount: 0
     property int liveCount: 0
     property var players: []
     // What `rows` has.
@@ -80,8 +82,10 @@ Item {
     function arrange() {
         now = Date.now();
         count = players.length;
-        liveCount = players.filter(player => Players.isLive(player.heartbeat, now)).length;
-        const wanted = Players.arranged(players, filter, show, bySilence, now);
+        const named = Players.named(players, filter);
+        namedCount = named.length;
+        liveCount = named.filter(player => Players.isLive(player.heartbeat, now)).length;
+        const wanted = Players.arranged(named, show, bySilence, now);
         if (wanted.length === shown.length && wanted.every((player, index) => player.player === shown[index].player))
             update(wanted);
         else

@@ -101,7 +101,7 @@ T.AbstractButton {
         text: root.name
         textFormat: Text.PlainText
         wrapMode: Text.NoWrap
-        elide: Text.ElideRight
+        elide: Text.ElideMiddle // many names differ at their ends
         size: root.isSmall ? "small" : "base"
         strong: true
     }

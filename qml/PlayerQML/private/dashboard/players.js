@@ -94,11 +94,13 @@ function screenshot(user, player) {
     return "NUVEX/users/" + user + "/screenshots/" + nameOf(player) + "_" + player.split("_").pop() + ".jpg";
 }
 
-function fits(player, words, show, now) {
-    if (show !== Show.all && isLive(player.heartbeat, now) !== (show === Show.live))
-        return false;
-    const text = [player.player, player.label, player.project].join(" ").toLowerCase();
-    return words.every(word => text.includes(word));
+/// Those of `players` that have all words of `filter` in name or project.
+function named(players, filter) {
+    const words = filter.toLowerCase().split(/\s+/);
+    return players.filter(player => {
+        const text = [player.player, player.label, player.project].join(" ").toLowerCase();
+        return words.every(word => text.includes(word));
+    });
 }
 
 function compareTexts(a, b) {
@@ -120,11 +122,9 @@ function sortKey(name) {
     return name.toLowerCase().replace(/\d+/g, digits => digits.padStart(12, "0"));
 }
 
-/// Those of `players` that fit, in order: by name, or the longest silent first. `filter`: words that name or
-/// project has, all of them.
-function arranged(players, filter, show, isBySilence, now) {
-    const words = filter.toLowerCase().split(/\s+/);
-    const fitting = players.filter(player => fits(player, words, show, now));
-    const entries = fitting.map(player => ({ player: player, sortKey: sortKey(player.playerName) }));
+/// Those of `players` that are to be shown, in order: by name, or the longest silent first.
+function arranged(players, show, isBySilence, now) {
+    const isWanted = player => show === Show.all || isLive(player.heartbeat, now) === (show === Show.live);
+    const entries = players.filter(isWanted).map(player => ({ player: player, sortKey: sortKey(player.playerName) }));
     return entries.sort(isBySilence ? bySilence(now) : byName).map(entry => entry.player);
 }
