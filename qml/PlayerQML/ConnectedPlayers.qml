@@ -26,6 +26,11 @@ FormPage {
             players.read();
     }
 
+    function readAll() {
+        read();
+        grid.fetchPictures();
+    }
+
     function readFirst() {
         busy.start("Please wait...");
         read();
@@ -126,7 +131,7 @@ FormPage {
         toolTip: qsTr("Read the players again")
         onDark: true
         busy: players.isReading
-        onClicked: root.read()
+        onClicked: root.readAll()
     }
 
     PlayerList {
@@ -251,7 +256,7 @@ FormPage {
     Shortcut {
         sequence: "F5"
         enabled: root.active
-        onActivated: root.read()
+        onActivated: root.readAll()
     }
 
     Shortcut {

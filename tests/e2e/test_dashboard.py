@@ -155,6 +155,9 @@ class DashboardTest(ProgramTest):
         shot = wait_for(lambda: self.named(program, "screenshot"), "the screenshot")[0]
         self.assertNotEqual(self.cloud.get(place).body, picture)
         wait_for(lambda: not self.is_blue(program, shot), "its colour")
+        self.cloud.database("PUT", PLAYERS + "/zone_1/revision", 2)
+        program.key("F5")
+        wait_for(lambda: self.named(program, "oldPicture"), "the mark of another revision")
 
     def test_states(self):
         program = self.open()

@@ -53,10 +53,11 @@ void TestDashboard::answers_data()
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("player");
 
-    const QString silent = ",'heartbeat':0,'project':''";
-    QTest::newRow("whole") << "{'a b_c_12': {heartbeat: 5, project: 'Shop', version: 3}}"
-                           << "[{'playerName':'a b','playerId':'12','heartbeat':5,'project':'Shop','player':"
-                              "'a b_c_12'}]";
+    const QString silent = ",'heartbeat':0,'project':'','revision':''";
+    QTest::newRow("whole")
+        << "{'a b_c_12': {heartbeat: 5, project: 'Shop', revision: 3, version: 3}}"
+        << "[{'playerName':'a b','playerId':'12','heartbeat':5,'project':'Shop','revision':'3','player':"
+           "'a b_c_12'}]";
     QTest::newRow("no underscore") << "{west: {}}"
                                    << "[{'playerName':'west','playerId':'west'" + silent +
                                           ",'player':'west'}]";

@@ -38,6 +38,10 @@ GridView {
     signal chosen(string player)
     signal deleteRequested(string player)
 
+    function fetchPictures() {
+        ++round;
+    }
+
     function keepPlace() {
         keptY = contentY;
         keptPlayer = currentIndex >= 0 && currentIndex < count ? model.get(currentIndex).player : "";
@@ -133,6 +137,6 @@ GridView {
         interval: Limits.picturePeriod
         running: root.players.active
         repeat: true
-        onTriggered: ++root.round
+        onTriggered: root.fetchPictures()
     }
 }

@@ -34,7 +34,7 @@ Item {
     // All of `rows` is about to be exchanged, or has been.
     signal aboutToReset()
     signal reset()
-    // A player that was known shows another project, or is to.
+    // A player that was known shows another project or another revision, or is to.
     signal switched(string player, string project)
     // The first answer, or the answer to a first question that was asked again, has come.
     signal answered()
@@ -57,11 +57,11 @@ Item {
     }
 
     function exchangePlayers(wanted) {
-        const projects = new Map(players.map(player => [player.player, player.project]));
+        const known = new Map(players.map(player => [player.player, player]));
         players = Players.labelled(wanted);
         arrange();
         players.forEach(player => {
-            if (player.project !== "" && projects.has(player.player) && projects.get(player.player) !== player.project)
+            if (known.has(player.player) && Players.hasSwitched(player, known.get(player.player)))
                 switched(player.player, player.project);
         });
     }

@@ -7,6 +7,7 @@
 //     playerName, playerId   the entry's key before its first and after its last "_"
 //     heartbeat              when it was last heard of, milliseconds since 1970; 0 for never
 //     project                what it shows; "" for nothing
+//     revision               the last revision of a project that it got from the cloud; "" for none
 //     player                 the entry's key
 //     label, host            what it is called here, and where that is not its name, its name; see labelled()
 
@@ -25,6 +26,7 @@ function playerOf(key, entry) {
         playerId: key.split("_").pop(),
         heartbeat: parseInt(record.heartbeat, 10) || 0,
         project: typeof record.project === "string" ? record.project : "",
+        revision: record.revision === undefined ? "" : String(record.revision),
         player: key
     };
 }
@@ -87,6 +89,11 @@ function age(heartbeat, now) {
     if (s < 86400)
         return Math.round(s / 3600) + "h";
     return Math.round(s / 86400) + "d";
+}
+
+/// Whether `player` shows something else than when it was `known`.
+function hasSwitched(player, known) {
+    return player.project !== "" && (player.project !== known.project || player.revision !== known.revision);
 }
 
 /// Where a player's screenshot lies in the cloud.
