@@ -11,16 +11,14 @@ import shutil
 import subprocess
 import sys
 import time
-from contextlib import ExitStack
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 sys.path[1:1] = [str(ROOT / "tests" / folder) for folder in ("lan", "localcloud")]
 # pylint: disable=wrong-import-position
-from cloud import Cloud
-from driver import Profile, Program, Screen, read_setup, wait_for
+import dashboardshots
+from driver import Profile, Program, Screen, read_setup
 from editorshots import EditorShots
-from peer import Peer
 
 PICTURES = ROOT / "docs/screenshots"
 SIZES = ["1280x720", "1920x1080", "1080x1920"]
@@ -87,40 +85,6 @@ def steps_of_the_gallery(program):
         take(program, "gallery-" + chapter.lower().replace(" ", "-"), "jpg", 8)
 
 
-def players(count):
-    """An account's players: the demos on screens of a shop, two of them on one host, every seventh silent."""
-    demos = sorted(folder.parent.name for folder in (ROOT / "demos").glob("*/main.qml"))
-    places = ["Entrance", "Bakery", "Counter", "Window left", "Window right", "Lift", "Parking", "Lounge"]
-    now = int(time.time() * 1000)
-    return {f"{places[i % 8]}{' ' + str(i // 8 + 1) if i > 8 else ''}_{1764000000000 + i * 7919}": {
-        "heartbeat": now - (86_400_000 if i % 7 == 2 else 1000 * i), "project": demos[i % len(demos)]}
-            for i in range(count)}
-
-
-def steps_of_the_dashboard(program, count):
-    program.wait_page("ConnectedPlayers")
-    with ExitStack() as stack:
-        for i in range(min(count, 2)):
-            port = wait_for(program.local_port, "the local server")
-            stack.enter_context(Peer.connect(port, f"Player_{1804289383 + i * 36527}", f"127.0.0.{1 + i}"))
-        take(program, f"dashboard-{count}", "jpg" if count else "png", 4)
-
-
-def run_dashboard(setup, screen, settings):
-    for count in (0, 3, 60):
-        cloud = Cloud(setup.localcloud)
-        try:
-            cloud.database("PUT", "/Users/ada@exampleorg/Players", players(count))
-            for player, entry in players(count).items():
-                shown = PICTURES / f"{entry['project'].lower().replace(' ', '-')}-1280x720.jpg"
-                picture = subprocess.run(["convert", shown, "-resize", "300", "-"], capture_output=True, check=True)
-                cloud.put(f"NUVEX/users/ada@example.org/screenshots/{player}.jpg", picture.stdout)
-            run(setup, screen, lambda program: steps_of_the_dashboard(program, count),
-                {**settings, "doOnStart": "dashboard"}, "--deployment", str(cloud.folder / "deployment.json"))
-        finally:
-            cloud.stop()
-
-
 def run(setup, screen, steps, settings, *arguments):
     profile = Profile()
     try:
@@ -156,7 +120,7 @@ def main():
             if "editor" in wanted:
                 run(setup, screen, steps_of_the_editor, {**signed_in, "lastProject": "Menu Board"})
             if "dashboard" in wanted:
-                run_dashboard(setup, screen, signed_in)
+                dashboardshots.take_all(setup.localcloud, lambda *how: run(setup, screen, *how), take, signed_in)
             if "gallery" in wanted:
                 run(setup, screen, steps_of_the_gallery, signed_in, "--gallery")
             for demo in demos:
