@@ -107,7 +107,8 @@ class AtOneBridge(unittest.TestCase):
                 a.wait("started B", 60)
                 b.wait("started A", 60)
                 note("the cable is back: A and B have met again")
-            self.assertEqual(a.exchange("send", "B"), (True, "B and this player have the same files."))
+            tries = (a.exchange("send", "B") for _ in range(3))  # a second connection may still have to be given up
+            self.assertIn((True, "B and this player have the same files."), tries)
 
 
 class Announcements(unittest.TestCase):
