@@ -23,6 +23,9 @@ var reopenFirst = 1000;
 var reopenMost = 60000;
 var streamLasts = 40000;
 
+/// Between two attempts to look a project of the account up.
+var lookUpPeriod = 10000;
+
 /// Longest name, in UTF-16 units, and longest revision that is taken from the database; and what the log shows of
 /// a longer text.
 var nameLength = 255;
