@@ -11,6 +11,7 @@
 #include "app/screenshot.h"
 #include "app/startpage.h"
 #include "cloud/deployment.h"
+#include "cloud/http/transferthread.h"
 #include "quick/tables/icontable.h"
 
 #include <QGuiApplication>
@@ -102,6 +103,7 @@ int runHost(int& argc, char** argv, const Options& options)
     const Deployment deployment = Deployment::find(options.deployment);
     const DisplayHold display;
     keepMesaFromTheDisk();
+    useLightEventLoops();
     // Lets a web view be shown later without loading its library now.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     int code = 0;
