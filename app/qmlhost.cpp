@@ -9,6 +9,7 @@
 #include "app/qmlcontext.h"
 #include "app/restart.h"
 #include "app/screenshot.h"
+#include "app/scriptguard.h"
 #include "app/startpage.h"
 #include "cloud/deployment.h"
 #include "cloud/http/transferthread.h"
@@ -71,6 +72,7 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
     QObject::connect(view.engine(), &QQmlEngine::exit, &application, &QGuiApplication::exit,
                      Qt::QueuedConnection);
 
+    const ScriptGuard guard(*view.engine());
     view.setInitialProperties(startPage(options, capi->getWorkDirectory()));
     view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/PlayerQML/main.qml")));
     keepNetworkAddress(view);

@@ -410,8 +410,8 @@ function obey(command, user, player, evaluator) {
     if (command.indexOf("reStartApp") >= 0) {
         clear(function() { evaluator.evaluate(command); });
     } else {
+        Qt.callLater(clear); // also when the command is cut off, which ends this function
         run(command, evaluator);
-        clear();
     }
 }
 
