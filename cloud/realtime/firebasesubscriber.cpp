@@ -44,6 +44,7 @@ void FirebaseSubscriber::open(const QUrl& url)
     request.setRawHeader("Accept", "text/event-stream");
     request.setRawHeader("Accept-Encoding", "identity");
     m_reply = m_manager.get(request);
+    m_reply->setReadBufferSize(limits::readBufferBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &FirebaseSubscriber::eventReadyRead);
     connect(m_reply, &QNetworkReply::finished, this, &FirebaseSubscriber::eventFinished);
     connect(m_reply, &QNetworkReply::errorOccurred, this, &FirebaseSubscriber::slotError);
