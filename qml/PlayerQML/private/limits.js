@@ -32,6 +32,12 @@ var nameLength = 255;
 var revisionLength = 64;
 var logLength = 200;
 
+/// A program that dies so soon after a document was loaded may have died of it; after so many of these deaths, one
+/// behind the other, a start waits so long.
+var earlyDeath = 10000;
+var earlyDeaths = 3;
+var earlyDeathPause = 60000;
+
 /// After a project's document came on the screen, its still is taken.
 var firstStill = 8000;
 /// For a still that is taken beside the screen: until pictures are loaded, and until the still is taken and written.
