@@ -4,6 +4,7 @@
 #include "app/qmlcontext.h"
 
 #include "api/capi.h"
+#include "app/guardednetwork.h"
 #include "app/nativetypes.h"
 #include "quick/tables/icontable.h"
 #include "quick/tables/themetable.h"
@@ -67,7 +68,9 @@ void setApplicationNames()
 
 void prepareEngine(QQmlEngine& engine, const Deployment& deployment)
 {
+    static GuardedNetwork network; // without state
     registerNativeTypes(deployment);
+    engine.setNetworkAccessManagerFactory(&network);
     engine.addImportPath(QStringLiteral("qrc:///./"));
     engine.addImportPath(QStringLiteral("qrc:///./Nuvex/Components/"));
 }

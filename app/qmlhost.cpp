@@ -9,8 +9,10 @@
 #include "app/qmlcontext.h"
 #include "app/restart.h"
 #include "app/screenshot.h"
+#include "app/scriptguard.h"
 #include "app/startpage.h"
 #include "cloud/deployment.h"
+#include "cloud/http/transferthread.h"
 #include "quick/tables/icontable.h"
 
 #include <QGuiApplication>
@@ -70,6 +72,7 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
     QObject::connect(view.engine(), &QQmlEngine::exit, &application, &QGuiApplication::exit,
                      Qt::QueuedConnection);
 
+    const ScriptGuard guard(*view.engine());
     view.setInitialProperties(startPage(options, capi->getWorkDirectory()));
     view.setSource(QUrl(QStringLiteral("qrc:///Nuvex/PlayerQML/main.qml")));
     keepNetworkAddress(view);
@@ -102,6 +105,7 @@ int runHost(int& argc, char** argv, const Options& options)
     const Deployment deployment = Deployment::find(options.deployment);
     const DisplayHold display;
     keepMesaFromTheDisk();
+    useLightEventLoops();
     // Lets a web view be shown later without loading its library now.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     int code = 0;

@@ -261,6 +261,7 @@ bool run(const Deployment& deployment, const QStringList& words)
 
 int main(int argc, char* argv[])
 {
+    useLightEventLoops(); // as the program does
     const bool hasWindow = argc > 2 && qstrcmp(argv[2], "revisions") == 0;
     const std::unique_ptr<QCoreApplication> application(hasWindow ? new QGuiApplication(argc, argv)
                                                                   : new QCoreApplication(argc, argv));

@@ -5,7 +5,8 @@
 
 measure.py NUVEX-LOCALCLOUD [--players N] [--writes PER-SECOND] [--seconds S] [--long] [--rounds N] [--mebibytes N]
 
---long lets the players run for 30 minutes, in memory alone. Prints markdown tables.
+--long lets the players run for 30 minutes, in memory alone, and prints the server's memory a minute. Prints markdown
+tables.
 """
 import argparse
 import json
@@ -137,19 +138,23 @@ def measure_players(known, place):
         server = cloud.Cloud(known.program, folder=name)
         players, bare = Players(server, known.players), BareServer(pathlib.Path(name))
         connection, choice = server.connect(), random.Random(1)
-        times, least = [], []
+        times, least, memories = [], [], []
         began = time.monotonic()
         for number in range((known.seconds + SETTLING) * known.writes):
             if number == SETTLING * known.writes:
-                used, started, memory = processor_seconds(server.process), time.monotonic(), server.memory_mib()
+                used, started = processor_seconds(server.process), time.monotonic()
                 times, least = [], []
+            if number % (60 * known.writes) == SETTLING * known.writes:
+                memories.append(server.memory_mib())
             time.sleep(max(0.0, began + number / known.writes - time.monotonic()))
             times.append(beat(server, players, connection, known.players, choice))
             least.append(bare.write())
         share = 100 * (processor_seconds(server.process) - used) / (time.monotonic() - started)
         figures = [percentile(values, percent) for values in (times, least) for percent in (50, 99)]
         print(f"| {place} | {share:.1f} | " + " | ".join(f"{figure:.2f}" for figure in figures)
-              + f" | {memory:.1f} | {server.memory_mib():.1f} |", flush=True)
+              + f" | {memories[0]:.1f} | {server.memory_mib():.1f} |", flush=True)
+        if known.long:
+            print("\nMemory a minute, MiB: " + " ".join(f"{memory:.1f}" for memory in memories), flush=True)
         players.close()
         connection.close()
         bare.stop()

@@ -81,6 +81,11 @@ private:
 
 } // namespace
 
+void useLightEventLoops()
+{
+    qputenv("QT_NO_THREADED_GLIB", "1");
+}
+
 /// What lives in the thread: the manager and the tasks under way.
 class TransferThread::Room : public QObject
 {

@@ -31,6 +31,11 @@ protected:
     virtual void cancel() = 0;
 };
 
+/// Gives threads to come, Qt's own of each network manager among them, Unix's event loop in place of GLib's,
+/// which makes a system call for each event that is posted to it: a download over TLS posts a thousand for a
+/// MiB. The main thread's stays. To be called while the program has one thread.
+void useLightEventLoops();
+
 /// A thread with one network manager, so that connections are kept from one transfer to the next.
 ///
 /// One thread at a time uses it, besides cancelAll().

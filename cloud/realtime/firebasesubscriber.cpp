@@ -36,12 +36,15 @@ void FirebaseSubscriber::checkUp()
         subscribe(m_url);
 }
 
+// Packed events would be unpacked to any size before their limit is seen.
 void FirebaseSubscriber::open(const QUrl& url)
 {
     close();
     QNetworkRequest request(url);
     request.setRawHeader("Accept", "text/event-stream");
+    request.setRawHeader("Accept-Encoding", "identity");
     m_reply = m_manager.get(request);
+    m_reply->setReadBufferSize(limits::readBufferBytes);
     connect(m_reply, &QNetworkReply::readyRead, this, &FirebaseSubscriber::eventReadyRead);
     connect(m_reply, &QNetworkReply::finished, this, &FirebaseSubscriber::eventFinished);
     connect(m_reply, &QNetworkReply::errorOccurred, this, &FirebaseSubscriber::slotError);

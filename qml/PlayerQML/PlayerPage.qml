@@ -27,6 +27,8 @@ StackPage {
         CAPI.getFonts();
         project = CAPI.getBaseProjectName();
         documentUrl = fileUrl(CAPI.baseFolder() + "/" + SS.qmlFileName);
+        if (!startGuard.mayPlay())
+            return "";
         // What hangs or crashes from here on has a name in the log.
         if (shell)
             console.info(shell.log, "plays", documentUrl);
@@ -59,8 +61,14 @@ StackPage {
             documentName: SS.qmlFileName
             documentUrl: root.documentUrl
             failed: root.failed
+            obstacle: startGuard.obstacle
             networkAddress: root.shell ? root.shell.networkAddress : ""
         }
+    }
+
+    StartGuard {
+        id: startGuard
+        onReleased: root.load()
     }
 
     ProjectLoader {

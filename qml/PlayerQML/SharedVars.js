@@ -158,7 +158,16 @@ function firebaseDelete(child, callback, timerTimeOut) {
 
 // --- account ----------------------------------------------------------------------------------------------
 
+// Status 200 alone is no account: somebody in between may have answered.
+function isAccount(result) {
+    return result !== null && typeof result === "object" && typeof result.email === "string" && result.email !== "";
+}
+
 function identityCall(operation, email, password, callback, timer) {
+    const take = function(success, result) {
+        const isOther = success && !isAccount(result);
+        callback(success && !isOther, isOther ? {} : result);
+    };
     sendIfSetUp(function() {
         return {
             "method": "Post",
@@ -167,7 +176,7 @@ function identityCall(operation, email, password, callback, timer) {
             "body": JSON.stringify({"email": email, "password": password, "returnSecureToken": true}),
             "resultWithoutBody": {}
         };
-    }, callback, timer);
+    }, take, timer);
 }
 
 /// Signs in; on success the account's e-mail becomes the setting "userEmail".
@@ -401,8 +410,8 @@ function obey(command, user, player, evaluator) {
     if (command.indexOf("reStartApp") >= 0) {
         clear(function() { evaluator.evaluate(command); });
     } else {
+        Qt.callLater(clear); // also when the command is cut off, which ends this function
         run(command, evaluator);
-        clear();
     }
 }
 

@@ -139,23 +139,25 @@ class CloudTest(ProgramTest):
         place = f"NUVEX/users/{EMAIL}/ShareFolder/{project}/"
         self.cloud.put(place + "main.qml", f"import QtQuick 2.15\nRectangle {{ color: '{colour}' }}\n")
         self.cloud.put(place + "dirmap", f"main.qml {revision + 1}\n")
-        self.database(f"Projects/{project}/revision", revision)
+        self.database(f"Projects/{project.replace('.', '')}/revision", revision)
 
     def test_chosen_project(self):
-        """A project that the account chooses: what plays goes on until it is there; chosen while the player was off."""
+        """A project that the account chooses: what plays goes on until it is there; chosen while the player was off. The
+        database has its name without dots."""
         self.project_in_the_cloud("Shop", "teal", 0)
-        self.project_in_the_cloud("Cafe", "purple", 0)
+        self.project_in_the_cloud("Ca.fe", "purple", 0)
         player = self.start_player()
         self.wait_colour(player, TEAL)
         wait_for(lambda: self.database("Players/wall_1/project") == "Shop", "what the player tells of its project")
         self.cloud.ask("DELETE", "/_localcloud/streams")  # heard of all the same, long before the next heartbeat
-        self.cloud.faults({"method": "GET", "target": "*Cafe%2Fmain.qml*", "delayMs": 3000})
+        self.cloud.faults({"method": "GET", "target": "*Ca.fe%2Fmain.qml*", "delayMs": 3000})
         self.database("Players/wall_1/project", "Cafe")
         wait_for(lambda: "waits for" in player.log(), "the player to hear of it")
         end = time.monotonic() + 2.5
         while time.monotonic() < end:
             self.assertEqual(colour_at(player.screen, 640, 360), TEAL)
         self.wait_colour(player, PURPLE)
+        self.assertEqual(player.profile.setting("lastProject"), "Ca.fe")
 
         player.close()
         self.database("Players/wall_1/project", "Shop")

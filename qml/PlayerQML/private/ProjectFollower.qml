@@ -14,6 +14,10 @@ QtObject {
     property var playing: null
     property var followed: []
 
+    property ProjectFinder finder: ProjectFinder {
+        onFound: root.show(project)
+    }
+
     readonly property string user: CAPI.getSSetting("userEmail")
     readonly property string player: CAPI.getSSetting("playerUID")
     readonly property LoggingCategory log: LoggingCategory { name: "nuvex.shell" }
@@ -29,7 +33,12 @@ QtObject {
         if (!follows)
             return;
         follow(document);
-        SS.playersSubscription = SS.subscribeToPlayerProject(user, player, (owner, self, name) => show(name));
+        SS.playersSubscription = SS.subscribeToPlayerProject(user, player, (owner, self, name) => choose(name));
+    }
+
+    // `name` may be that of a project without its dots.
+    function choose(name) {
+        finder.find(name, CAPI.getProjectList().filter(isHere));
     }
 
     function isHere(name) {

@@ -11,6 +11,8 @@ Rectangle {
     property string documentName
     property url documentUrl
     property bool failed: false
+    // Why it is not even tried; empty when it is.
+    property string obstacle
     property string networkAddress
 
     readonly property string playerName: CAPI.getSSetting("playerUID").split("_")[0]
@@ -27,6 +29,8 @@ Rectangle {
     function reason() {
         if (project === "")
             return qsTr("No project is open.");
+        if (obstacle !== "")
+            return obstacle;
         if (failed)
             return loadErrors() || qsTr("%1 could not be loaded. The log says why.").arg(documentName);
         if (!CAPI.fileExist(documentUrl))

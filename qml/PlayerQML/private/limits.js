@@ -23,11 +23,20 @@ var reopenFirst = 1000;
 var reopenMost = 60000;
 var streamLasts = 40000;
 
+/// Between two attempts to look a project of the account up.
+var lookUpPeriod = 10000;
+
 /// Longest name, in UTF-16 units, and longest revision that is taken from the database; and what the log shows of
 /// a longer text.
 var nameLength = 255;
 var revisionLength = 64;
 var logLength = 200;
+
+/// A program that dies so soon after a document was loaded may have died of it; after so many of these deaths, one
+/// behind the other, a start waits so long.
+var earlyDeath = 10000;
+var earlyDeaths = 3;
+var earlyDeathPause = 60000;
 
 /// After a project's document came on the screen, its still is taken.
 var firstStill = 8000;

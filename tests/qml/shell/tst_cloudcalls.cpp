@@ -169,6 +169,13 @@ void TestCloudCalls::login()
     QCOMPARE(QJsonDocument::fromJson(request.body).toVariant().toMap(),
              QVariantMap({{"email", "ann@x.org"}, {"password", "p\"w"}, {"returnSecureToken", true}}));
 
+    for (const char* noAccount : {"null", "7", "[]", "{}", R"({"email":7})", R"({"email":""})", "<html>"}) {
+        server.setAnswer(path, HttpAnswer::complete(200, noAccount));
+        m_script->run("answers = []; SS.login('ann@x.org', 'p', keep)");
+        QTRY_COMPARE(m_script->answers(), QString("[[false,{}]]"));
+    }
+    QVERIFY(!m_api->settings.contains("userEmail"));
+
     server.setAnswer(path, HttpAnswer::complete(200, R"({"email":"Ann@x.org"})"));
     m_script->run("SS.login('ann@x.org', 'p', keep)");
     QTRY_COMPARE(m_api->settings["userEmail"].toString(), QString("Ann@x.org"));

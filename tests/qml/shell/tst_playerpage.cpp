@@ -3,6 +3,7 @@
 
 #include "tests/qml/shell/shell.h"
 
+#include <QSettings>
 #include <QtTest>
 
 /// The page on the wall: how a document fits it, and what it shows when there is none.
@@ -20,6 +21,7 @@ private slots:
     void pageAfterForgetting();
     void connectionDot();
     void chosenProjectIsAwaited();
+    void whatEndsTheProgramWaits();
 };
 
 namespace {
@@ -207,6 +209,24 @@ void TestPlayerPage::chosenProjectIsAwaited()
     choose("Cafe"); // taken back
     QCOMPARE(followed(), QStringList({"Cafe"}));
     QVERIFY2(shell.warnings().isEmpty(), qPrintable(shell.warnings().join('\n')));
+}
+
+// Until something has come; and an orderly end counts for nothing.
+void TestPlayerPage::whatEndsTheProgramWaits()
+{
+    for (const auto& [deaths, waits] : {std::pair(2, false), std::pair(3, true)}) {
+        setUp("import QtQuick 2.15\nItem { objectName: 'shown' }");
+        QSettings().setValue("earlyDeaths", QString::number(deaths));
+        {
+            Shell shell;
+            QCOMPARE(shell.find("shown") == nullptr, waits);
+            QCOMPARE(text(shell, "standbyReason").contains("several times"), waits);
+            emit shell.api().reloadPlayer();
+            QVERIFY(shell.find("shown"));
+            QCOMPARE(TestProfile::setting("earlyDeaths").toInt(), deaths + 1); // if it died now
+        }
+        QCOMPARE(TestProfile::setting("earlyDeaths").toInt(), 0);
+    }
 }
 
 int main(int argc, char* argv[])
