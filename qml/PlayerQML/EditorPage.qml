@@ -155,7 +155,10 @@ StackPage {
     LeaveQuestion {
         id: question
         project: CAPI.getBaseProjectName()
-        onLeaveWanted: root.shell.pop()
+        onLeaveWanted: {
+            desk.recovery.forget();
+            root.shell.pop();
+        }
         onSaveWanted: {
             if (desk.save())
                 root.shell.pop();

@@ -100,7 +100,7 @@ class DesktopEditorTest(EditorTest):
         program.key("ctrl+Down", "ctrl+Down", "ctrl+Down", "ctrl+Down")
         self.wait_colour("blue", "#4682b4")
         self.wait_values("red", x="260", y="47")
-        self.assertEqual(self.source().split(), DOCUMENT.replace("x: 20\n        y: 30", "x: 260\n        y: 47").split())
+        self.assertEqual(self.source(), DOCUMENT.replace("x: 20\n        y: 30", "x: 260\n        y: 47"))
 
     def test_properties(self):
         program = self.open()
@@ -386,6 +386,19 @@ class DesktopEditorTest(EditorTest):
         wait_for(lambda: not kept.exists(), "its end")
         program.key("ctrl+z")
         self.assertEqual(self.saved(), DOCUMENT)
+
+    def test_end_in_mid_change(self):
+        """What was changed a moment ago, and not saved, is offered by the next start."""
+        program = self.open()
+        self.select("red")
+        left = self.rect("red")[0]
+        program.key("Right", "Right")
+        wait_for(lambda: self.rect("red")[0] > left, "the move")
+        program.end()
+        program = self.program = self.start()
+        program.wait_text("Take up what was not saved?")
+        program.key("Return")
+        self.assertEqual(self.saved(), DOCUMENT.replace("x: 20", "x: 22"))
 
     def test_changed_elsewhere(self):
         program = self.open()

@@ -376,6 +376,15 @@ QtObject {
         return ["row", "column", "grid", "flow", "layout"].indexOf(placingOf(item).by) >= 0;
     }
 
+    readonly property Connections end: Connections {
+        target: Qt.application
+
+        function onAboutToQuit() {
+            root.settle();
+            root.recovery.flush();
+        }
+    }
+
     readonly property Connections states: Connections {
         target: CAPI
 

@@ -18,6 +18,3 @@ const duplicateGap = 16;
 
 /// How long arrow keys rest before what they moved counts as one change.
 const burstPause = 700;
-
-/// How long changes rest before they are kept for the case that the program ends without their being saved.
-const keepPause = 700;
