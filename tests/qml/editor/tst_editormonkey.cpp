@@ -160,6 +160,7 @@ void TestEditorMonkey::work()
             page.run("desk.adopt(CAPI.readTextFile('demo.txt'))");
         const QString action = act(page);
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // as a running event loop does
         const QString disorder = page.disorder();
         QVERIFY2(disorder.isEmpty(), qPrintable(QString("%1: %2\n%3").arg(i).arg(action, disorder)));
     }
