@@ -152,6 +152,11 @@ StackPage {
         isActive: root.active
     }
 
+    LargeQuestion {
+        desk: desk
+        onRejected: root.shell.pop()
+    }
+
     LeaveQuestion {
         id: question
         project: CAPI.getBaseProjectName()

@@ -447,7 +447,8 @@ class DesktopEditorTest(EditorTest):
         cases = {"Item {\n    width: }": "Line 2: ", "import QtQuick 2.15\nItm {}": "Line 2: Itm is not a type",
                  "import QtQml 2.15\nQtObject {}": "its root is no visual item", "": "It is empty.",
                  "import QtQuick 2.15\nItem { property int element }": "is taken by the editor",
-                 "import QtQuick 2.15\nItem { Component.onCompleted: { while (true) {} } }": "does not end"}
+                 "import QtQuick 2.15\nItem { Component.onCompleted: { while (true) {} } }": "does not end",
+                 'import QtQuick 2.15\nItem { Loader { source: "main.qml" } }': "loads itself again"}
         for number, (document, message) in enumerate(cases.items()):
             with self.subTest(message):
                 if number:
@@ -461,6 +462,26 @@ class DesktopEditorTest(EditorTest):
                     program.key("Escape")
                 program.wait_page("RADEditorPage")
                 self.assertEqual(self.source(), document)
+
+    def test_large_and_endless_documents(self):
+        """What would take very long is asked about first; what never ends is not played either."""
+        program = self.open('import QtQuick 2.15\nItem {\n    objectName: "page"; width: 500; height: 400\n'
+                            '    Repeater { model: 9000; Item { } }\n}\n')
+        program.wait_text("Line 4 makes it 9002 items.")
+        self.assertIsNone(program.find("page"))
+        program.click("Open it all the same")
+        wait_for(lambda: program.find("page"), "the document")
+        program.close()
+        (self.folder / "main.qml").write_text('import QtQuick 2.15\nItem { Repeater { model: 1e8; Item { } } }\n')
+        program = self.program = self.start()
+        program.wait_text("Line 2 makes it 100000002 items.")
+        program.key("Escape")
+        program.wait_page("MainPage")
+        program.close()
+        (self.folder / "main.qml").write_text('import QtQuick 2.15\nItem { Loader { source: "main.qml" } }\n')
+        program = self.program = self.start("--play", self.folder.name)
+        program.wait_text("loads itself again")
+        self.assertTrue(program.alive())
 
 
 if __name__ == "__main__":
