@@ -25,6 +25,9 @@ constexpr qint64 unsyncedBytes = 32LL * 1024 * 1024;
 constexpr int stillSide = 960;
 constexpr int stillQuality = 85;
 
+/// How long changes of a document may wait until they are kept on disk.
+constexpr std::chrono::milliseconds safetyCopyDelay{700};
+
 /// How often the progress of work in the background is shown.
 constexpr std::chrono::milliseconds progressInterval{100};
 

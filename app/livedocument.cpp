@@ -3,8 +3,8 @@
 
 #include "app/livedocument.h"
 
-#include "qmldoc/documentfaults.h"
 #include "qmldoc/editortext.h"
+#include "qmldoc/endlessloading.h"
 #include "qmldoc/faults.h"
 #include "quick/limits.h"
 #include "quick/live/element.h"
@@ -66,10 +66,11 @@ void LiveDocument::classBegin()
 
 bool LiveDocument::load(const QString& source, const QString& folder, QQuickItem* parent)
 {
-    if (!isWhole(source))
-        return false;
+    const Outline outline(source);
     m_url = QUrl::fromLocalFile(folder + QLatin1Char('/'));
-    const QString text = thinnedText(source, Outline(source), 0);
+    if (!isWhole(outline))
+        return false;
+    const QString text = thinnedText(source, outline, 0);
     const bool isLoaded = m_scene->load(text, m_url, *parent);
     takeFaults(faultsOf(source, text, m_url, m_scene->errors()));
     if (isLoaded) {
@@ -81,9 +82,10 @@ bool LiveDocument::load(const QString& source, const QString& folder, QQuickItem
 
 QQuickItem* LiveDocument::insert(const QString& source, int firstElement, QQuickItem* parent)
 {
-    if (!root() || !parent || !isWhole(source))
+    const Outline outline(source);
+    if (!root() || !parent || !isWhole(outline))
         return nullptr;
-    QQuickItem* item = m_scene->insert(thinnedText(source, Outline(source), firstElement), *parent);
+    QQuickItem* item = m_scene->insert(thinnedText(source, outline, firstElement), *parent);
     takeErrors(m_scene->errors());
     beginRest();
     return item;
@@ -181,10 +183,17 @@ void LiveDocument::rest()
         holdStill(*root(), m_rests < 2 ? Particles::Flow : Particles::Hold);
 }
 
-// Whether the source can be handed to the engine at all; some of what it cannot bear brings it down.
-bool LiveDocument::isWhole(const QString& source)
+// Whether the document can be handed to the engine at all; some of what it cannot bear brings it down.
+bool LiveDocument::isWhole(const Outline& outline)
 {
-    takeFaults(DocumentFaults().inSource(source));
+    QVariantList faults;
+    const QString file = m_url.toLocalFile() + QLatin1String("main.qml");
+    for (const Fault& fault : faultsInSource(outline) + endlessLoading(outline, file))
+        faults.append(QVariantMap{{"line", fault.place.line},
+                                  {"column", fault.place.column},
+                                  {"message", fault.message},
+                                  {"file", QString()}});
+    takeFaults(faults);
     return m_faults.isEmpty();
 }
 

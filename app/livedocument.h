@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "qmldoc/outline.h"
 #include "quick/live/livescene.h"
 
 #include <QQmlParserStatus>
@@ -70,7 +71,7 @@ signals:
 private:
     void rest();
     void beginRest();
-    bool isWhole(const QString& source);
+    bool isWhole(const Outline& outline);
     void takeFaults(const QVariantList& faults);
     void takeErrors(const QList<QQmlError>& errors);
 

@@ -8,6 +8,7 @@
 #include "api/exports.h"
 #include "api/imports.h"
 #include "api/projectstill.h"
+#include "api/safetycopy.h"
 #include "api/textfile.h"
 #include "api/transfers.h"
 #include "app/livedocument.h"
@@ -36,6 +37,7 @@ bool registerOnce(const Deployment& deployment)
     qmlRegisterType<Imports>("Nuvex.Native", 1, 1, "Imports");
     qmlRegisterType<Exports>("Nuvex.Native", 1, 1, "Exports");
     qmlRegisterType<ProjectStill>("Nuvex.Native", 1, 1, "ProjectStill");
+    qmlRegisterType<SafetyCopy>("Nuvex.Native", 1, 1, "SafetyCopy");
     qmlRegisterType<TextFile>("Nuvex.Native", 1, 1, "TextFile");
     qmlRegisterType<Transfers>("Nuvex.Native", 1, 1, "Transfers");
     qmlRegisterType<DocumentFaults>("Nuvex.Native", 1, 1, "DocumentFaults");

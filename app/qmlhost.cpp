@@ -11,6 +11,7 @@
 #include "app/screenshot.h"
 #include "app/scriptguard.h"
 #include "app/startpage.h"
+#include "app/termination.h"
 #include "cloud/deployment.h"
 #include "cloud/http/transferthread.h"
 #include "quick/tables/icontable.h"
@@ -80,6 +81,7 @@ int runOnce(int& argc, char** argv, const Options& options, const Deployment& de
     view.show();
     if (!options.screenshotFile.isEmpty())
         saveScreenshotLater(view, options);
+    const Termination termination;
     const int code = QGuiApplication::exec();
 
     // Documents say goodbye through CAPI, so they go first.

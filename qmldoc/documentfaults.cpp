@@ -3,6 +3,8 @@
 
 #include "qmldoc/documentfaults.h"
 
+#include "qmldoc/burden.h"
+#include "qmldoc/endlessloading.h"
 #include "qmldoc/faults.h"
 
 namespace {
@@ -15,14 +17,32 @@ QVariantMap asMap(const Fault& fault, const QString& file = QLatin1String(""))
             {QStringLiteral("file"), file}};
 }
 
+QVariantList asList(const QVector<Fault>& faults)
+{
+    QVariantList list;
+    for (const Fault& fault : faults)
+        list.append(asMap(fault));
+    return list;
+}
+
 } // namespace
 
 QVariantList DocumentFaults::inSource(const QString& source) const
 {
-    QVariantList list;
-    for (const Fault& fault : faultsInSource(source))
-        list.append(asMap(fault));
-    return list;
+    return asList(faultsInSource(Outline(source)));
+}
+
+QVariantList DocumentFaults::inLoading(const QString& source, const QUrl& file) const
+{
+    return asList(endlessLoading(Outline(source), file.toLocalFile()));
+}
+
+QVariantMap DocumentFaults::burden(const QString& source) const
+{
+    const Burden burden = burdenOf(source);
+    return {{QStringLiteral("characters"), burden.characters},
+            {QStringLiteral("objects"), burden.objects},
+            {QStringLiteral("line"), burden.line}};
 }
 
 QVariantList DocumentFaults::inText(const QString& source, const QString& text, const QUrl& url,

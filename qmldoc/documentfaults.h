@@ -16,6 +16,10 @@ class DocumentFaults : public QObject
 public:
     /// What keeps `source` from being edited before the engine has seen it; see faultsInSource().
     Q_INVOKABLE QVariantList inSource(const QString& source) const;
+    /// Why the document `source`, whose file is `file`, would load without end; see endlessLoading().
+    Q_INVOKABLE QVariantList inLoading(const QString& source, const QUrl& file) const;
+    /// What it takes to make the document `source`: a map of "characters", "objects" and "line"; see Burden.
+    Q_INVOKABLE QVariantMap burden(const QString& source) const;
 
     /// What the engine found in `text`, made of `source` and handed to it under `url`. `errors` is the
     /// qmlErrors of what Qt.createQmlObject() throws: maps of "lineNumber", "columnNumber", "message",

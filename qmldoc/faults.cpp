@@ -22,9 +22,8 @@ bool isReserved(const Outline& outline, const Outline::Member& member)
 
 } // namespace
 
-QVector<Fault> faultsInSource(const QString& source)
+QVector<Fault> faultsInSource(const Outline& outline)
 {
-    const Outline outline(source);
     const SyntaxError& error = outline.error();
     if (!outline.isValid())
         return {{{error.line, error.column}, error.message}};
@@ -32,7 +31,7 @@ QVector<Fault> faultsInSource(const QString& source)
     for (const Outline::Member& member : outline.members()) {
         if (isReserved(outline, member))
             faults.append(
-                {textPlace(source, member.begin),
+                {textPlace(outline.text(), member.begin),
                  QCoreApplication::translate("DocumentFaults", "The name \"%1\" is taken by the editor")
                      .arg(outline.name(member))});
     }

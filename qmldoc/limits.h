@@ -16,6 +16,9 @@ constexpr int maxDepth = 1364;
 constexpr int historyCapacity = 20;
 constexpr int initialHistoryCapacity = 1;
 
+/// Most files that are looked through for one that loads itself.
+constexpr int maxFollowedFiles = 200;
+
 /// Every so many saved editing states one is written to disk.
 constexpr int statesPerSafetyCopy = 10;
 

@@ -18,17 +18,6 @@ using namespace QQmlJS::AST;
 
 namespace {
 
-// Where the comment that begins at `position` ends; `position` when none does.
-int endOfComment(const QString& text, int position)
-{
-    const QStringRef opening = text.midRef(position, 2);
-    if (opening == QLatin1String("/*"))
-        return std::max(text.indexOf(QLatin1String("*/"), position + 2), position) + 2;
-    if (opening == QLatin1String("//"))
-        position = int(std::find_if(text.cbegin() + position, text.cend(), isLineEnd) - text.cbegin());
-    return position;
-}
-
 const QStringRef& lastName(const UiQualifiedId* id)
 {
     while (id->next)
@@ -268,6 +257,16 @@ int Outline::objectAround(int begin, int end) const
     while (i >= 0 && !(member(i).kind == Member::Object && end < member(i).end))
         i = member(i).parent;
     return i;
+}
+
+int endOfComment(const QString& text, int position)
+{
+    const QStringRef opening = text.midRef(position, 2);
+    if (opening == QLatin1String("/*"))
+        return std::max(text.indexOf(QLatin1String("*/"), position + 2), position) + 2;
+    if (opening == QLatin1String("//"))
+        position = int(std::find_if(text.cbegin() + position, text.cend(), isLineEnd) - text.cbegin());
+    return position;
 }
 
 int tokenAt(const QString& text, int position)

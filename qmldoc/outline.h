@@ -93,3 +93,7 @@ private:
 /// Where the first token stands at or behind `position`, which is not within one: what follows blanks and
 /// comments; the end of `text` when nothing does.
 int tokenAt(const QString& text, int position);
+
+/// Where the comment ends that begins at `position`, without the line end behind it; `position` when none
+/// begins there.
+int endOfComment(const QString& text, int position);

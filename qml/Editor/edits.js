@@ -89,7 +89,8 @@ function _wholeOf(document) {
 function _carryOut(document, change) {
     if (change.refusal !== "")
         return change.refusal;
-    const old = change.edits.map(edit => edit.objects.length > 0 ? _recordsIn(document.map, edit) : []);
+    const ordered = change.edits.some(edit => edit.movedBeg >= 0) ? ItemMap.ordered(document.map) : [];
+    const old = change.edits.map(edit => edit.objects.length > 0 ? _recordsIn(document.map, ordered, edit) : []);
     _write(document.api, change.edits);
     ItemMap.replace(document.map, change.edits);
     change.edits.forEach((edit, i) => edit.objects.forEach((record, k) => _put(document.map, record, old[i][k])));
@@ -112,9 +113,9 @@ function _write(api, edits) {
 
 // The records of the items that the objects in the edit's text are, in their order: those that were moved there, or the
 // one that it replaces, which is the last of them.
-function _recordsIn(map, edit) {
+function _recordsIn(map, ordered, edit) {
     if (edit.movedBeg >= 0)
-        return ItemMap.within(map, edit.movedBeg, edit.movedEnd);
+        return ItemMap.within(ordered, edit.movedBeg, edit.movedEnd);
     const replaced = ItemMap.at(map, edit.beg);
     const isReplaced = replaced && replaced.plast === edit.end;
     return edit.objects.map((record, k) => isReplaced && k === edit.objects.length - 1 ? replaced : undefined);

@@ -152,10 +152,18 @@ StackPage {
         isActive: root.active
     }
 
+    LargeQuestion {
+        desk: desk
+        onRejected: root.shell.pop()
+    }
+
     LeaveQuestion {
         id: question
         project: CAPI.getBaseProjectName()
-        onLeaveWanted: root.shell.pop()
+        onLeaveWanted: {
+            desk.recovery.forget();
+            root.shell.pop();
+        }
         onSaveWanted: {
             if (desk.save())
                 root.shell.pop();

@@ -33,10 +33,18 @@ StackPage {
         if (shell)
             console.info(shell.log, "plays", documentUrl);
         if (CAPI.fileExist(documentUrl))
-            return documentUrl;
+            return endsLoading() ? documentUrl : "";
         // There is no `api`: without the document this ends here with a script error, and nothing is fetched.
         api.trimComponentCache();
         CAPI.doOneShareDown(CAPI.getSSetting("lastProject"), "0");
+    }
+
+    // Whether the document is loaded to its end at some time; the engine would go on until its stack is full.
+    function endsLoading() {
+        const faults = judge.inLoading(CAPI.readTextFile(SS.qmlFileName), documentUrl);
+        faults.forEach(fault => console.warn(documentUrl + ":" + fault.line + ": " + fault.message));
+        notice = faults.length > 0 ? faults[0].message : notice;
+        return faults.length === 0;
     }
 
     function load() {
@@ -69,6 +77,10 @@ StackPage {
     StartGuard {
         id: startGuard
         onReleased: root.load()
+    }
+
+    DocumentFaults {
+        id: judge
     }
 
     ProjectLoader {

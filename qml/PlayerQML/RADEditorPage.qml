@@ -175,6 +175,11 @@ StackPage {
         isActive: root.active
     }
 
+    LargeQuestion {
+        desk: desk
+        onRejected: root.shell.pop()
+    }
+
     LeaveQuestion {
         id: question
         project: toolbar.project

@@ -4,6 +4,7 @@
 #include "qmldoc/edits/objectedits.h"
 
 #include "qmldoc/edits/removal.h"
+#include "qmldoc/edits/reordering.h"
 #include "qmldoc/edits/spot.h"
 #include "qmldoc/textplace.h"
 
@@ -105,6 +106,34 @@ std::vector<SourceEdit> importEdits(const Passage& passage, const QStringList& l
     return edit.headLines > 0 ? std::vector<SourceEdit>{edit} : std::vector<SourceEdit>();
 }
 
+// Whether the objects `moving` stay in the body of `target`, or in one list in it.
+bool isOneBody(const Outline& outline, const std::vector<int>& moving, int target, int before)
+{
+    const auto holder = [&](int i) { return i < 0 ? target : outline.member(i).parent; };
+    const int body = holder(before);
+    const bool isOfTarget = body == target || holder(body) == target;
+    return isOfTarget && !moving.empty() &&
+           std::all_of(moving.cbegin(), moving.cend(), [&](int i) { return holder(i) == body; });
+}
+
+// The edits that take the objects `moving` out of their bodies and put them into that of `target`.
+std::vector<SourceEdit> transferEdits(const Passage& passage, const std::vector<int>& moving, int target,
+                                      int before)
+{
+    const Outline& outline = passage.outline();
+    const int sibling = firstStaying(outline, before, moving);
+    const Spot spot = sibling < 0 ? spotAtEnd(passage, target) : spotBefore(passage, sibling);
+    std::vector<SourceEdit> edits = removalEdits(passage, moving, Lines::EmptyGo);
+    for (const int i : moving) {
+        const QString code =
+            passage.text().mid(outline.member(i).begin, outline.member(i).end - outline.member(i).begin);
+        edits.push_back(spot.edit(code, i == moving.front(), i == moving.back()));
+        edits.back().movedBegin = outline.member(i).begin;
+        edits.back().movedEnd = outline.member(i).end;
+    }
+    return edits;
+}
+
 } // namespace
 
 Change addObjects(const Passage& passage, int parent, const QString& code, const QStringList& imports)
@@ -159,22 +188,16 @@ Change moveObjects(const Passage& passage, const std::vector<int>& objects, int 
         return Change::refused(fault);
     if (target < 0)
         return notAsKnown();
-    if (before >= 0 && (wanted < 0 || outline.member(wanted).parent != target))
+    if (before >= 0 && wanted < 0)
+        return notAsKnown();
+    if (isOneBody(outline, moving, target, wanted))
+        return passage.settledChange(reorderingEdits(passage, moving, wanted));
+    if (wanted >= 0 && outline.member(wanted).parent != target)
         return refused("The place is not in that object.");
     if (std::any_of(moving.cbegin(), moving.cend(),
                     [&](int i) { return i <= target && target < outline.member(i).next; }))
         return refused("An object cannot be moved into itself.");
-    const int sibling = firstStaying(outline, wanted, moving);
-    const Spot spot = sibling < 0 ? spotAtEnd(passage, target) : spotBefore(passage, sibling);
-    std::vector<SourceEdit> edits = removalEdits(passage, moving, Lines::EmptyGo);
-    for (const int i : moving) {
-        const QString code =
-            passage.text().mid(outline.member(i).begin, outline.member(i).end - outline.member(i).begin);
-        edits.push_back(spot.edit(code, i == moving.front(), i == moving.back()));
-        edits.back().movedBegin = outline.member(i).begin;
-        edits.back().movedEnd = outline.member(i).end;
-    }
-    return passage.settledChange(edits);
+    return passage.settledChange(transferEdits(passage, moving, target, wanted));
 }
 
 Change replaceObject(const Passage& passage, int object, const QString& code)

@@ -25,7 +25,7 @@ Change insertObject(const Passage& passage, int parent, int before, const QStrin
 Change removeObjects(const Passage& passage, const std::vector<int>& objects);
 
 /// Moves objects, in the given order, into the body of `parent`; see insertObject(). Lines that they leave
-/// empty go.
+/// empty go. Those of one body, or of one list, that stay in it change places; see reorderingEdits().
 Change moveObjects(const Passage& passage, const std::vector<int>& objects, int parent, int before);
 
 /// Puts `code`, the source of one object, in place of `object`. The passage is what holds it, or the

@@ -250,6 +250,11 @@ class Program:
                  lambda: "the restarted program; log:\n" + self.log())
         self.focus()
 
+    def end(self):
+        """Asks the program to end, as who shuts the machine down does, and waits until it has."""
+        self.process.terminate()
+        self.process.wait(DEADLINE)
+
     def close(self):
         """Ends the program, also when it has restarted as another process; does nothing the second time."""
         if self.closed:

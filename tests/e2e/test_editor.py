@@ -100,7 +100,7 @@ class DesktopEditorTest(EditorTest):
         program.key("ctrl+Down", "ctrl+Down", "ctrl+Down", "ctrl+Down")
         self.wait_colour("blue", "#4682b4")
         self.wait_values("red", x="260", y="47")
-        self.assertEqual(self.source().split(), DOCUMENT.replace("x: 20\n        y: 30", "x: 260\n        y: 47").split())
+        self.assertEqual(self.source(), DOCUMENT.replace("x: 20\n        y: 30", "x: 260\n        y: 47"))
 
     def test_properties(self):
         program = self.open()
@@ -387,6 +387,19 @@ class DesktopEditorTest(EditorTest):
         program.key("ctrl+z")
         self.assertEqual(self.saved(), DOCUMENT)
 
+    def test_end_in_mid_change(self):
+        """What was changed a moment ago, and not saved, is offered by the next start."""
+        program = self.open()
+        self.select("red")
+        left = self.rect("red")[0]
+        program.key("Right", "Right")
+        wait_for(lambda: self.rect("red")[0] > left, "the move")
+        program.end()
+        program = self.program = self.start()
+        program.wait_text("Take up what was not saved?")
+        program.key("Return")
+        self.assertEqual(self.saved(), DOCUMENT.replace("x: 20", "x: 22"))
+
     def test_changed_elsewhere(self):
         program = self.open()
         file = self.folder / "main.qml"
@@ -435,7 +448,8 @@ class DesktopEditorTest(EditorTest):
                  "import QtQml 2.15\nQtObject {}": "its root is no visual item", "": "It is empty.",
                  "/" * 68_000_000: "too large for a text",
                  "import QtQuick 2.15\nItem { property int element }": "is taken by the editor",
-                 "import QtQuick 2.15\nItem { Component.onCompleted: { while (true) {} } }": "does not end"}
+                 "import QtQuick 2.15\nItem { Component.onCompleted: { while (true) {} } }": "does not end",
+                 'import QtQuick 2.15\nItem { Loader { source: "main.qml" } }': "loads itself again"}
         for number, (document, message) in enumerate(cases.items()):
             with self.subTest(message):
                 if number:
@@ -449,6 +463,26 @@ class DesktopEditorTest(EditorTest):
                     program.key("Escape")
                 program.wait_page("RADEditorPage")
                 self.assertEqual(self.source(), document)
+
+    def test_large_and_endless_documents(self):
+        """What would take very long is asked about first; what never ends is not played either."""
+        program = self.open('import QtQuick 2.15\nItem {\n    objectName: "page"; width: 500; height: 400\n'
+                            '    Repeater { model: 9000; Item { } }\n}\n')
+        program.wait_text("Line 4 makes it 9002 items.")
+        self.assertIsNone(program.find("page"))
+        program.click("Open it all the same")
+        wait_for(lambda: program.find("page"), "the document")
+        program.close()
+        (self.folder / "main.qml").write_text('import QtQuick 2.15\nItem { Repeater { model: 1e8; Item { } } }\n')
+        program = self.program = self.start()
+        program.wait_text("Line 2 makes it 100000002 items.")
+        program.key("Escape")
+        program.wait_page("MainPage")
+        program.close()
+        (self.folder / "main.qml").write_text('import QtQuick 2.15\nItem { Loader { source: "main.qml" } }\n')
+        program = self.program = self.start("--play", self.folder.name)
+        program.wait_text("loads itself again")
+        self.assertTrue(program.alive())
 
 
 if __name__ == "__main__":

@@ -91,6 +91,8 @@ private slots:
     void properties();
     void objects_data();
     void objects();
+    void reordering_data();
+    void reordering();
     void ids_data();
     void ids();
     void freshIds_data();
@@ -246,6 +248,47 @@ void TestEdits::objects_data()
 void TestEdits::objects()
 {
     compare();
+}
+
+void TestEdits::reordering_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("after"); // with A behind B
+    const auto row = [](const char* name, const QString& source, const QString& after) {
+        QTest::newRow(name) << source << after;
+    };
+    row("blank lines", "Item {\n\n    A { }\n\n\n    B { }\n    C { }\n}",
+        "Item {\n\n    B { }\n\n\n    A { }\n    C { }\n}");
+    row("the last two", "Item {\n    A {\n    }\n\n    B { }\n}", "Item {\n    B { }\n\n    A {\n    }\n}");
+    row("CRLF", "Item {\r\n    A { }\r\n\r\n    B {\r\n    }\r\n}",
+        "Item {\r\n    B {\r\n    }\r\n\r\n    A { }\r\n}");
+    row("own comments", "Item {\n    // a\n    /* A\n */\n    A { } // a }\n    // b\n    B { }\n}",
+        "Item {\n    // b\n    B { }\n    // a\n    /* A\n */\n    A { } // a }\n}");
+    row("comments of others",
+        "Item { // i\n    // all\n\n    A { }\n    x: 1 // x\n    B { } /* b */\n    // end\n}",
+        "Item { // i\n    // all\n\n    B { } /* b */\n    x: 1 // x\n    A { }\n    // end\n}");
+    row("on one line", "Item { /* a */ A { } B { } /* b */ }", "Item { /* a */ B { } A { } /* b */ }");
+    row("line shared with the end", "Item {\n    A { } // a\n    B { } }",
+        "Item {\n    B { } // a\n    A { } }");
+    row("other members between", "Item {\n    A { }\n    y: 2; function f() { }\n    B { }\n}",
+        "Item {\n    B { }\n    y: 2; function f() { }\n    A { }\n}");
+    row("list on a line", "Item { states: [ A { }, B { } ] }", "Item { states: [ B { }, A { } ] }");
+    row("list on lines",
+        "Item {\n    data: [\n        A { }, // one\n        // b\n        B { } // two\n    ]\n}",
+        "Item {\n    data: [\n        // b\n        B { }, // one\n        A { } // two\n    ]\n}");
+    row("other indentation", "Item {\n    A {\n        x: 1\n    }\n  B { }\n}",
+        "Item {\n    B { }\n  A {\n      x: 1\n  }\n}");
+}
+
+/// Two neighbours change places; moved back, the bytes are what they were.
+void TestEdits::reordering()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, after);
+    const Change forward = moveObjects(whole(source), {source.indexOf("B {")}, 0, source.indexOf("A {"));
+    QCOMPARE(made(source, forward), after);
+    const Change back = moveObjects(whole(after), {after.indexOf("A {")}, 0, after.indexOf("B {"));
+    QCOMPARE(made(after, back), source);
 }
 
 void TestEdits::ids_data()

@@ -161,7 +161,7 @@ void TestThinnedText::faultsInSource()
 {
     QFETCH(QString, text);
     QStringList places;
-    for (const Fault& fault : ::faultsInSource(text))
+    for (const Fault& fault : ::faultsInSource(Outline(text)))
         places.append(QString("%1:%2").arg(fault.place.line).arg(fault.place.column));
     QTEST(places, "places");
 }

@@ -20,6 +20,7 @@ QtObject {
     readonly property Item frame: frameHost ? frameHost.item : null
 
     readonly property LiveDocument live: LiveDocument {}
+    readonly property DocumentFaults judge: DocumentFaults {}
     readonly property ProjectStill still: ProjectStill {}
     readonly property TextFile file: TextFile { path: "main.qml" }
     readonly property Selection selection: Selection { desk: root }
@@ -40,7 +41,12 @@ QtObject {
     /// Why the document cannot be shown: a map of "line", "column" and "message"; null when it is shown.
     property var fault: null
 
+    /// Whether documents that take long are shown without asking.
+    property bool takesLarge: false
+
     property string savedSource
+    // Why the last reload failed, as `fault`.
+    property var refusal: null
     /// Why the project's files are to stay as they are now, in words; "" when they may be written.
     property string hold
 
@@ -53,6 +59,8 @@ QtObject {
     /// Others have made `source` the document on disk, while it has changes here that are not saved. Either take() it,
     /// or it becomes the savedSource, which the next save() replaces.
     signal changedElsewhere(string source)
+    /// The document takes long to show; `why` in words. Nothing is shown until showLarge().
+    signal largeFound(string why)
 
     Component.onDestruction: live.clear()
 
@@ -73,6 +81,11 @@ QtObject {
 
     // Shows the source for the first time. False when it cannot be shown; `fault` says why.
     function begin() {
+        const large = largeness(CAPI.editedSourceCode());
+        if (large !== "") {
+            largeFound(large);
+            return false;
+        }
         CAPI.generateEditor();
         const isMade = make(CAPI.editedSourceCode());
         Ejs.map = isMade ? CAPI.getMap() : [];
@@ -80,6 +93,28 @@ QtObject {
         selection.clear();
         root.shown();
         return isMade;
+    }
+
+    // Shows a document that takes long, as the user wants it, and all that follow.
+    function showLarge() {
+        root.takesLarge = true;
+        if (begin())
+            frame.viewport.fit();
+        refresh();
+    }
+
+    // What makes `source` take long to show, in words; "" when nothing does, or the user wants it so.
+    function largeness(source) {
+        const burden = root.takesLarge ? null : judge.burden(source);
+        if (burden && burden.objects >= Limits.largeCount)
+            return burden.line > 0 ? qsTr("Line %1 makes it %2 items.").arg(burden.line).arg(inDigits(burden.objects))
+                                   : qsTr("It has %1 items.").arg(inDigits(burden.objects));
+        return burden && burden.characters >= Limits.largeDocument
+               ? qsTr("Its source has %1 characters.").arg(burden.characters) : "";
+    }
+
+    function inDigits(count) {
+        return count.toFixed(0);
     }
 
     // Makes the source the live document, in the frame. The first time it brings the frame.
@@ -140,9 +175,11 @@ QtObject {
     function reload(mapped) {
         const selected = selection.placesOf(selection.items);
         const layered = layers.places();
+        const large = largeness(CAPI.editedSourceCode());
         CAPI.generateEditor();
-        if (!live.load(CAPI.editedSourceCode(), CAPI.baseFolder(), frame.viewport)) {
-            sayFault(live.faults[0]);
+        if (large !== "" || !live.load(CAPI.editedSourceCode(), CAPI.baseFolder(), frame.viewport)) {
+            root.refusal = large !== "" ? { line: 0, message: qsTr("Too large: %1").arg(large) } : live.faults[0];
+            sayFault(root.refusal);
             return false;
         }
         frame.myfill = live.root;
@@ -161,7 +198,7 @@ QtObject {
         const source = mapped === undefined ? CAPI.editedSourceCode() : mapped;
         if (reload(source))
             return true;
-        const fault = live.faults[0];
+        const fault = root.refusal;
         CAPI.setSourceCode(before);
         reload(source);
         sayFault(fault);
@@ -270,17 +307,22 @@ QtObject {
             takeIn();
             return false;
         }
+        const isFolderGone = !CAPI.fileExist(".");
         if (!CAPI.writeToFile(source, "main.qml")) {
             say(qsTr("Not saved: the file cannot be written. Is the disk full, or the project protected?"));
             return false;
         }
+        Ejs.dirmap = isFolderGone ? { "main.qml": Ejs.dirmap["main.qml"] } : Ejs.dirmap;
         Ejs.dirmap["main.qml"] = (Ejs.dirmap["main.qml"] || 0) + 1;
         CAPI.updateDirmapFile(Ejs.dirmap);
         root.savedSource = source;
         root.isChanged = false;
         recovery.forget();
         takeStill();
-        tell("Saved local", "info", Limits.doneMessage);
+        if (isFolderGone)
+            say(qsTr("Saved. But the project's folder was gone, with its pictures and other files."));
+        else
+            tell("Saved local", "info", Limits.doneMessage);
         return true;
     }
 
@@ -380,6 +422,15 @@ QtObject {
 
     function isReorderable(item) {
         return ["row", "column", "grid", "flow", "layout"].indexOf(placingOf(item).by) >= 0;
+    }
+
+    readonly property Connections end: Connections {
+        target: Qt.application
+
+        function onAboutToQuit() {
+            root.settle();
+            root.recovery.flush();
+        }
     }
 
     readonly property Connections states: Connections {

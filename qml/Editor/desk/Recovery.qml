@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Qt.labs.folderlistmodel 2.15
-import "limits.js" as Limits
+import Nuvex.Native 1.1
 
 /// What the editor kept of changes that were not saved, when the program has ended without their being saved or given
 /// up: a file beside the document, into which CAPI.saveEditingState() writes now and then as well.
@@ -27,17 +27,19 @@ QtObject {
             times.createObject(root, { kept: kept });
     }
 
-    // Keeps `source`, which is not saved, when nothing follows for a moment.
+    // Keeps `source`, which is not saved, on disk soon.
     function keep(source) {
-        pause.source = source;
-        pause.restart();
+        copy.keep(source);
+    }
+
+    // Brings what is not on disk yet there, now: the program ends.
+    function flush() {
+        copy.flush();
     }
 
     // Nothing is to be recovered any more.
     function forget() {
-        pause.stop();
-        if (CAPI.fileExist(fileName))
-            CAPI.removeFile(fileName);
+        copy.remove();
     }
 
     function compare(files, kept) {
@@ -49,12 +51,7 @@ QtObject {
             found(kept, when);
     }
 
-    readonly property Timer pause: Timer {
-        property string source
-
-        interval: Limits.keepPause
-        onTriggered: CAPI.writeToFile(source, root.fileName)
-    }
+    readonly property SafetyCopy copy: SafetyCopy { path: root.fileName }
 
     readonly property Component times: Component {
         FolderListModel {

@@ -129,10 +129,27 @@ function at(map, position) {
     return map.find(record => record.pfirst === position && _isThere(record));
 }
 
-/// The records of the items in [beg, end), parents behind their children.
-function within(map, beg, end) {
-    return map.filter(record => record.pfirst >= beg && record.plast <= end && _isThere(record))
-              .sort((one, other) => one.plast - other.plast);
+/// The records of the items that are there, parents behind their children.
+function ordered(map) {
+    return map.filter(_isThere).sort((one, other) => one.plast - other.plast);
+}
+
+/// Of the records `ordered` those in [beg, end), which holds whole items.
+function within(ordered, beg, end) {
+    return ordered.slice(_countUpTo(ordered, beg), _countUpTo(ordered, end));
+}
+
+// Number of records that end at or before `position`.
+function _countUpTo(ordered, position) {
+    let [first, last] = [0, ordered.length];
+    while (first < last) {
+        const middle = (first + last) >> 1;
+        if (ordered[middle].plast <= position)
+            first = middle + 1;
+        else
+            last = middle;
+    }
+    return first;
 }
 
 /// The innermost item around all of `records`, one of them included.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 import Nuvex.Editor 1.0
+import Nuvex.Editor.desk 1.0
 import Nuvex.GUI 1.0 as BGUI
 
 /// The source of the selected item; of the whole document while that cannot be shown.
@@ -15,9 +16,14 @@ FocusScope {
     readonly property int end: record && desk.revision >= 0 ? record.plast : 0
     readonly property bool isChanged: area.text !== shown
     property string shown
+    // Whether the source can be laid out as text in a time that anyone would wait.
+    property bool isShown: true
 
     function show() {
-        shown = desk.fault ? CAPI.editedSourceCode() : CAPI.sourceCode(beg, end);
+        const source = desk.fault ? CAPI.editedSourceCode() : CAPI.sourceCode(beg, end);
+        isShown = source.length <= DeskLimits.longestSource
+                  && source.split("\n").every(line => line.length <= DeskLimits.longestLine);
+        shown = isShown ? source : "";
         area.text = shown;
         area.errorLine = desk.fault ? desk.fault.line : 0;
     }
@@ -82,7 +88,13 @@ FocusScope {
         anchors.margins: BGUI.Theme.unit
         anchors.topMargin: bar.height + 2 * BGUI.Theme.unit
         focus: true
-        enabled: root.record !== null || root.desk.fault !== null
+        enabled: root.isShown && (root.record !== null || root.desk.fault !== null)
+    }
+
+    BGUI.Label {
+        anchors.centerIn: parent
+        visible: !root.isShown
+        text: qsTr("This source, or a line of it, is too long to be shown as text.")
     }
 
     Rectangle {

@@ -5,12 +5,25 @@
 #include "tests/support/files.h"
 #include "tests/support/logcapture.h"
 
+#include <QCryptographicHash>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QQuickItem>
+#include <QSet>
 #include <QtTest>
 
+#include <cstdio>
 #include <random>
-#include <set>
+
+namespace {
+
+constexpr int reportedActions = 500;
+// A document that has grown to so many times its length begins anew: a few times "select all, duplicate"
+// makes any size.
+constexpr int largestGrowth = 12;
+
+} // namespace
 
 /// Random work in the editor on each demo. After each action the source can be shown and the item map is that
 /// of the source; undoing all of it leads through states that were there; the editor's own documents have no
@@ -29,8 +42,10 @@ private:
     Qt::KeyboardModifiers modifiers();
     QString act(EditorPage& page);
     void drag(QWindow& window);
+    void report(int action, EditorPage& page) const;
 
     std::mt19937 m_random;
+    QElapsedTimer m_time;
 };
 
 // What the desk is asked to do; %1 is a small number, %2 another one.
@@ -108,6 +123,17 @@ QString TestEditorMonkey::act(EditorPage& page)
     return "drag";
 }
 
+// How far a long run is, and whether anything grows.
+void TestEditorMonkey::report(int action, EditorPage& page) const
+{
+    QFile memory("/proc/self/statm");
+    const bool isThere = memory.open(QIODevice::ReadOnly);
+    const qint64 pages = isThere ? memory.readAll().split(' ')[1].toLongLong() : 0;
+    std::printf("%d actions, %lld s, %d characters, %d MiB\n", action, m_time.elapsed() / 1000,
+                page.capi().editedSourceCode().size(), int(pages / 256));
+    std::fflush(stdout);
+}
+
 void TestEditorMonkey::work()
 {
     QFETCH(QString, project);
@@ -115,24 +141,35 @@ void TestEditorMonkey::work()
     const int seed = qEnvironmentVariableIntValue("NUVEX_MONKEY_SEED");
     m_random.seed(unsigned(seed));
     const LogCapture log;
-    EditorPage page(QString::fromUtf8(contents(project + "/main.qml")), project);
+    const QString demo = QString::fromUtf8(contents(project + "/main.qml"));
+    EditorPage page(demo, project);
     QVERIFY(QTest::qWaitForWindowExposed(&page.window()));
     QVERIFY(page.isShown());
-    std::set<QString> states{page.capi().editedSourceCode()};
-    const QMetaObject::Connection recording = connect(&page.capi(), &CAPI::newerEditingState, this,
-                                                      [&] { states.insert(page.capi().editedSourceCode()); });
+    QVERIFY(page.capi().writeToFile(demo, "demo.txt"));
+    const auto state = [&] {
+        return QCryptographicHash::hash(page.capi().editedSourceCode().toUtf8(), QCryptographicHash::Sha1);
+    };
+    QSet<QByteArray> states{state()};
+    const QMetaObject::Connection recording =
+        connect(&page.capi(), &CAPI::newerEditingState, this, [&] { states.insert(state()); });
+    m_time.start();
     for (int i = 0; i < (actions > 0 ? actions : 60); ++i) {
+        if (i % reportedActions == 0)
+            report(i, page);
+        if (page.capi().editedSourceCode().size() > largestGrowth * demo.size())
+            page.run("desk.adopt(CAPI.readTextFile('demo.txt'))");
         const QString action = act(page);
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // as a running event loop does
         const QString disorder = page.disorder();
         QVERIFY2(disorder.isEmpty(), qPrintable(QString("%1: %2\n%3").arg(i).arg(action, disorder)));
     }
     page.run("desk.settle()");
     disconnect(recording);
-    states.erase(QString()); // an empty slot of the history: nobody ever sees it
+    states.remove(QCryptographicHash::hash({}, QCryptographicHash::Sha1)); // an empty slot: nobody sees it
     for (int i = 0; i < 25; ++i) {
         page.run("desk.undo()");
-        QVERIFY(states.count(page.capi().editedSourceCode()) > 0);
+        QVERIFY(states.contains(state()));
     }
     const QString told = log.messages().join('\n');
     QVERIFY2(!told.contains("qrc:/Nuvex/Editor") && !told.contains("qrc:/Nuvex/PlayerQML"), qPrintable(told));
