@@ -20,6 +20,8 @@ T.Button {
     property color color: onDark ? Theme.barInk : (isTile ? Theme.accent : Theme.ink)
 
     readonly property bool isTile: text !== ""
+    // A finger that has gone leaves its last place behind as if a mouse were there.
+    readonly property bool isPointedAt: hovered && !finger.wasHere
     readonly property color wash: onDark ? Theme.barInk : Theme.strongInk
 
     implicitWidth: isTile ? Math.max(9 * Theme.unit, implicitContentWidth + leftPadding + rightPadding)
@@ -31,6 +33,10 @@ T.Button {
     hoverEnabled: true
     Accessible.name: text || toolTip
 
+    onHoveredChanged: {
+        if (!hovered)
+            finger.wasHere = false;
+    }
     Keys.onPressed: event.accepted = busy && event.key === Qt.Key_Space
     Keys.onReturnPressed: Press.press(root, event)
     Keys.onEnterPressed: Press.press(root, event)
@@ -51,13 +57,13 @@ T.Button {
         radius: Theme.radius(root.size)
         color: root.isTile && !root.onDark ? Theme.surface : "transparent"
         border.width: root.isTile ? Math.max(1, dp) : 0
-        border.color: root.hovered ? Theme.accent : Theme.line
+        border.color: root.isPointedAt ? Theme.accent : Theme.line
 
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
             color: root.wash
-            opacity: root.down || root.checked ? 0.16 : (root.hovered ? 0.08 : 0)
+            opacity: root.down || root.checked ? 0.16 : (root.isPointedAt ? 0.08 : 0)
 
             Behavior on opacity {
                 NumberAnimation { duration: Theme.quick }
@@ -75,9 +81,16 @@ T.Button {
         control: root
     }
 
+    PointHandler {
+        id: finger
+        property bool wasHere: false
+        acceptedDevices: PointerDevice.TouchScreen
+        onActiveChanged: wasHere = true
+    }
+
     ToolTip {
         text: root.toolTip
-        visible: text !== "" && (root.hovered || root.visualFocus) && !root.down
+        visible: text !== "" && (root.isPointedAt || root.visualFocus) && !root.down
     }
 
     MouseArea {

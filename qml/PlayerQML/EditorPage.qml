@@ -51,6 +51,17 @@ StackPage {
         shell.push({ item: Qt.resolvedUrl("PropertyEditor.qml"), properties: { desk: desk }, immediate: true });
     }
 
+    function editItem() {
+        desk.settle();
+        if (desk.selection.items.length === 1)
+            shell.push({ item: Qt.resolvedUrl("ItemEditor.qml"), properties: { desk: desk }, immediate: true });
+    }
+
+    // The way to mend a document that cannot be shown; what is saved there is taken in when this page is back.
+    function editSource() {
+        shell.push({ item: shell.page("TextEditor"), properties: { path: "main.qml" }, immediate: true });
+    }
+
     objectName: "EditorPage"
     onActiveChanged: {
         if (!active)
@@ -131,6 +142,8 @@ StackPage {
         focus: true
         desk: desk
         emptyText: qsTr("Add a part with the plus at the top.")
+        onEntriesWanted: root.editItem()
+        onSourceWanted: root.editSource()
     }
 
     ItemBar {
@@ -138,6 +151,7 @@ StackPage {
         anchors.bottom: parent.bottom
         width: parent.width
         desk: desk
+        onEditWanted: root.editItem()
         onPropertiesWanted: root.editProperties()
         onFitted: canvas.fit()
     }
@@ -157,8 +171,14 @@ StackPage {
         onRejected: root.shell.pop()
     }
 
+    RecoveryQuestion {
+        desk: desk
+        project: CAPI.getBaseProjectName()
+    }
+
     LeaveQuestion {
         id: question
+        size: "large"
         project: CAPI.getBaseProjectName()
         onLeaveWanted: {
             desk.recovery.forget();

@@ -63,6 +63,7 @@ FormPage {
 
     LeaveQuestion {
         id: question
+        size: "large"
         project: root.property
         detail: qsTr("Without saving, the item stays as it is.")
         onLeaveWanted: root.shell.pop()

@@ -95,11 +95,20 @@ FormPage {
                 width: list.width
                 size: "large"
                 text: modelData
-                detail: root.firstLine(modelData)
+                Accessible.name: text + ", " + root.firstLine(modelData)
                 highlighted: ListView.isCurrentItem && list.activeFocus
                 onClicked: {
                     list.currentIndex = index;
                     root.edit(modelData);
+                }
+
+                BGUI.Label {
+                    width: Math.min(implicitWidth, list.width / 2)
+                    muted: true
+                    text: root.firstLine(modelData)
+                    textFormat: Text.PlainText
+                    wrapMode: Text.NoWrap
+                    elide: Text.ElideRight
                 }
             }
         }
@@ -120,6 +129,7 @@ FormPage {
 
     LeaveQuestion {
         id: question
+        size: "large"
         project: root.title
         detail: qsTr("Without saving, the item stays as it is.")
         onLeaveWanted: root.shell.pop()

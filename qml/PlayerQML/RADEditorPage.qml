@@ -7,7 +7,6 @@ import Nuvex.Editor.desk 1.0
 import Nuvex.Editor.workbench 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
-import "private/words.js" as Words
 import "SharedVars.js" as SS
 
 /// The editor for mouse and keyboard: palette at the left, canvas in the middle, properties at the right, the source
@@ -193,29 +192,9 @@ StackPage {
         }
     }
 
-    BGUI.MessageBox {
-        id: offer
-
-        property string kept
-        property string time
-
-        objectName: "recoveryQuestion"
-        title: qsTr("Take up what was not saved?")
-        text: qsTr("%1 has changes that were not saved when the program ended.").arg(toolbar.project)
-              + (time === "" ? "" : " " + qsTr("They were kept last on %1.").arg(time)) + " "
-              + qsTr("Undo takes them back.")
-        acceptText: qsTr("Take them up")
-        rejectText: qsTr("Not now")
-        onAccepted: desk.adopt(kept)
-    }
-
-    Connections {
-        target: desk.recovery
-
-        function onFound(source, when) {
-            [offer.kept, offer.time] = [source, Words.time(when)];
-            offer.open();
-        }
+    RecoveryQuestion {
+        desk: desk
+        project: toolbar.project
     }
 
     EditorKeys {

@@ -153,6 +153,7 @@ FormPage {
 
     LeaveQuestion {
         id: question
+        size: "large"
         project: root.path
         onLeaveWanted: root.shell.pop()
         onSaveWanted: {

@@ -149,11 +149,15 @@ class Program:
 
     def tree(self):
         """The probe's view of the window; {} while there is none."""
+        return self._ask("")
+
+    def _ask(self, touches):
         for place in self.probe.iterdir():
             try:
                 with socket.socket(socket.AF_UNIX) as connection:
                     connection.settimeout(DEADLINE)
                     connection.connect(str(place))
+                    connection.sendall(touches.encode() + b"\n")
                     with connection.makefile() as lines:
                         return json.loads(lines.readline())
             except (OSError, ValueError):
@@ -211,6 +215,30 @@ class Program:
         # Now left, now right of the middle, so that two clicks are never taken for a double click.
         self.nudge = -self.nudge
         self.screen.do("mousemove", round(x + width / 2) + self.nudge, round(y + height / 2), "click", 1)
+
+    def touch(self, *fingers):
+        """Fingers on the screen, each a list [x, y, state]; every finger that is down is named, in the same order."""
+        self._ask(json.dumps([[number, round(x), round(y), state] for number, (x, y, state) in enumerate(fingers)]))
+
+    def swipe(self, *ways):
+        """Moves a finger along each way, from its first to its last point; they land one after the other."""
+        steps = 8
+        for landed in range(len(ways)):
+            self.touch(*[[*start, "move"] for start, _ in ways[:landed]], [*ways[landed][0], "press"])
+            time.sleep(0.03)
+        for step in range(1, steps + 1):
+            self.touch(*[[*(a + (b - a) * step / steps for a, b in zip(start, end)), "move"] for start, end in ways])
+            time.sleep(0.03)
+        self.touch(*[[*end, "release"] for _, end in ways])
+
+    def tap(self, label):
+        """Taps with a finger on an item of that label, or on a point."""
+        if isinstance(label, str):
+            x, y, width, height = wait_for(lambda: self.find(label), lambda: f"'{label}' on {self.page()}")["rect"]
+            label = x + width / 2, y + height / 2
+        self.touch([*label, "press"])
+        time.sleep(0.05)
+        self.touch([*label, "release"])
 
     def key(self, *keys):
         self.screen.do("key", *keys)

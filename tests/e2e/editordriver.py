@@ -5,6 +5,7 @@
 import re
 import subprocess
 import time
+from pathlib import Path
 
 from driver import ProgramTest, wait_for
 
@@ -180,6 +181,17 @@ class EditorTest(ProgramTest):
         action()
         for key in keys:
             self.screen.do("keyup", key)
+
+    def drop(self, at, *files):
+        """Drags files from a file manager to a place of the window."""
+        source = subprocess.Popen([Path(self.setup.plugins) / "nuvex_dragsource", *files],
+                                  env={"DISPLAY": self.screen.name, "PATH": "/usr/bin"})
+        self.addCleanup(source.wait)
+        self.addCleanup(source.kill)
+        wait_for(lambda: self.pixel(30, 690) == "#FFFF00", "the file manager")
+        self.drag((30, 690), to=at)
+        wait_for(lambda: self.pixel(30, 690) != "#FFFF00", "the drop")
+        self.program.focus()
 
     def enter(self, field, text):
         """Puts a text in place of that in a field."""

@@ -3,10 +3,12 @@
 """A project's files as text, and the editor for touch: found, changed, refused, saved, played."""
 
 import sys
+from contextlib import ExitStack
 from pathlib import Path
 
-from driver import Program, ProgramTest, run_tests, wait_for
+from driver import Profile, Program, ProgramTest, Screen, run_tests, wait_for
 from editordriver import DOCUMENT, EditorTest
+from test_badinput import PNG
 
 sys.path.append(str(Path(__file__).resolve().parents[1] / "localcloud"))
 from cloud import Cloud  # noqa: E402
@@ -91,13 +93,13 @@ class SourcesTest(ProgramTest):
         self.assertIn("Café\n".encode("latin-1"), kept)
 
 
-class TouchEditorTest(EditorTest):
+class TouchPageTest(EditorTest):
     """The document on the editor page of a device, which a command from the cloud opens on this computer."""
 
-    def open(self):
+    def open(self, document=DOCUMENT):
         cloud = Cloud(self.setup.localcloud)
         self.addCleanup(cloud.stop)
-        self.folder = self.profile.add_project("Shop", DOCUMENT)
+        self.folder = self.profile.add_project("Shop", document)
         self.profile.write_settings(userEmail="ann.b@example.org", playerUID="west_12", doOnStart="",
                                     lastProject="Shop", shareFolder="false")
         self.program = Program(self.setup, self.screen, self.profile,
@@ -109,6 +111,8 @@ class TouchEditorTest(EditorTest):
         self.program.wait_page("EditorPage")
         return self.program
 
+
+class TouchEditorTest(TouchPageTest):
     def edit(self, *steps):
         """Presses what leads to a text, and waits for it."""
         for step in steps:
@@ -188,6 +192,90 @@ class TouchEditorTest(EditorTest):
         program.click("fa-arrow-left")
         program.wait_page("MainPage")
         self.assert_clean()
+
+
+class FingersTest(TouchPageTest):
+    """The same pages by touch alone, on a screen that lies and on one that stands."""
+
+    def tap(self, *labels):
+        """Taps as far beside the middle of each as a target of 44 px reaches."""
+        for label in labels:
+            x, y, width, height = wait_for(lambda: self.program.find(label), label)["rect"]
+            self.assertTrue(x >= 0 and y >= 0 and x + width <= self.size[0] and y + height <= self.size[1], label)
+            self.program.tap((x + width / 2, y + height / 2 + 21))
+
+    def test_by_fingers(self):
+        for self.size in (1280, 720), (1080, 1920):
+            with self.subTest(self.size), ExitStack() as stack:
+                self.screen = Screen("%dx%d" % self.size)
+                stack.callback(self.screen.close)
+                self.profile = Profile()
+                stack.callback(self.profile.remove)
+                self.open()
+                stack.callback(self.program.close)
+                self.edit_by_fingers(self.program)
+
+    def edit_by_fingers(self, program):
+        page = self.rect("page")
+        x, y = self.centre("red")  # the first finger lands on an item, which is not moved
+        program.swipe(((x, y), (x - 50, y - 20)), ((x + 100, y), (x + 150, y + 20)))
+        wait_for(lambda: self.rect("page")[2] > 1.5 * page[2], "a larger page")
+        self.tap("Whole page")
+        wait_for(lambda: self.rect("page") == page, "the whole page")
+        program.tap("red")
+        self.wait_selected("red")
+        scale = page[2] / 600
+        at = self.centre("red")
+        program.swipe((at, (at[0] + 60 * scale, at[1] + 233 * scale)))
+        wait_for(lambda: self.place("red")[1] > 250 * scale, "its new place")
+        self.tap("Save")
+        wait_for(lambda: self.revision() == 1, "the saved revision")
+        self.assertLess(abs(int(self.values("red", "x")[0]) - 80) + abs(int(self.values("red", "y")[0]) - 263), 12)
+        self.tap("Undo")
+        self.assertNotIn("Undo", program.texts())  # no hint stays where the finger was
+
+        program.tap("words")
+        self.tap("Edit")
+        program.wait_page("ItemEditor")
+        program.tap("Soup")
+        program.key("ctrl+a")
+        program.type("Stew")
+        self.tap("Back")
+        program.wait_page("EditorPage")
+        self.wait_selected("words")
+        self.tap("Save")
+        wait_for(lambda: self.revision() == 2, "the saved revision")
+        self.assertEqual(self.source(), DOCUMENT.replace("Soup", "Stew"))
+
+        picture = self.profile.folder / "dot.png"
+        picture.write_bytes(PNG)
+        self.drop((page[0] + 500 * scale, page[1] + 250 * scale), picture)
+        wait_for(lambda: self.selected() == "BasicImage", "the picture")
+        self.assertIn("images/dot.png 1", (self.folder / "dirmap").read_text())
+        self.tap("Delete", "Properties")
+        program.wait_page("PropertyEditor")
+        program.tap("color")
+        program.wait_page("PropertyCodeEditor")
+        self.tap("Back")
+        program.wait_page("PropertyEditor")
+        self.tap("Back")
+        program.wait_page("EditorPage")
+        self.tap("Back", "Do not save")
+        program.wait_page("MainPage")
+        self.assert_clean()
+
+    def test_mending_a_document(self):
+        self.size = 1280, 720
+        program = self.open("import QtQuick 2.15\nRectangle { width: }\n")
+        self.tap("Open the source")
+        program.wait_page("TextEditor")
+        program.key("ctrl+End", "Up", "End", "Left")
+        program.type("7; height: 7 ")
+        self.tap("Save")
+        wait_for(lambda: self.revision() == 1, "the saved revision")
+        self.tap("Back")
+        program.wait_page("EditorPage")
+        wait_for(lambda: program.find("emptyHint"), "the page that is mended")
 
 
 if __name__ == "__main__":

@@ -263,16 +263,6 @@ class DesktopEditorTest(EditorTest):
         self.program.wait_text("Only pictures and videos can be put on the page.")
         self.assertEqual(sorted(p.name for p in (self.folder / "images").iterdir()), ["blue dot-2.png", "blue dot.png"])
 
-    def drop(self, at, *files):
-        source = subprocess.Popen([Path(self.setup.plugins) / "nuvex_dragsource", *files],
-                                  env={"DISPLAY": self.screen.name, "PATH": "/usr/bin"})
-        self.addCleanup(source.wait)
-        self.addCleanup(source.kill)
-        wait_for(lambda: self.pixel(30, 690) == "#FFFF00", "the file manager")
-        self.drag((30, 690), to=at)
-        wait_for(lambda: self.pixel(30, 690) != "#FFFF00", "the drop")
-        self.program.focus()
-
     def test_items_that_are_placed(self):
         program = self.open()
         self.select("first")

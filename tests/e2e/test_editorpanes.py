@@ -3,8 +3,6 @@
 # SPDX-License-Identifier: MIT
 """The panes around the canvas: list of items, media, colours, what is worked out, menus as tables, slides."""
 
-import subprocess
-from pathlib import Path
 
 from driver import run_tests, wait_for
 from editordriver import DOCUMENT, EditorTest
@@ -150,7 +148,9 @@ class EditorPanesTest(EditorTest):
         program.click("Media")
         program.wait_text("No pictures or videos yet")
         for name in ("dot.png", "spot.png"):
-            self.drop_file(self.centre("addFile"), name)
+            file = self.profile.folder / name
+            file.write_bytes(PNG)
+            self.drop(self.centre("addFile"), file)
             wait_for(lambda: program.find(f"media images/{name}"), name)
             self.assertIn(f"images/{name} 1", (self.folder / "dirmap").read_text())
         self.assertEqual((self.folder / "images/dot.png").read_bytes(), PNG)
@@ -165,18 +165,6 @@ class EditorPanesTest(EditorTest):
         self.assertEqual(self.source(), source.replace("dot.png", "spot.png"))
         program.key("ctrl+z", "ctrl+z")
         self.assertEqual(self.saved(), DOCUMENT)
-
-    def drop_file(self, at, name):
-        file = self.profile.folder / name
-        file.write_bytes(PNG)
-        source = subprocess.Popen([Path(self.setup.plugins) / "nuvex_dragsource", file],
-                                  env={"DISPLAY": self.screen.name, "PATH": "/usr/bin"})
-        self.addCleanup(source.wait)
-        self.addCleanup(source.kill)
-        wait_for(lambda: self.pixel(30, 690) == "#FFFF00", "the file manager")
-        self.drag((30, 690), to=at)
-        wait_for(lambda: self.pixel(30, 690) != "#FFFF00", "the drop")
-        self.program.focus()
 
     def test_colours_and_bindings(self):
         program = self.open()

@@ -17,6 +17,8 @@ MouseArea {
 
     property point from
     property bool wasDragged: false
+    // Whether what is pressed is the second of two clicks: it opens, unless it becomes a drag.
+    property bool isSecond: false
 
     // Ends a drag as if it had not been.
     function cancel() {
@@ -52,6 +54,7 @@ MouseArea {
     onPressed: {
         from = Qt.point(mouse.x, mouse.y);
         wasDragged = false;
+        isSecond = false;
     }
     onPositionChanged: {
         if (!running && !wasDragged && isFar(mouse)) {
@@ -66,13 +69,15 @@ MouseArea {
         running = null;
         if (ended)
             ended.end();
+        else if (isSecond && !wasDragged)
+            frame.itemToOpen(mouse);
     }
     onCanceled: cancel()
     onClicked: {
         if (!wasDragged)
             frame.itemsToEdit(mouse);
     }
-    onDoubleClicked: frame.itemToOpen(mouse)
+    onDoubleClicked: isSecond = true
     onWheel: viewport.zoomBy(wheel.angleDelta.y / 120, wheel.x, wheel.y)
 
     PanDrag {

@@ -3,7 +3,8 @@
 import QtQuick 2.15
 import Nuvex.GUI 1.0 as BGUI
 
-/// Says something in the middle of the canvas where there is nothing else to see. It lets the mouse through.
+/// Says something in the middle of the canvas where there is nothing else to see. It lets the mouse through,
+/// save for buttons declared inside.
 Rectangle {
     id: root
 
@@ -11,6 +12,7 @@ Rectangle {
     property alias title: state.title
     property alias text: state.text
     property alias isError: state.isError
+    default property alias actions: state.actions
 
     anchors.centerIn: parent
     width: Math.min(parent.width - 2 * BGUI.Theme.unit, 50 * BGUI.Theme.unit)

@@ -14,6 +14,8 @@ FocusScope {
 
     /// An item that is no text was double-clicked: what it lists is to be edited.
     signal entriesWanted()
+    /// The document cannot be shown, and its text is to be mended.
+    signal sourceWanted()
 
     readonly property alias frameHost: host
     readonly property Item frame: host.item
@@ -134,6 +136,13 @@ FocusScope {
         faIcon: "fa-exclamation-triangle"
         title: qsTr("The document cannot be shown")
         text: !fault ? "" : fault.line > 0 ? qsTr("Line %1: %2").arg(fault.line).arg(fault.message) : fault.message
+
+        BGUI.Button {
+            visible: root.desk.forTouch
+            size: "large"
+            text: qsTr("Open the source")
+            onClicked: root.sourceWanted()
+        }
     }
 
     ItemMenu {

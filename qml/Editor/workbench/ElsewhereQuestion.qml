@@ -18,6 +18,7 @@ BGUI.MessageBox {
     title: qsTr("Changed elsewhere")
     text: qsTr("The document has been changed outside of this editor, and what is here is not saved. Saving would put"
                + " what is here in its place. When you take the other, Undo brings back what is here.")
+    size: desk && desk.forTouch ? "large" : "base"
     type: "danger"
     acceptText: qsTr("Take the other")
     rejectText: qsTr("Keep what is here")

@@ -10,7 +10,7 @@ Item {
     id: root
 
     property var desk
-    property bool radEditor: true
+    property bool radEditor: !desk.forTouch
 
     PanelForm {
         id: form

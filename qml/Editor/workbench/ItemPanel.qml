@@ -33,7 +33,7 @@ Item {
         id: own
         anchors.fill: parent
         sourceComponent: root.hasPanel ? root.item.editor : null
-        onLoaded: item.radEditor = true
+        onLoaded: item.radEditor = !root.desk.forTouch
     }
 
     // A panel stays with its item: another item gets another one.

@@ -10,6 +10,7 @@ BGUI.ModalPopup {
 
     property string project
     property alias detail: detail.text
+    property string size: "base"
 
     signal saveWanted()
     signal leaveWanted()
@@ -44,6 +45,7 @@ BGUI.ModalPopup {
         BGUI.Label {
             id: detail
             width: parent.width
+            size: root.size
             text: qsTr("Without saving, the project stays as it was saved last.")
         }
 
@@ -53,17 +55,20 @@ BGUI.ModalPopup {
             spacing: BGUI.Theme.unit
 
             BGUI.Button {
+                size: root.size
                 text: qsTr("Stay")
                 onClicked: root.close()
             }
 
             BGUI.Button {
+                size: root.size
                 text: qsTr("Do not save")
                 onClicked: root.choose(root.leaveWanted)
             }
 
             BGUI.Button {
                 id: save
+                size: root.size
                 type: "primary"
                 text: qsTr("Save and leave")
                 onClicked: root.choose(root.saveWanted)

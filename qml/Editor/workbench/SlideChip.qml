@@ -16,7 +16,7 @@ T.AbstractButton {
     readonly property real seconds: slide ? slide.duration / 1000 : 0
 
     objectName: "slide %1".arg(place + 1)
-    implicitWidth: 9 * BGUI.Theme.unit
+    implicitWidth: Math.max(9 * BGUI.Theme.unit, implicitContentWidth + 2 * BGUI.Theme.unit)
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     text: qsTr("%1 · %2 s").arg(place + 1).arg(Math.round(10 * seconds) / 10)

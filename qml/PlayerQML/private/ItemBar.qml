@@ -12,6 +12,7 @@ Rectangle {
     readonly property int count: desk.selection.items.length
     readonly property bool hasMovable: desk.selection.movable.length > 0
 
+    signal editWanted()
     signal propertiesWanted()
     signal fitted()
 
@@ -88,6 +89,15 @@ Rectangle {
             toolTip: qsTr("Delete")
             enabled: root.hasMovable
             onClicked: root.desk.insertion.remove()
+        }
+
+        BGUI.Button {
+            anchors.verticalCenter: parent.verticalCenter
+            size: "large"
+            faIcon: "fa-pencil"
+            text: qsTr("Edit")
+            enabled: root.count === 1
+            onClicked: root.editWanted()
         }
 
         BGUI.Button {

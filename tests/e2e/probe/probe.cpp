@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 
+#include "fingers.h"
 #include "tree.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,8 @@
 
 /// Lets a test see what the unchanged program shows: a generic platform plugin that the environment loads
 /// (QT_QPA_GENERIC_PLUGINS=probe). It serves a local socket in the folder NUVEX_PROBE, named by the process,
-/// and answers each connection with windowTree() as one line. It only looks; clicks and keys come from the X
-/// server.
+/// takes one line a connection, the touches to be made (an empty line for none), and answers with windowTree()
+/// as one line. Clicks and keys come from the X server, which has no fingers.
 class ProbePlugin : public QGenericPlugin
 {
     Q_OBJECT
@@ -30,18 +31,20 @@ public:
     }
 
 private:
-    static void listen(QLocalServer& server, const QString& name)
-    {
-        server.close();
-        QLocalServer::removeServer(name);
-        server.listen(name);
-    }
-
     static void answer(QLocalSocket* socket)
     {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        socket->write(windowTree() + '\n');
-        socket->disconnectFromServer();
+        connect(socket, &QLocalSocket::readyRead, socket, [socket] { carryOut(*socket); });
+    }
+
+    static void carryOut(QLocalSocket& socket)
+    {
+        if (!socket.canReadLine())
+            return;
+        if (const QByteArray touches = socket.readLine().trimmed(); !touches.isEmpty())
+            touchWindow(touches);
+        socket.write(windowTree() + '\n');
+        socket.disconnectFromServer();
     }
 };
 
