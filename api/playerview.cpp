@@ -35,7 +35,9 @@ void PlayerView::forgetCompiled() const
     if (!m_view)
         return;
     QObject* root = m_view->rootObject();
-    if (root && root->metaObject()->indexOfMethod("keepPages()") >= 0)
-        QMetaObject::invokeMethod(root, "keepPages");
-    m_view->engine()->clearComponentCache();
+    QVariant mayForget = true;
+    if (root && root->metaObject()->indexOfMethod("prepareForgetting()") >= 0)
+        QMetaObject::invokeMethod(root, "prepareForgetting", Q_RETURN_ARG(QVariant, mayForget));
+    if (mayForget.toBool())
+        m_view->engine()->clearComponentCache();
 }

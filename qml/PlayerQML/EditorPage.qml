@@ -6,7 +6,6 @@ import Nuvex.Editor.desk 1.0
 import Nuvex.Editor.workbench 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
-import "SharedVars.js" as SS
 
 /// The editor for touch: the canvas, what is done most above it, what can be done to the selected item below.
 /// Properties and source are edited on pages of their own, which get this page's desk.
@@ -38,12 +37,8 @@ StackPage {
 
     function play() {
         const file = desk.preparePlay();
-        if (file === "")
-            return;
-        SS.qmlFileName = file;
-        CAPI.trimComponentCache();
-        shell.open("PlayerPage");
-        SS.isPlaying = true;
+        if (file !== "")
+            shell.playDocument(file);
     }
 
     function editProperties() {
@@ -66,8 +61,7 @@ StackPage {
     onActiveChanged: {
         if (!active)
             return;
-        SS.isPlaying = false;
-        SS.qmlFileName = CAPI.editorVersion();
+        shell.stopPlaying();
         canvas.takeKeyboard();
     }
     Component.onCompleted: desk.open()

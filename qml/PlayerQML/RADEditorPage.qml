@@ -7,7 +7,6 @@ import Nuvex.Editor.desk 1.0
 import Nuvex.Editor.workbench 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
-import "SharedVars.js" as SS
 
 /// The editor for mouse and keyboard: palette at the left, canvas in the middle, properties at the right, the source
 /// below, one toolbar above. What is done to the document stands in its desk.
@@ -52,20 +51,15 @@ StackPage {
 
     function play() {
         const file = desk.preparePlay();
-        if (file === "")
-            return;
-        SS.qmlFileName = file;
-        CAPI.trimComponentCache();
-        shell.open("PlayerPage");
-        SS.isPlaying = true;
+        if (file !== "")
+            shell.playDocument(file);
     }
 
     objectName: "RADEditorPage"
     onActiveChanged: {
         if (!active)
             return;
-        SS.isPlaying = false;
-        SS.qmlFileName = CAPI.editorVersion();
+        shell.stopPlaying();
         CAPI.setFullScreen(false);
         canvas.takeKeyboard();
     }

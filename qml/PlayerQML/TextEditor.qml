@@ -4,7 +4,6 @@ import QtQuick 2.15
 import Nuvex.Editor.workbench 1.0
 import Nuvex.GUI 1.0 as BGUI
 import "private"
-import "SharedVars.js" as SS
 
 /// A source file of the project as text: edited, searched, saved, played.
 FormPage {
@@ -44,10 +43,7 @@ FormPage {
     function test() {
         if (isChanged && !save())
             return;
-        SS.qmlFileName = path;
-        CAPI.trimComponentCache();
-        shell.open("PlayerPage");
-        SS.isPlaying = true;
+        shell.playDocument(path);
     }
 
     objectName: "TextEditor"
@@ -57,7 +53,7 @@ FormPage {
     onActiveChanged: {
         if (!active)
             return;
-        SS.isPlaying = false;
+        shell.stopPlaying();
         CAPI.setFullScreen(CAPI.isDevice());
         area.forceActiveFocus();
     }

@@ -25,6 +25,12 @@ StackView {
     // The pages that were compiled, by name. They are kept: when the engine forgets what it has compiled, as at each
     // update of a project, a page that is compiled anew has another SharedVars.js than those that are open.
     readonly property var pages: ({})
+    // Not kept: they share a script with the panels that a document's components bring, which are always of today.
+    readonly property var editors: ["EditorPage", "RADEditorPage"]
+    // Whether a page is being made, which may run a document's scripts.
+    property bool isOpening: false
+    // Whether the engine forgets as soon as it may.
+    property bool forgetsLater: false
 
     function page(name) {
         if (!pages[name])
@@ -32,10 +38,21 @@ StackView {
         return pages[name];
     }
 
-    // Compiles all pages that use SharedVars.js.
-    function keepPages() {
-        ["ConnectedPlayers", "EditorPage", "LoginPage", "PlayerPage", "ProjectsPage", "RADEditorPage", "TextEditor"]
-            .forEach(page);
+    function mayForget() {
+        return !isOpening && find(page => editors.indexOf(page.objectName) >= 0) === null;
+    }
+
+    // Whether the engine may forget now what it has compiled; else it does when that may be. Compiles all pages that
+    // use SharedVars.js.
+    function prepareForgetting() {
+        forgetsLater = !mayForget();
+        ["ConnectedPlayers", "LoginPage", "PlayerPage", "ProjectsPage"].forEach(page);
+        return !forgetsLater;
+    }
+
+    function forgetIfDue() {
+        if (forgetsLater && mayForget())
+            CAPI.clearComponentCache();
     }
 
     // Runs a script in this scope: remote commands reach SS, CAPI and the stack by their names.
@@ -47,14 +64,29 @@ StackView {
     function open(name) {
         if (currentItem.objectName === name)
             return currentItem;
-        return push({"item": page(name), "immediate": true});
+        const item = editors.indexOf(name) >= 0 ? Qt.resolvedUrl(name + ".qml") : page(name);
+        isOpening = true;
+        push({"item": item, "immediate": true});
+        isOpening = false;
+        return currentItem;
     }
 
-    function play() {
-        SS.qmlFileName = "main.qml";
+    // Plays a document of the project.
+    function playDocument(document) {
+        SS.qmlFileName = document;
         CAPI.trimComponentCache();
         open("PlayerPage");
         SS.isPlaying = true;
+    }
+
+    // A page that edits is shown again.
+    function stopPlaying() {
+        SS.isPlaying = false;
+        SS.qmlFileName = CAPI.editorVersion();
+    }
+
+    function play() {
+        playDocument("main.qml");
     }
 
     function edit() {
@@ -104,7 +136,10 @@ StackView {
     initialItem: Qt.resolvedUrl("./MainPage.qml")
     delegate: StackViewDelegate {}
 
-    onCurrentItemChanged: console.info(log, "page", currentItem ? currentItem.objectName : "none")
+    onCurrentItemChanged: {
+        console.info(log, "page", currentItem ? currentItem.objectName : "none");
+        Qt.callLater(forgetIfDue);
+    }
 
     Component.onCompleted: {
         const user = CAPI.getSSetting("userEmail");

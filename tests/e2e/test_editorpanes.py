@@ -80,6 +80,20 @@ Rectangle {
 """
 
 
+# What an update does to what plays.
+UPDATE = """
+    Timer {
+        interval: 50
+        running: CAPI.getSSetting("isUpdated") === ""
+        onTriggered: {
+            CAPI.setSetting("isUpdated", "1");
+            CAPI.clearComponentCache();
+            CAPI.reloadPlayer();
+        }
+    }
+"""
+
+
 class EditorPanesTest(EditorTest):
     def hover(self, name):
         self.screen.do("mousemove", *self.centre(name))
@@ -228,6 +242,21 @@ class EditorPanesTest(EditorTest):
         for _ in range(6):  # the price, the new entry, its name and price, the turn, the end of the soup
             program.key("ctrl+z")
         self.assertEqual(self.saved(), MENU)
+
+    def test_panel_after_an_update(self):
+        """The editor and the panels of what is compiled after an update have one script."""
+        self.profile.add_project("Shop", MENU.replace("    CartaMenu", UPDATE + "    CartaMenu"))
+        self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", doOnStart="play",
+                                    lastProject="Shop", shareFolder="false")
+        program = self.program = self.start()
+        wait_for(lambda: program.log().count("plays file") == 2, "the update")
+        program.key("Escape")
+        program.wait_page("MainPage")
+        program.click("Edit")
+        program.wait_page("RADEditorPage")
+        self.select("menu")
+        wait_for(lambda: "All in a table" in program.texts(), lambda: f"the entries in {program.texts()}")
+        self.assert_clean()
 
     def test_slides(self):
         program = self.open(SLIDES)
