@@ -21,8 +21,8 @@ public:
     /// files are read anew. Whoever calls has it loaded again.
     void unload() const;
     /// Makes the QML engine forget compiled documents. The shell's pages are compiled before and kept: those
-    /// that came later would have scripts, and what is shared by them, of their own. While an editor is open it
-    /// waits until that is left.
+    /// that came later would have scripts, and what is shared by them, of their own. While an editor is open
+    /// it waits until that is left.
     void forgetCompiled() const;
 
 private:

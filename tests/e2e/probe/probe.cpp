@@ -12,8 +12,8 @@
 
 /// Lets a test see what the unchanged program shows: a generic platform plugin that the environment loads
 /// (QT_QPA_GENERIC_PLUGINS=probe). It serves a local socket in the folder NUVEX_PROBE, named by the process,
-/// takes one line a connection, the touches to be made (an empty line for none), and answers with windowTree()
-/// as one line. Clicks and keys come from the X server, which has no fingers.
+/// takes one line a connection, the touches to be made (an empty line for none), and answers with
+/// windowTree() as one line. Clicks and keys come from the X server, which has no fingers.
 class ProbePlugin : public QGenericPlugin
 {
     Q_OBJECT
