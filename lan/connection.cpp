@@ -224,6 +224,8 @@ void Connection::takeName(const QString& name)
     if (!m_owner->peerName().isEmpty())
         return;
     m_deadline.stop();
+    if (mayLog())
+        qCInfo(lcLan).noquote() << "Connected to" << name << "at" << m_owner->hostAddress().toString();
     m_owner->setPeerName(name);
 }
 

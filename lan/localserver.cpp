@@ -34,7 +34,9 @@ LocalServer::LocalServer(LanHost& host, const QString& playerName,
     , m_name(playerName)
 {
     WorkFolder::clean(host.workDirectory());
-    if (!listen())
+    if (listen())
+        qCInfo(lcLan).noquote() << playerName << "can be reached at TCP port" << serverPort();
+    else
         qCWarning(lcLan) << "No players can connect:" << errorString();
     m_peerManager = new PeerManager(this, broadcastAddresses);
     m_peerManager->start();
@@ -99,7 +101,10 @@ void LocalServer::removeConnection(ThreadConnection* connection)
                                     [connection](const auto& c) { return c.get() == connection; });
     if (found == m_connections.rend())
         return;
-    m_host.connectionFinished(connection->peerName());
+    const QString name = connection->peerName();
+    if (!name.isEmpty() && m_log.admits(connection->hostAddress()))
+        qCInfo(lcLan).noquote() << name << "has gone";
+    m_host.connectionFinished(name);
     m_connections.erase(std::next(found).base());
 }
 

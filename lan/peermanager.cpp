@@ -20,6 +20,8 @@ PeerManager::PeerManager(LocalServer* owner, const QList<QHostAddress>& broadcas
     if (!m_broadcastSocket.bind(QHostAddress::Any, announcementPort,
                                 QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint))
         qCWarning(lcLan) << "No announcements can be received:" << m_broadcastSocket.errorString();
+    for (const QHostAddress& address : broadcastAddresses)
+        qCInfo(lcLan).noquote() << "Announced to" << address.toString() << "at UDP port" << announcementPort;
     connect(&m_broadcastSocket, &QUdpSocket::readyRead, this, &PeerManager::readBroadcastDatagram);
     m_broadcastTimer.setInterval(limits::announceInterval);
     connect(&m_broadcastTimer, &QTimer::timeout, this, &PeerManager::sendBroadcastDatagram);

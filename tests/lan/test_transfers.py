@@ -267,7 +267,7 @@ class Transfers(unittest.TestCase):
         self.assertIn('127.0.0.7 asks for "../y"', log)
         self.assertEqual(log.count("No conected"), 20)
         self.assertIn("127.0.0.2 - 280 lines left out", log)
-        self.assertIn("127.0.0.9 - 980 lines left out", log)
+        self.assertIn("127.0.0.9 - 1180 lines left out", log)
 
     def test_what_is_no_protocol_ends_that_connection_only(self):
         player = self.start("A")

@@ -25,8 +25,8 @@ Item {
     }
     readonly property var texts: ({
         "offline": ["fa-cloud", qsTr("No cloud is set up"),
-            qsTr("Start Nuvex with a deployment file to see the players of an account here: nuvex --deployment FILE. "
-                 + "Players of the local network are shown below without one.")],
+            qsTr("The players of an account are shown here once a deployment file names a cloud: "
+                 + "nuvex --deployment FILE. Players of the local network are shown below without one.")],
         "signedOut": ["fa-user", qsTr("Nobody is signed in"),
             qsTr("Sign in to see the players of your account.")],
         "failed": ["fa-chain-broken", qsTr("The players could not be read"),
