@@ -12,20 +12,16 @@
 #include <QQmlEngine>
 #include <QtTest>
 
+#include <array>
+
 /// What the dashboard makes of the database's answers, its clock, and the addresses of screenshots.
 class TestDashboard : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void answers_data();
-    void answers();
-    void ages_data();
-    void ages();
-    void labels_data();
-    void labels();
-    void arranged_data();
-    void arranged();
+    void playersScript_data();
+    void playersScript();
     void clockHoldsWhileTheTimerHurries();
     void screenshotIsSignedOffTheThread();
 
@@ -48,115 +44,59 @@ QString TestDashboard::run(const QString& code)
     return result.toString().replace('"', '\'');
 }
 
-void TestDashboard::answers_data()
+void TestDashboard::playersScript_data()
 {
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QString>("player");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("result");
+    // Of each row its name, what the code is about, and what comes out.
+    const auto rows = [](const QString& code, const std::vector<std::array<const char*, 3>>& table) {
+        for (const auto& [name, subject, result] : table)
+            QTest::newRow(name) << code.arg(subject)
+                                << QString(result).replace("NEVER",
+                                                           "'heartbeat':0,'project':'','revision':''");
+    };
 
-    const QString silent = ",'heartbeat':0,'project':'','revision':''";
-    QTest::newRow("whole")
-        << "{'a b_c_12': {heartbeat: 5, project: 'Shop', revision: 3, version: 3}}"
-        << "[{'playerName':'a b','playerId':'12','heartbeat':5,'project':'Shop','revision':'3','player':"
-           "'a b_c_12'}]";
-    QTest::newRow("no underscore") << "{west: {}}"
-                                   << "[{'playerName':'west','playerId':'west'" + silent +
-                                          ",'player':'west'}]";
-    QTest::newRow("damaged") << "{'a_1': 7}"
-                             << "[{'playerName':'a','playerId':'1'" + silent + ",'player':'a_1'}]";
-    QTest::newRow("damaged members") << "{'a_1': {heartbeat: 'x', project: [2]}}"
-                                     << "[{'playerName':'a','playerId':'1'" + silent + ",'player':'a_1'}]";
-    QTest::newRow("none") << "null"
-                          << "[]";
+    rows("Players.playersOf(%1)",
+         {{"whole", "{'a b_c_12': {heartbeat: 5, project: 'Shop', revision: 3, version: 3}}",
+           "[{'playerName':'a b','playerId':'12','heartbeat':5,'project':'Shop','revision':'3','player':'a "
+           "b_c_12'}]"},
+          {"no underscore", "{west: {}}", "[{'playerName':'west','playerId':'west',NEVER,'player':'west'}]"},
+          {"damaged", "{'a_1': 7}", "[{'playerName':'a','playerId':'1',NEVER,'player':'a_1'}]"},
+          {"damaged members", "{'a_1': {heartbeat: 'x', project: [2]}}",
+           "[{'playerName':'a','playerId':'1',NEVER,'player':'a_1'}]"},
+          {"none", "null", "[]"}});
+    rows("[Players.age(1e12 - 1000 * %1, 1e12), Players.color(1e12 - 1000 * %1, 1e12)]",
+         {{"clock ahead", "-5", "['0s','#2DB651']"},
+          {"seconds", "59.4", "['59s','#2DB651']"},
+          {"a minute", "59.5", "['1m','#2DB651']"},
+          {"last live", "179.999", "['3m','#2DB651']"},
+          {"first silent", "180", "['3m','red']"},
+          {"an hour", "3600", "['1h','red']"},
+          {"a day", "86400", "['1d','red']"},
+          {"days", "10.6 * 86400", "['11d','red']"}});
+    rows("Players.labelled([%1].map(key => Players.playerOf(key, {}))).map(player => player.label + ':' + "
+         "player.host)",
+         {{"alone", "'a_1', 'b_1'", "['a:','b:']"},
+          {"namesakes", "'a_1764000360417', 'a_1764000000417', 'b_1'",
+           "['Player 60417:a','Player 00417:a','b:']"},
+          {"by what is in the middle", "'a_left_7', 'a_right_7'", "['Player left_7:a','Player right_7:a']"},
+          {"short ones", "'a_12', 'a_012', '__proto__'", "['Player 12:a','Player 012:a',':']"}});
+    rows("((filter, show, bySilence) => Players.arranged(Players.named(Players.playersOf({'c_4': {heartbeat: "
+         "1e6}, "
+         "'b10_3': {heartbeat: 2e6, project: 'Shop'}, 'B2_2': {heartbeat: 9.9e6, project: 'shop'}, "
+         "'b1_1': {heartbeat: 9.99e6}}), filter), show, bySilence, 1e7))(%1).map(p => p.player)",
+         {{"by name, numbers by value", "'', 0, false", "['b1_1','B2_2','b10_3','c_4']"},
+          {"longest silent first, the live by name", "'', 0, true", "['c_4','b10_3','b1_1','B2_2']"},
+          {"live", "'', 1, true", "['b1_1','B2_2']"},
+          {"silent", "'', 2, false", "['b10_3','c_4']"},
+          {"words of name and project, in any case", "' shop  B', 0, false", "['B2_2','b10_3']"},
+          {"nobody", "'[', 0, false", "[]"}});
 }
 
-void TestDashboard::answers()
+void TestDashboard::playersScript()
 {
-    QFETCH(QString, answer);
-    QTEST(run("Players.playersOf(" + answer + ")"), "player");
-}
-
-void TestDashboard::ages_data()
-{
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<QString>("age");
-    QTest::addColumn<QString>("color");
-
-    const QString green = "#2DB651";
-    QTest::newRow("clock ahead") << -5.0 << "0s" << green;
-    QTest::newRow("seconds") << 59.4 << "59s" << green;
-    QTest::newRow("a minute") << 59.5 << "1m" << green;
-    QTest::newRow("last live") << 179.999 << "3m" << green;
-    QTest::newRow("first silent") << 180.0 << "3m"
-                                  << "red";
-    QTest::newRow("an hour") << 3600.0 << "1h"
-                             << "red";
-    QTest::newRow("a day") << 86400.0 << "1d"
-                           << "red";
-    QTest::newRow("days") << 10.6 * 86400 << "11d"
-                          << "red";
-}
-
-void TestDashboard::ages()
-{
-    QFETCH(double, seconds);
-    const QString heard = QString("1e12 - %1, 1e12").arg(seconds * 1000, 0, 'f', 0);
-    QTEST(run("Players.age(" + heard + ")").remove('\''), "age");
-    QTEST(run("Players.color(" + heard + ")").remove('\''), "color");
-}
-
-void TestDashboard::labels_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("labels");
-
-    QTest::newRow("alone") << "'a_1', 'b_1'"
-                           << "['a:','b:']";
-    QTest::newRow("namesakes") << "'a_1764000360417', 'a_1764000000417', 'b_1'"
-                               << "['Player 60417:a','Player 00417:a','b:']";
-    QTest::newRow("by what is in the middle") << "'a_left_7', 'a_right_7'"
-                                              << "['Player left_7:a','Player right_7:a']";
-    QTest::newRow("short ones") << "'a_12', 'a_012', '__proto__'"
-                                << "['Player 12:a','Player 012:a',':']";
-}
-
-void TestDashboard::labels()
-{
-    QFETCH(QString, keys);
-    QTEST(run("Players.labelled([" + keys +
-              "].map(key => Players.playerOf(key, {})))"
-              ".map(player => player.label + ':' + player.host)"),
-          "labels");
-}
-
-void TestDashboard::arranged_data()
-{
-    QTest::addColumn<QString>("how");
-    QTest::addColumn<QString>("players");
-
-    QTest::newRow("by name, numbers by value") << "'', 0, false"
-                                               << "['b1_1','B2_2','b10_3','c_4']";
-    QTest::newRow("longest silent first, the live by name") << "'', 0, true"
-                                                            << "['c_4','b10_3','b1_1','B2_2']";
-    QTest::newRow("live") << "'', 1, true"
-                          << "['b1_1','B2_2']";
-    QTest::newRow("silent") << "'', 2, false"
-                            << "['b10_3','c_4']";
-    QTest::newRow("words of name and project, in any case") << "' shop  B', 0, false"
-                                                            << "['B2_2','b10_3']";
-    QTest::newRow("nobody") << "'[', 0, false"
-                            << "[]";
-}
-
-void TestDashboard::arranged()
-{
-    QFETCH(QString, how);
-    QTEST(run("((filter, show, bySilence) => Players.arranged(Players.named(Players.playersOf({'c_4': "
-              "{heartbeat: 1e6}, 'b10_3': {heartbeat: 2e6, "
-              "project: 'Shop'},"
-              "'B2_2': {heartbeat: 9.9e6, project: 'shop'}, 'b1_1': {heartbeat: 9.99e6}}), filter), show, "
-              "bySilence, 1e7))(" +
-              how + ").map(p => p.player)"),
-          "players");
+    QFETCH(QString, code);
+    QTEST(run(code), "result");
 }
 
 void TestDashboard::clockHoldsWhileTheTimerHurries()
