@@ -92,7 +92,7 @@ QString ProjectExchange::describe(const Outcome& outcome) const
             .arg(m_player, outcome.reason());
     const int count = m_functions->movedFiles();
     if (count == 0)
-        return tr("%1 and this player have the same files.").arg(m_player);
+        return tr("%1 and this player have the same revisions.").arg(m_player);
     const QString files = count == 1 ? tr("One file") : tr("%1 files").arg(count);
     return (isSending() ? tr("%1 sent to %2.") : tr("%1 fetched from %2.")).arg(files, m_player);
 }

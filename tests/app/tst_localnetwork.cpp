@@ -127,7 +127,7 @@ void TestLocalNetwork::typeShowsPlayersAndExchanges()
     QCOMPARE(network().projectExchange().property("bytes").toInt(), page("new").size() + 2 * 11);
     QVERIFY(begin("send", "Shop"));
     QTRY_COMPARE(document->property("shown").toString(),
-                 QString("Other Other and this player have the same files."));
+                 QString("Other Other and this player have the same revisions."));
     QVERIFY(!begin("fetch", "../Shop"));
     pauseOther(true);
     QVERIFY(begin("fetch", "Shop"));

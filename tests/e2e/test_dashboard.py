@@ -233,7 +233,7 @@ class DashboardTest(ProgramTest):
         kiosk.process.send_signal(signal.SIGCONT)
         program.tab_to("Connect")
         program.key("Return")
-        self.outcome(program, "Kiosk_7 and this player have the same files.")
+        self.outcome(program, "Kiosk_7 and this player have the same revisions.")
         kiosk.quit()
         with Peer.connect(program.local_port(), "Shut_8") as leaving:
             program.wait_text("Shut_8")

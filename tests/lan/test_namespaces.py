@@ -108,7 +108,7 @@ class AtOneBridge(unittest.TestCase):
                 b.wait("started A", 60)
                 note("the cable is back: A and B have met again")
             tries = (a.exchange("send", "B") for _ in range(3))  # a second connection may still have to be given up
-            self.assertIn((True, "B and this player have the same files."), tries)
+            self.assertIn((True, "B and this player have the same revisions."), tries)
 
 
 class Announcements(unittest.TestCase):

@@ -112,7 +112,7 @@ class Transfers(unittest.TestCase):
         self.assertIn("127.0.0.1 has sent the project Shop", b.log())
         self.assert_same(b.work / "Shop", FILES)
         for player, other, what in ((a, "B", "send"), (a, "B", "fetch"), (b, "A", "fetch")):
-            self.assertEqual(player.exchange(what, other), (True, f"{other} and this player have the same files."))
+            self.assertEqual(player.exchange(what, other), (True, f"{other} and this player have the same revisions."))
         # B has changed one file, and lists one that is empty there, one that is missing, itself and a way out.
         write_project(b.work / "Shop", {"one": b"changed", "chunk": b"", "dirmap": b"", "../out": b"stolen"},
                       {"one": 2, "chunk": 2})
