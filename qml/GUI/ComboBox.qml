@@ -10,6 +10,8 @@ T.ComboBox {
 
     property string size: "base"
     property string placeholderText
+    // Role of the face in which a choice is written in the list; without one it is the program's.
+    property string familyRole
 
     // On release, as the template closes an open list on release.
     function openByKey(event) {
@@ -57,6 +59,7 @@ T.ComboBox {
         size: root.size
         text: root.textRole === "" ? modelData : (Array.isArray(root.model) ? modelData[root.textRole]
                                                                             : model[root.textRole])
+        family: root.familyRole === "" ? Theme.fontFamily : modelData[root.familyRole]
         highlighted: root.highlightedIndex === index
     }
 

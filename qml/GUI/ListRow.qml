@@ -14,6 +14,7 @@ T.ItemDelegate {
     property string size: "base"
     property string faIcon
     property string detail
+    property string family: Theme.fontFamily
     /// Whether the text stands out, as a head does.
     property bool strong: highlighted
     property url picture
@@ -74,6 +75,7 @@ T.ItemDelegate {
                 text: root.text
                 textFormat: Text.PlainText
                 size: root.size
+                font.family: root.family
                 strong: root.strong
                 wrapMode: Text.NoWrap
                 elide: root.elide

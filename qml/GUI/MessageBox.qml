@@ -29,7 +29,7 @@ ModalPopup {
     }
 
     width: Math.min(parent ? parent.width - 4 * Theme.unit : 0, 52 * Theme.unit)
-    implicitHeight: contentItem.implicitHeight + 2 * padding
+    height: contentItem.implicitHeight + 2 * padding
     padding: 3 * Theme.unit
     closePolicy: T.Popup.NoAutoClose
     onOpened: {

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Nuvex developers
 # SPDX-License-Identifier: MIT
-"""The states of the desktop editor for docs/screenshots, with the demo Menu Board."""
+"""The states of both editors for docs/screenshots, with the demo Menu Board."""
 
 import time
 
@@ -37,6 +37,7 @@ class EditorShots:
             self.do("mousemove", round(x + by[0] * step / 6), round(y + by[1] * step / 6))
 
     def all(self):
+        self.questions()
         self.open()
         for state in (self.guides, self.several, self.rotated, self.text, self.outline, self.slides, self.media,
                       self.table, self.colours):
@@ -49,6 +50,44 @@ class EditorShots:
         self.program.click("Edit")
         self.program.wait_page("RADEditorPage")
         wait_for(lambda: self.program.find(HOURS), "the document")
+
+    def questions(self):
+        """A project from nothing: how it begins, its empty page, the keys, and what is asked about it."""
+        self.program.click("Open")
+        self.program.wait_page("ProjectsPage")
+        self.program.key("ctrl+n")
+        self.program.wait_page("NewProjectPage")
+        wait_for(lambda: self.program.find("projectName")["focus"], "the field for the name")
+        self.program.type("Bar")
+        wait_for(lambda: self.program.find("projectName")["text"] == "Bar", "the name")
+        self.take("editor-new")
+        self.program.click("Landscape")
+        self.program.click("Create and edit")
+        self.program.wait_page("RADEditorPage")
+        wait_for(lambda: self.program.find("emptyHint"), "the empty page")
+        self.take("editor-empty")
+        self.program.key("question")
+        wait_for(lambda: self.program.find("keySheet"), "the page of keys")
+        self.take("editor-keys")
+        self.program.key("Escape")
+        self.click("palette BasicText", times=2)
+        wait_for(lambda: self.program.find("selectedName"), "the text")
+        self.program.click("Back")
+        self.program.wait_text("Save the changes of Bar?")
+        self.take("editor-question")
+        self.program.click("Stay")
+        document = self.program.profile.work / "Bar/main.qml"
+        document.write_text(document.read_text() + "\n")
+        self.program.key("ctrl+s")
+        self.program.wait_text("Changed elsewhere")
+        self.take("editor-elsewhere")
+        self.program.click("Take the other")
+        self.program.click("Back")
+        self.program.wait_page("MainPage")
+        self.program.click("Open")
+        self.program.wait_page("ProjectsPage")
+        self.program.click("Menu Board")
+        self.program.wait_page("MainPage")
 
     def leave(self):
         """Ends what a state has begun; nothing is selected afterwards."""
@@ -121,3 +160,32 @@ class EditorShots:
         self.program.click("Edit")
         wait_for(lambda: self.program.find("faultHint"), "what is wrong")
         self.take("editor-fault")
+
+
+def take_device(program, take):
+    """Drives the editor for touch through its states."""
+    wait_for(lambda: program.find(HOURS), "the document")
+    program.tap(TITLE)
+    take("device-selected")
+    program.tap("Edit")
+    program.wait_page("ItemEditor")
+    take("device-item")
+    program.tap("Back")
+    program.wait_page("EditorPage")
+    program.tap("Properties")
+    program.wait_page("PropertyEditor")
+    take("device-properties")
+    program.tap("text")
+    program.wait_page("PropertyCodeEditor")
+    take("device-code")
+    program.tap("Back")
+    program.wait_page("PropertyEditor")
+    program.tap("Back")
+    program.wait_page("EditorPage")
+    program.tap("Add a part")
+    take("device-parts")
+    program.key("Escape")
+    program.tap("Delete")
+    program.tap("Back")
+    program.wait_text("Save the changes of Menu Board?")
+    take("device-question")

@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 """Takes one picture a page, demo and size of the real program for docs/screenshots.
 
-Further arguments name what is taken: pages, editor, dashboard, gallery, or demos by their folders; without any it is
-all.
+Further arguments name what is taken: pages, editor, device, dashboard, gallery, or demos by their folders; without any
+it is all.
 """
 import os
 import shutil
@@ -17,8 +17,9 @@ ROOT = Path(__file__).resolve().parents[2]
 sys.path[1:1] = [str(ROOT / "tests" / folder) for folder in ("lan", "localcloud")]
 # pylint: disable=wrong-import-position
 import dashboardshots
+from cloud import Cloud
 from driver import Profile, Program, Screen, read_setup
-from editorshots import EditorShots
+from editorshots import EditorShots, take_device
 
 PICTURES = ROOT / "docs/screenshots"
 SIZES = ["1280x720", "1920x1080", "1080x1920"]
@@ -78,6 +79,24 @@ def steps_of_the_editor(program):
     EditorShots(program, lambda name: take(program, name, "jpg", 0.5)).all()
 
 
+def steps_of_the_device(program, cloud):
+    program.wait_page("MainPage")
+    cloud.database("PUT", "/Users/ada@exampleorg/Players/window-3_1764000000000/command",
+                   "CAPI.createEditorFile(); open('EditorPage')")
+    program.wait_page("EditorPage")
+    take_device(program, lambda name: take(program, name, "jpg"))
+
+
+def run_device(setup, screen, settings):
+    """The editor for touch, which a command from the cloud opens on any computer."""
+    cloud = Cloud(setup.localcloud)
+    try:
+        run(setup, screen, lambda program: steps_of_the_device(program, cloud), settings,
+            "--deployment", str(cloud.folder / "deployment.json"))
+    finally:
+        cloud.stop()
+
+
 def steps_of_the_gallery(program):
     take(program, "gallery")
     for chapter in ["Pictures", "Texts", "Time and news", "Menus", "Shows", "Layouts", "Effects"]:
@@ -109,7 +128,7 @@ def main():
     # Boards that go by the clock are taken at nine in the morning.
     os.environ["TZ"] = f"DAY{time.gmtime().tm_hour - 9}"
     demos = [demo.parent for demo in sorted((ROOT / "demos").glob("*/main.qml"))]
-    wanted = wanted or ["pages", "editor", "dashboard", "gallery", *[demo.name for demo in demos]]
+    wanted = wanted or ["pages", "editor", "device", "dashboard", "gallery", *[demo.name for demo in demos]]
     for size in SIZES:
         screen = Screen(size)
         try:
@@ -119,6 +138,8 @@ def main():
                 run(setup, screen, lambda program: take(program, "standby"), signed_in, "--play", "Nothing Here Yet")
             if "editor" in wanted:
                 run(setup, screen, steps_of_the_editor, {**signed_in, "lastProject": "Menu Board"})
+            if "device" in wanted:
+                run_device(setup, screen, {**signed_in, "lastProject": "Menu Board"})
             if "dashboard" in wanted:
                 dashboardshots.take_all(setup.localcloud, lambda *how: run(setup, screen, *how), take, signed_in)
             if "gallery" in wanted:

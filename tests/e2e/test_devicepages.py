@@ -94,7 +94,8 @@ class SourcesTest(ProgramTest):
 
 
 class TouchPageTest(EditorTest):
-    """The document on the editor page of a device, which a command from the cloud opens on this computer."""
+    """The document on the editor page of a device, which a command from the cloud opens on this computer. The
+    engine has forgotten before what it had compiled, as after an update."""
 
     def open(self, document=DOCUMENT):
         cloud = Cloud(self.setup.localcloud)
@@ -107,7 +108,7 @@ class TouchPageTest(EditorTest):
         self.addCleanup(self.program.close)
         self.program.wait_page("MainPage")
         cloud.database("PUT", "/Users/annb@exampleorg/Players/west_12/command",
-                       "CAPI.createEditorFile(); open('EditorPage')")
+                       "CAPI.clearComponentCache(); CAPI.createEditorFile(); open('EditorPage')")
         self.program.wait_page("EditorPage")
         return self.program
 

@@ -424,11 +424,13 @@ class DesktopEditorTest(EditorTest):
                 os.utime(kept, (time.time() - age, time.time() - age))
                 self.profile.write_settings(userEmail="ann@example.org", playerUID="west_12", doOnStart="edit",
                                             lastProject=name, shareFolder="false")
-                program = self.program = self.start()
+                program = self.program = self.start("--windowed")
                 program.wait_page("RADEditorPage")
                 wait_for(lambda: program.find("bound"), "the document")
                 if offered:
                     program.wait_text("Take up what was not saved?")
+                    x, y, width, height = self.rect("Take them up")  # and its box is as high as what it holds
+                    wait_for(lambda: self.pixel(round(x), round(y + height + 16)) == "#FFFFFF", "the box's foot")
                 time.sleep(0.5)
                 self.assertEqual(program.find("Take them up") is not None, offered)
                 program.close()

@@ -210,6 +210,13 @@ class EditorPanesTest(EditorTest):
         for x, y, width, height in tiles:
             self.wait_colour((round(x + width / 2), round(y + height / 2)), "#000000")
         self.assertEqual(self.saved(), REPEATED.replace("#ffa500", "#000000"))
+        program.click("Items")
+        self.screen.do("mousemove", *self.centre("outline BasicRectangle"))
+        program.click("hide BasicRectangle")
+        for keys in (), ("ctrl+z",):  # also in the document that is made anew
+            program.key(*keys or ["Shift_L"])
+            for x, y, width, height in tiles:
+                self.wait_colour((round(x + width / 2), round(y + height / 2)), "#ffffff")
 
     def test_menu_table(self):
         program = self.open(MENU)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Nuvex developers
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
-import Nuvex.Editor 1.0
+import "../private/liveitems.js" as LiveItems
 
 /// What the designer has hidden or locked. It holds in the editor alone and is not in the source: a hidden item is not
 /// drawn, and neither it nor a locked one is met by the pointer or moved. What lies in such an item goes with it.
@@ -9,14 +9,14 @@ QtObject {
     id: root
 
     property var desk
-    /// The live items that are hidden, and those that are locked.
+    /// The live items that are hidden, and those that are locked: of one that shows several times, each.
     property var hidden: []
     property var locked: []
     /// Their numbers.
     readonly property var hiddenElements: hidden.map(item => item.element)
     readonly property var lockedElements: locked.map(item => item.element)
 
-    // Hides the item of that number, or shows it again.
+    // Hides what has that number, or shows it again.
     function toggleHidden(element) {
         hidden = toggled(hidden, element);
     }
@@ -26,10 +26,13 @@ QtObject {
     }
 
     function toggled(items, element) {
-        const item = Ejs.childrenByElement(desk.live.root, element);
-        if (!item)
+        const rest = items.filter(item => item.element !== element);
+        if (rest.length < items.length)
+            return rest;
+        const found = LiveItems.allNumbered(desk.live.root, element);
+        if (found.length === 0)
             desk.say(qsTr("Only items that show on the page can be hidden or locked."));
-        return !item ? items : items.indexOf(item) >= 0 ? items.filter(other => other !== item) : items.concat(item);
+        return items.concat(found);
     }
 
     function isHidden(item) {
@@ -59,11 +62,12 @@ QtObject {
 
     /// Where they stand in the source; see Selection.placesOf().
     function places() {
-        return [hidden, locked].map(desk.selection.placesOf);
+        return [hidden, locked].map(items => Array.from(new Set(desk.selection.placesOf(items))));
     }
 
     // Hides and locks what stood at `places` of the source `before`.
     function restore(places, before) {
-        [hidden, locked] = places.map(list => desk.selection.foundAt(list, before));
+        [hidden, locked] = places.map(list => desk.selection.foundAt(list, before).reduce((all, item) =>
+            all.concat(LiveItems.allNumbered(desk.live.root, item.element)), []));
     }
 }

@@ -17,6 +17,7 @@ Column {
     ChoiceRow {
         name: root.name + ".family"
         label: qsTr("Font")
+        box.familyRole: "is"
         choices: root.form.families.map(family => ({ text: family, is: family }))
     }
 

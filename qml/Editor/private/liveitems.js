@@ -33,6 +33,12 @@ function numbered(parent, element) {
     return null;
 }
 
+/// All items with the number `element` below `parent`: an item that shows several times has one number.
+function allNumbered(parent, element) {
+    return Array.prototype.reduce.call(parent.children, (found, child) =>
+        found.concat(child.element === element ? [child] : [], allNumbered(child, element)), []);
+}
+
 function _isNumbered(item) {
     return item.element !== undefined && item.element !== -1;
 }

@@ -23,7 +23,7 @@ BGUI.ModalPopup {
     objectName: "leaveQuestion"
     width: Math.min(parent ? parent.width - 4 * BGUI.Theme.unit : 0, 58 * BGUI.Theme.unit)
     padding: 3 * BGUI.Theme.unit
-    implicitHeight: contentItem.implicitHeight + 2 * padding
+    height: contentItem.implicitHeight + 2 * padding
     closePolicy: T.Popup.CloseOnEscape
     onOpened: save.forceActiveFocus(Qt.TabFocusReason)
 

@@ -42,7 +42,8 @@ void touchWindow(const QByteArray& touches)
     if (!window)
         return;
     QTest::QTouchEventSequence sequence = QTest::touchEvent(window, screen, false);
-    for (const QJsonValue& finger : QJsonDocument::fromJson(touches).array())
+    const QJsonArray fingers = QJsonDocument::fromJson(touches).array();
+    for (const QJsonValue finger : fingers)
         addFinger(sequence, finger.toArray(), *window);
     sequence.commit(false);
 }
