@@ -14,7 +14,6 @@
 #include <QQmlExpression>
 #include <QQmlListReference>
 #include <QQmlProperty>
-#include <QQuickWindow>
 
 namespace {
 
@@ -122,7 +121,7 @@ QQuickItem* LiveScene::make(const QString& text, const QUrl& url, QQmlContext* c
     component.completeCreate();
     if (watch.hasStruck())
         m_errors = {error(QStringLiteral("a script that runs when it is loaded does not end"))};
-    if (!m_errors.isEmpty() || !comesToRest(parent))
+    if (!m_errors.isEmpty() || !comesToRest(*item))
         return nullptr;
     return qobject_cast<QQuickItem*>(object.release());
 }
@@ -152,7 +151,7 @@ bool LiveScene::set(QQuickItem& item, const QString& name, const QString& code)
     const QQmlProperty property(&item, name, qmlContext(&item));
     const QVariant before = property.read();
     evaluate(item, target(name) + QStringLiteral(" = ") + code);
-    if (!m_errors.isEmpty() || comesToRest(item))
+    if (!m_errors.isEmpty() || comesToRest(*m_root))
         return m_errors.isEmpty();
     property.write(before);
     return false;
@@ -160,7 +159,7 @@ bool LiveScene::set(QQuickItem& item, const QString& name, const QString& code)
 
 bool LiveScene::comesToRest(const QQuickItem& item)
 {
-    if (!item.window() || settleLayouts(*item.window()))
+    if (settleLayouts(item))
         return true;
     m_errors = {error(QStringLiteral("sizes depend on each other and never come to rest"))};
     return false;

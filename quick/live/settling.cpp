@@ -28,15 +28,17 @@ void layOut(QQuickItem& item)
 
 } // namespace
 
-bool settleLayouts(QQuickWindow& window)
+bool settleLayouts(const QQuickItem& root)
 {
-    QVector<QQuickItem*>& waiting = QQuickWindowPrivate::get(&window)->itemsToPolish;
+    if (!root.window())
+        return true;
+    QVector<QQuickItem*>& waiting = QQuickWindowPrivate::get(root.window())->itemsToPolish;
     QHash<const QQuickItem*, int> counts;
     while (!waiting.isEmpty()) {
         QQuickItem* item = waiting.takeLast();
         layOut(*item);
         if (++counts[item] > limits::layouts)
-            return false;
+            return item != &root && !root.isAncestorOf(item);
     }
     return true;
 }

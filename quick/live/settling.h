@@ -3,9 +3,10 @@
 
 #pragma once
 
-class QQuickWindow;
+class QQuickItem;
 
-/// Lets the items of `window` that wait to be laid out do so now, instead of before its next frame. False
-/// when that does not end within limits::layouts of one item, as when a row's item is to be wider than the
-/// row: the window would hang over it. Whatever causes it must then go before the next frame.
-bool settleLayouts(QQuickWindow& window);
+/// Lets the items of a window that wait to be laid out do so now, instead of before its next frame. False
+/// when `root`, an item of that window, or one inside it does not come to its end within limits::layouts, as
+/// when a row's item is to be wider than the row: the window would hang over it. It must then go before the
+/// next frame. True without a window.
+bool settleLayouts(const QQuickItem& root);
