@@ -121,7 +121,8 @@ QQuickItem* LiveScene::make(const QString& text, const QUrl& url, QQmlContext* c
     component.completeCreate();
     if (watch.hasStruck())
         m_errors = {error(QStringLiteral("a script that runs when it is loaded does not end"))};
-    if (!m_errors.isEmpty() || !comesToRest(*item))
+    const bool isPart = m_root && (m_root == &parent || m_root->isAncestorOf(&parent));
+    if (!m_errors.isEmpty() || !comesToRest(isPart ? *m_root : *item))
         return nullptr;
     return qobject_cast<QQuickItem*>(object.release());
 }
