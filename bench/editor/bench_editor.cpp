@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 // Times of the desktop editor on documents of 20 to 20 000 items, opening beside the engine's load of the raw
-// text. Wants an X server. Prints a Markdown table.
+// text; of its source panel from a key to the picture; of its start beside the player's. Wants an X server.
+// Prints Markdown tables.
 
 #include "tests/support/editorpage.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -24,7 +26,7 @@ namespace {
 
 constexpr int rounds = 6; // the first one is dropped
 constexpr int sizes[] = {20, 500, 5000, 20000};
-const QStringList steps{"raw load", "open", "select", "drag step", "release", "undo", "save"};
+const QStringList steps{"raw load", "open", "select", "drag step", "release", "undo", "save", "move all"};
 
 QString document(int items)
 {
@@ -80,6 +82,9 @@ public:
         if (m_page.capi().editedSourceCode() != m_source)
             qFatal("nothing was undone");
         take(times, "save", [this] { m_page.run("desk.save()"); });
+        m_page.run("desk.selection.selectAll()");
+        take(times, "move all", [this] { m_page.run("desk.changes.nudge(1, 1); desk.settle()"); });
+        m_page.run("desk.undo(); desk.save()");
     }
 
 private:
@@ -132,6 +137,59 @@ Times timesOf(int items)
     return times;
 }
 
+// From a key in the source panel to the picture that shows it, in a source of so many lines.
+double keyTime(int lines)
+{
+    EditorPage page(document(lines / 7));
+    page.run("desk.selection.set([desk.live.root])");
+    auto* source = page.window().rootObject()->findChild<QQuickItem*>("source");
+    source->parentItem()->setVisible(true);
+    source->forceActiveFocus();
+    QTest::qWait(500); // until the panel has coloured it
+    std::vector<double> times;
+    for (int round = 0; round < 4 * rounds; ++round) {
+        QSignalSpy frames(&page.window(), &QQuickWindow::frameSwapped);
+        times.push_back(milliseconds([&] {
+            QTest::keyClick(&page.window(), Qt::Key_Space);
+            frames.wait();
+        }));
+    }
+    if (page.window().rootObject()->findChild<QQuickItem*>("apply")->isEnabled())
+        return median(times);
+    qFatal("nothing was typed");
+}
+
+// From nothing to the first picture of the page with the demo's document.
+double startTime(const QString& pageName, const QString& demo)
+{
+    return milliseconds([&] {
+        EditorPage page(QString::fromUtf8(contents(demo + "/main.qml")), demo, pageName);
+        if (!QSignalSpy(&page.window(), &QQuickWindow::frameSwapped).wait())
+            qFatal("no picture of %s", qPrintable(pageName));
+    });
+}
+
+void printStarts(QTextStream& out)
+{
+    out << "\n| start until the first picture | editor, ms | player, ms | ratio |\n|---|---|---|---|\n";
+    const QStringList demos = QDir(NUVEX_DEMOS).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& name : demos) {
+        const QString demo = NUVEX_DEMOS "/" + name;
+        if (!QFile::exists(demo + "/main.qml"))
+            continue;
+        std::vector<double> editor;
+        std::vector<double> player;
+        for (int round = 0; round < rounds; ++round) {
+            editor.push_back(startTime("RADEditorPage", demo));
+            player.push_back(startTime("PlayerPage", demo));
+        }
+        out << "| " << name << " | " << QString::number(median(editor), 'f', 0) << " | "
+            << QString::number(median(player), 'f', 0) << " | "
+            << QString::number(median(editor) / median(player), 'f', 2) << " |\n";
+        out.flush();
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -158,6 +216,9 @@ int main(int argc, char** argv)
         out << " | "
             << QString::number((line[3].second - line[1].second) / (line[3].first - line[1].first), 'f', 2);
     }
-    out << " | |\n";
+    out << " | |\n\nA key in the source panel to its picture, 300 lines: "
+        << QString::number(keyTime(300), 'f', 1) << " ms\n";
+    out.flush();
+    printStarts(out);
     return 0;
 }

@@ -6,6 +6,7 @@
 #include "quick/limits.h"
 #include "quick/live/holdstill.h"
 #include "quick/live/scriptwatch.h"
+#include "quick/live/settling.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -120,7 +121,8 @@ QQuickItem* LiveScene::make(const QString& text, const QUrl& url, QQmlContext* c
     component.completeCreate();
     if (watch.hasStruck())
         m_errors = {error(QStringLiteral("a script that runs when it is loaded does not end"))};
-    if (!m_errors.isEmpty())
+    const bool isPart = m_root && (m_root == &parent || m_root->isAncestorOf(&parent));
+    if (!m_errors.isEmpty() || !comesToRest(isPart ? *m_root : *item))
         return nullptr;
     return qobject_cast<QQuickItem*>(object.release());
 }
@@ -134,17 +136,34 @@ QList<QQmlError> LiveScene::check(const QString& text, const QUrl& url) const
 
 bool LiveScene::assign(QQuickItem& item, const QString& name, const QString& code)
 {
-    evaluate(item, target(name) + QStringLiteral(" = (") + code + QStringLiteral("\n)"));
-    return m_errors.isEmpty();
+    return set(item, name, QStringLiteral("(") + code + QStringLiteral("\n)"));
 }
 
 bool LiveScene::bind(QQuickItem& item, const QString& name, const QString& code)
 {
-    if (!assign(item, name, code))
-        return false;
-    evaluate(item, target(name) + QStringLiteral(" = Qt.binding(function() { return (") + code +
-                       QStringLiteral("\n); })"));
-    return m_errors.isEmpty();
+    return assign(item, name, code) &&
+           set(item, name,
+               QStringLiteral("Qt.binding(function() { return (") + code + QStringLiteral("\n); })"));
+}
+
+// Gives the property the value of `code`, or what it had before when with that the layout would not end.
+bool LiveScene::set(QQuickItem& item, const QString& name, const QString& code)
+{
+    const QQmlProperty property(&item, name, qmlContext(&item));
+    const QVariant before = property.read();
+    evaluate(item, target(name) + QStringLiteral(" = ") + code);
+    if (!m_errors.isEmpty() || comesToRest(*m_root))
+        return m_errors.isEmpty();
+    property.write(before);
+    return false;
+}
+
+bool LiveScene::comesToRest(const QQuickItem& item)
+{
+    if (settleLayouts(item))
+        return true;
+    m_errors = {error(QStringLiteral("sizes depend on each other and never come to rest"))};
+    return false;
 }
 
 QVariant LiveScene::evaluate(QQuickItem& item, const QString& code)

@@ -50,6 +50,8 @@ public:
     QVariant evaluate(QQuickItem& item, const QString& code);
 
 private:
+    bool set(QQuickItem& item, const QString& name, const QString& code);
+    bool comesToRest(const QQuickItem& item);
     QQuickItem* make(const QString& text, const QUrl& url, QQmlContext* context, QQuickItem& parent);
 
     QQmlEngine& m_engine;

@@ -3,6 +3,7 @@
 """Every flow of the desktop editor by mouse, wheel and keys; then file, directory map and picture."""
 
 import os
+import shutil
 import subprocess
 import time
 from pathlib import Path
@@ -414,6 +415,21 @@ class DesktopEditorTest(EditorTest):
         program.key("ctrl+z")
         self.wait_colour("red", "#00aa00")
         self.assertEqual(self.saved(), mine.replace("x: 25", "x: 34").replace("y: 30\n", "y: 37\n"))
+
+    def test_folder_that_goes(self):
+        """Saving brings back what there is, tells so, and lists no file that is gone."""
+        self.open().close()
+        (self.folder / "dirmap").write_text("\nimages/a.png 3\nmain.qml 4")
+        program = self.program = self.start()
+        self.select("red")
+        program.key("Right")
+        wait_for(lambda: program.find("project")["text"] == "Shop •", "the mark of a change")
+        shutil.rmtree(self.folder)
+        program.key("ctrl+s")
+        program.wait_text("folder was gone")
+        self.assertEqual(self.source(), DOCUMENT.replace("x: 20", "x: 21"))
+        self.assertEqual([line.split(" ")[0] for line in (self.folder / "dirmap").read_text().split("\n") if line],
+                         ["main.qml"])
 
     def test_what_is_offered(self):
         for name, age, offered in (("Old", 60, False), ("New ä", -60, True), ("50% #1?", -60, True)):

@@ -200,7 +200,8 @@ QtObject {
             return true;
         const fault = root.refusal;
         CAPI.setSourceCode(before);
-        reload(source);
+        if (!reload(source))
+            begin();
         sayFault(fault);
         return false;
     }

@@ -29,7 +29,7 @@ PanelRow {
     }
 
     function put(list, texts) {
-        root.form.commit(root.name, Values.list(list, root.form.indentation(root.name), texts));
+        root.form.commit(root.name, Values.list(list, root.form.indentation(root.name), texts, root.written));
     }
 
     function append() {

@@ -68,15 +68,24 @@ function _withLastComment(texts) {
 
 const _listParts = /"(?:[^"\\]|\\[^])*"|'(?:[^'\\]|\\[^])*'|\/\*[^]*?\*\/|\/\/[^\n]*|[^]/g;
 
-/// `entries`, a list of objects with texts, numbers and truth values, as a list over several lines, the first of which
-/// is indented by `indentation`. Members that are undefined or "" are left out. An entry that has one of `texts`, a
-/// list beside the entries', is written as that says.
-function list(entries, indentation, texts) {
-    const lines = entries.map((entry, i) => {
-        const text = indentation + "    " + (texts && texts[i] || _object(entry));
-        return i < entries.length - 1 && _endsInComment(text) ? text + "\n" + indentation + "    " : text;
+/// `entries`, a list of objects with texts, numbers and truth values, in place of the list `written`: on one line when
+/// that has entries on one line, else over several, the first of which is indented by `indentation`. Members that are
+/// undefined or "" are left out. An entry that has one of `texts`, a list beside the entries', is written as that says.
+function list(entries, indentation, texts, written) {
+    const parts = entries.map((entry, i) => texts && texts[i] || _object(entry));
+    if (parts.length === 0)
+        return "[]";
+    const line = /^\[( ?)[^\s\]].*\]$/.exec((written || "").trim());
+    return line && !parts.some(_endsInComment) ? "[" + line[1] + parts.join(", ") + line[1] + "]"
+                                               : _onLines(parts, indentation);
+}
+
+function _onLines(parts, indentation) {
+    const lines = parts.map((part, i) => {
+        const text = indentation + "    " + part;
+        return i < parts.length - 1 && _endsInComment(text) ? text + "\n" + indentation + "    " : text;
     });
-    return lines.length === 0 ? "[]" : "[\n" + lines.join(",\n") + "\n" + indentation + "]";
+    return "[\n" + lines.join(",\n") + "\n" + indentation + "]";
 }
 
 function _endsInComment(text) {

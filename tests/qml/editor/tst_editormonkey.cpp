@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QQuickItem>
+#include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
 
@@ -171,8 +172,8 @@ void TestEditorMonkey::work()
         page.run("desk.undo()");
         QVERIFY(states.contains(state()));
     }
-    const QString told = log.messages().join('\n');
-    QVERIFY2(!told.contains("qrc:/Nuvex/Editor") && !told.contains("qrc:/Nuvex/PlayerQML"), qPrintable(told));
+    const QStringList told = log.messages().filter(QRegularExpression("qrc:/Nuvex/(Editor|PlayerQML)"));
+    QVERIFY2(told.isEmpty(), qPrintable(told.mid(0, 5).join('\n')));
 }
 
 QTEST_MAIN(TestEditorMonkey)

@@ -279,6 +279,7 @@ PanelCase {
         select(0);
         row("model").setField(1, { name: "name", kind: "text" }, "B");
         compare(JSON.stringify(Ejs.elementObj.model), "[\"a.png\",{\"image\":\"b.png\",\"name\":\"B\"}]");
+        compare(Ejs.getProperty("model"), "['a.png', { image: \"b.png\", name: \"B\" }]"); // on one line as before
     }
 
     function bring(name, color) {

@@ -62,6 +62,9 @@ void TestLiveScene::whatCannotBeMadeLeavesTheLast_data()
                              << "does not end";
     QTest::newRow("twice the same property") << "Item { property int element; property int element }"
                                              << "Duplicate property name";
+    QTest::newRow("wider than what holds it")
+        << "Item { Row { leftPadding: 1; Item { width: parent.width; height: 1 } } }"
+        << "never come to rest";
 }
 
 void TestLiveScene::whatCannotBeMadeLeavesTheLast()
@@ -123,9 +126,16 @@ void TestLiveScene::setsAndBinds()
     QCOMPARE(text.property("font").value<QFont>().pixelSize(), 10);
     QCOMPARE(text.y(), 40.0);
 
+    QVERIFY(load("Item { Row { spacing: 1; Text { objectName: 'first' } Item { width: 9; height: 9 } } }"));
+    QVERIFY(m_scene->bind(*item("first"), "width", "parent.width * 0.9")); // which comes to 90
+    QTRY_COMPARE(qRound(item("first")->width()), 90);
+    QVERIFY(!m_scene->bind(*item("first"), "width", "parent.width")); // before any frame hangs over it
+
+    QVERIFY(load("Item { id: page; Text { objectName: 't' } }"));
+    QQuickItem& other = *item("t");
     for (const char* code :
          {"nowhere.width", "1 +", "'wide'", "page.width(", "(function() { while (true) {} })()"}) {
-        QVERIFY2(!m_scene->bind(text, "width", code), code);
+        QVERIFY2(!m_scene->bind(other, "width", code), code);
         QVERIFY(!m_scene->errors().isEmpty());
     }
     QVERIFY(
