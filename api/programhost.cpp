@@ -7,6 +7,7 @@
 #include "api/settings.h"
 #include "api/workspace.h"
 #include "cloud/deployment.h"
+#include "qmldoc/syntaxtree.h"
 
 #include <QHostAddress>
 #include <QUrl>
@@ -39,6 +40,11 @@ QString ProgramHost::account() const
 bool ProgramHost::isConnected() const
 {
     return m_cloudIsHere || platform::connectedToNetwork();
+}
+
+bool ProgramHost::isDocument(const QString& text) const
+{
+    return SyntaxTree(text).program() != nullptr;
 }
 
 void ProgramHost::stopPlayer(const std::function<void()>& done)

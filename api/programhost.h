@@ -28,6 +28,7 @@ public:
     QString account() const override;
     /// A cloud on this computer needs no network.
     bool isConnected() const override;
+    bool isDocument(const QString& text) const override;
     void stopPlayer(const std::function<void()>& done) override;
 
 private:

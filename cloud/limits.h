@@ -13,6 +13,8 @@ namespace limits {
 
 /// Size of a directory map.
 constexpr qint64 dirmapBytes = 16LL * 1024 * 1024;
+/// A longer document is not looked at and counts as none.
+constexpr qint64 pulledDocumentBytes = 64LL * 1024 * 1024;
 /// Lines of a directory map.
 constexpr int dirmapLines = 200'000;
 /// Bytes of one line of a directory map.

@@ -52,6 +52,7 @@ public:
     QString shareFolder() const override { return m_root + QStringLiteral("/ShareFolder"); }
     QString account() const override { return QStringLiteral("a@b.c"); }
     bool isConnected() const override { return true; }
+    bool isDocument(const QString& text) const override { return !text.isEmpty(); }
     void stopPlayer(const std::function<void()>& done) override { QMetaObject::invokeMethod(this, done); }
 
 private:

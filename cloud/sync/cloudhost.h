@@ -21,6 +21,8 @@ public:
     virtual QString account() const = 0;
     /// Whether there is a network at all. Any thread.
     virtual bool isConnected() const = 0;
+    /// Whether `text` is a document as projects have it. Any thread.
+    virtual bool isDocument(const QString& text) const = 0;
     /// Takes the playing project off the screen, in the GUI thread, and calls `done` there. Returns at once;
     /// `done` is not called when the program ends before. Any thread.
     virtual void stopPlayer(const std::function<void()>& done) = 0;

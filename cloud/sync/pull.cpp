@@ -74,6 +74,10 @@ SyncResult Pull::carryOut(const Dirmap& cloudMap, const QString& revision)
     const StorageFault fault = fetch();
     if (fault != StorageFault::None)
         return failure(fault);
+    if (wouldBreak()) {
+        m_swap.leave();
+        return failure(StorageFault::Unexpected);
+    }
     leaveOut(m_missing);
     if (!applyPlan(revision))
         return failure(StorageFault::LocalFile);
@@ -114,6 +118,18 @@ bool Pull::wouldEmpty() const
     if (empties)
         qCWarning(lcCloud) << "Not pulled, its map lists no main.qml:" << m_project.cloudPath;
     return empties;
+}
+
+// A document that plays is not given up for a text that none is.
+bool Pull::wouldBreak() const
+{
+    const QString document = QStringLiteral("main.qml");
+    const bool breaks = m_plan.fetch.paths.contains(document) && !m_missing.contains(document) &&
+                        m_job.isDocument(m_project.place.folder + QLatin1Char('/') + document) &&
+                        !m_job.isDocument(m_swap.temporaryPath(document));
+    if (breaks)
+        qCWarning(lcCloud) << "Not pulled, its main.qml is no document:" << m_project.cloudPath;
+    return breaks;
 }
 
 void Pull::leaveOut(const QSet<QString>& paths)

@@ -36,6 +36,7 @@ private:
     void makePlan(const Dirmap& cloudMap);
     void tell() const;
     bool wouldEmpty() const;
+    bool wouldBreak() const;
     void leaveOut(const QSet<QString>& paths);
     QSet<QString> obstructed() const;
     StorageFault fetch();

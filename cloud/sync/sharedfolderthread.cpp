@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFile>
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -73,6 +74,13 @@ public:
     {
         std::unique_lock lock(m_owner.m_mutex);
         return !m_owner.m_changed.wait_for(lock, time, [this] { return mustEnd(); });
+    }
+
+    bool isDocument(const QString& path) const override
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) && file.size() <= limits::pulledDocumentBytes &&
+               m_owner.m_host.isDocument(QString::fromUtf8(file.readAll()));
     }
 
     bool stopPlayer() override

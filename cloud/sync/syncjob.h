@@ -56,6 +56,8 @@ public:
     virtual bool isCancelled() const = 0;
     /// Waits; false when the job is cancelled meanwhile.
     virtual bool pause(std::chrono::milliseconds time) = 0;
+    /// Whether the file at `path` holds a document that can be loaded.
+    virtual bool isDocument(const QString& path) const = 0;
     /// Takes the player's project off the screen and waits for that. False when the program ends meanwhile.
     virtual bool stopPlayer() = 0;
     /// Asks which of the files that have changed on both sides shall stay as they are in the cloud. Nothing

@@ -109,6 +109,7 @@ private:
     QString shareFolder() const override { return m_root.filePath("ShareFolder"); }
     QString account() const override { return "a@b.c"; }
     bool isConnected() const override { return online; }
+    bool isDocument(const QString& text) const override { return text != QLatin1String("{ broken"); }
     void stopPlayer(const std::function<void()>& done) override
     {
         QMetaObject::invokeMethod(this, [this, done] {

@@ -32,6 +32,7 @@ private slots:
     void bothSidesChanged();
     void twoEditorsAtOnce();
     void publishWhileAPullRuns();
+    void brokenDocument();
     void publishBrokenOff();
     void publishBrokenOffAtItsEnd();
     void brokenOffPublishOfOldFiles_data();
@@ -244,6 +245,26 @@ void TestSync::publishWhileAPullRuns()
     m_editor->push();
     QTRY_COMPARE_WITH_TIMEOUT(m_player->tree(), m_editor->tree(), 10'000);
     QTRY_COMPARE(m_player->said, QStringList({"start", "stop", "0", "reload"}));
+}
+
+// A script has published what cannot be loaded: what plays goes on until there is something better.
+void TestSync::brokenDocument()
+{
+    m_editor->push();
+    m_player->pull("0");
+    m_editor->edit("main.qml", "{ broken");
+    m_editor->push();
+    {
+        const LogCapture log;
+        m_player->worker().pull("Shop", "1");
+        QTRY_VERIFY(log.contains("its main.qml is no document"));
+    }
+    QCOMPARE(m_player->tree().value("main.qml"), QByteArray("one"));
+    QCOMPARE(m_player->said.count("stop"), 1);
+    m_editor->edit("main.qml", "two");
+    m_editor->push();
+    m_player->pull("2");
+    QCOMPARE(m_player->tree(), m_editor->tree());
 }
 
 // The publisher's program ends half-way: nobody installs what is there then, and its next run ends it.

@@ -14,13 +14,17 @@ class LogCapture
 public:
     LogCapture()
     {
-        current() = this;
+        {
+            const std::lock_guard lock(mutex());
+            current() = this;
+        }
         m_previous = qInstallMessageHandler(keep);
     }
 
     ~LogCapture()
     {
         qInstallMessageHandler(m_previous);
+        const std::lock_guard lock(mutex()); // another thread may be at a message still
         current() = nullptr;
     }
 
@@ -30,7 +34,7 @@ public:
     /// The messages so far.
     QStringList messages() const
     {
-        const std::lock_guard lock(m_mutex);
+        const std::lock_guard lock(mutex());
         return m_messages;
     }
 
@@ -42,6 +46,12 @@ public:
     }
 
 private:
+    static std::mutex& mutex()
+    {
+        static std::mutex instance;
+        return instance;
+    }
+
     static LogCapture*& current()
     {
         static LogCapture* instance = nullptr;
@@ -50,11 +60,11 @@ private:
 
     static void keep(QtMsgType, const QMessageLogContext&, const QString& message)
     {
-        const std::lock_guard lock(current()->m_mutex);
-        current()->m_messages.append(message);
+        const std::lock_guard lock(mutex());
+        if (current())
+            current()->m_messages.append(message);
     }
 
-    mutable std::mutex m_mutex;
     QStringList m_messages;
     QtMessageHandler m_previous;
 };

@@ -25,6 +25,7 @@ public:
     QString shareFolder() const override { return m_workspace.shareFolder(); }
     QString account() const override { return QStringLiteral("a@b.c"); }
     bool isConnected() const override { return true; }
+    bool isDocument(const QString& text) const override { return !text.isEmpty(); }
     void stopPlayer(const std::function<void()>& done) override { QMetaObject::invokeMethod(this, done); }
 
 private:
