@@ -180,8 +180,10 @@ Deployment Deployment::read(const QString& file)
         fault = QStringLiteral("too large");
     else
         result = parse(source.read(limits::deploymentBytes), &fault);
-    if (!fault.isEmpty())
-        qCWarning(lcCloud).noquote() << "Deployment file" << file << "is not used:" << fault;
+    if (fault.isEmpty())
+        return result;
+    qCWarning(lcCloud).noquote() << "Deployment file" << file << "is not used:" << fault;
+    result.fault = file + QStringLiteral(": ") + fault;
     return result;
 }
 

@@ -40,6 +40,9 @@ struct Deployment
     QStringList broadcastAddresses; ///< IPv4; where announcements on the local network go
     QString exchangeProject;        ///< exchanged on the local network; empty: the current project
 
+    /// Why the file that it was to be read from is not used, without secrets; empty when nothing is wrong.
+    QString fault;
+
     /// False when no cloud is set up.
     bool isSet() const { return !bucket.isEmpty(); }
 
@@ -66,6 +69,7 @@ class DeploymentInfo : public QObject
     Q_PROPERTY(QString identity READ identity CONSTANT)
     Q_PROPERTY(QString webApiKey READ webApiKey CONSTANT)
     Q_PROPERTY(bool announces READ announces CONSTANT)
+    Q_PROPERTY(QString fault READ fault CONSTANT)
 
 public:
     explicit DeploymentInfo(const Deployment& deployment, QObject* parent = nullptr);
@@ -80,6 +84,8 @@ public:
     QString webApiKey() const { return m_deployment.webApiKey; }
     /// Whether this player is to be announced on the local network.
     bool announces() const { return !m_deployment.broadcastAddresses.isEmpty(); }
+    /// Why the deployment file is not used; empty when nothing is wrong.
+    QString fault() const { return m_deployment.fault; }
 
 private:
     Deployment m_deployment;

@@ -66,8 +66,9 @@ FormPage {
         width: Math.min(parent.width - 8 * BGUI.Theme.unit, 60 * BGUI.Theme.unit)
         visible: !Deployment.available
         faIcon: "fa-cloud"
-        title: qsTr("No cloud is set up")
-        text: qsTr("This player works on its own: projects stay on this computer, and no account is needed.")
+        title: Deployment.fault === "" ? qsTr("No cloud is set up") : qsTr("The deployment file is not used")
+        text: (Deployment.fault === "" ? "" : Deployment.fault + "\n\n")
+              + qsTr("This player works on its own: projects stay on this computer, and no account is needed.")
               + (root.start ? "\n\n" + qsTr("Its start screen opens in a few seconds.") : "")
 
         BGUI.Button {

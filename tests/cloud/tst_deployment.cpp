@@ -160,6 +160,7 @@ void TestDeployment::faults()
     QCOMPARE(log.messages().size(), 1);
     QVERIFY2(log.contains(file) && log.contains('"' + member), qPrintable(log.messages().constFirst()));
     QVERIFY2(!log.contains("SECRET"), qPrintable(log.messages().constFirst()));
+    QVERIFY(log.messages().constFirst().endsWith(deployment.fault.mid(file.size())));
 }
 
 void TestDeployment::brokenFiles_data()

@@ -120,7 +120,8 @@ class PagesTest(ProgramTest):
         program.press("Continue without an account", by_keyboard=True)
         program.wait_page("MainPage")
         program.wait_text("No Open Project")
-        program.click("Edit")  # without a project it does nothing
+        program.click("Edit")
+        program.wait_text("No project is open.")
         program.click("Open")
         program.wait_page("ProjectsPage")
         self.assert_clean(program)
@@ -348,8 +349,12 @@ class PagesTest(ProgramTest):
 
     def test_wall_without_a_cloud_starts_by_itself(self):
         self.profile.write_settings(**{**ACCOUNT, "userEmail": "", "doOnStart": "play"})
-        program = self.start()
+        deployment = self.profile.folder / "deployment.json"
+        deployment.write_text("{")
+        program = self.start("--deployment", str(deployment))
         program.wait_page("LoginPage")
+        program.wait_text("The deployment file is not used")
+        program.wait_text(f"{deployment}: ")
         program.wait_text("Its start screen opens in a few seconds.")
         program.wait_page("PlayerPage")
         program.close()
@@ -359,13 +364,6 @@ class PagesTest(ProgramTest):
         program.wait_page("PlayerPage")
         self.assertIn("page MainPage", program.log())
         self.assert_clean(program)
-
-    def test_editing_needs_a_project(self):
-        self.profile.write_settings(**{**ACCOUNT, "lastProject": ""})
-        program = self.start()
-        program.click("Edit")
-        program.wait_text("No project is open.")
-        self.assertEqual(program.page(), "MainPage")
 
     def test_sharing_needs_an_account(self):
         self.profile.write_settings(**{**ACCOUNT, "userEmail": "", "shareFolder": "false"})
