@@ -121,10 +121,13 @@ QQuickItem* LiveScene::make(const QString& text, const QUrl& url, QQmlContext* c
     component.completeCreate();
     if (watch.hasStruck())
         m_errors = {error(QStringLiteral("a script that runs when it is loaded does not end"))};
-    const bool isPart = m_root && (m_root == &parent || m_root->isAncestorOf(&parent));
-    if (!m_errors.isEmpty() || !comesToRest(isPart ? *m_root : *item))
+    if (!m_errors.isEmpty() || !item)
         return nullptr;
-    return qobject_cast<QQuickItem*>(object.release());
+    const bool isPart = m_root && (m_root == &parent || m_root->isAncestorOf(&parent));
+    if (!comesToRest(isPart ? *m_root : *item))
+        return nullptr;
+    object.release();
+    return item;
 }
 
 QList<QQmlError> LiveScene::check(const QString& text, const QUrl& url) const
