@@ -39,6 +39,20 @@ FormPage {
         question.open();
     }
 
+    function isHere(name) {
+        return CAPI.getProjectList().indexOf(name) >= 0;
+    }
+
+    // An archive takes the place of the project of its name.
+    function getArchive(source, name) {
+        replacement.source = source;
+        replacement.project = name;
+        if (isHere(name))
+            replacement.open();
+        else
+            transfer.getArchive(source, name);
+    }
+
     function browse() {
         notice.text = "";
         shell.open("ImportPage");
@@ -205,7 +219,8 @@ FormPage {
         emptyTitle: qsTr("The store is empty")
         emptyText: qsTr("Whoever looks after this cloud can put archives of projects into it.")
         canChoose: !transfer.running && !imports.running
-        onChosen: transfer.getArchive(source, name)
+        detailOf: name => root.isHere(name) ? qsTr("on this computer") : ""
+        onChosen: root.getArchive(source, name)
         onRemedyChosen: root.shell.open("NewProjectPage")
     }
 
@@ -243,6 +258,21 @@ FormPage {
         acceptText: qsTr("Delete")
         rejectText: qsTr("Keep")
         onAccepted: root.remove(project)
+    }
+
+    BGUI.MessageBox {
+        id: replacement
+
+        property string source
+        property string project
+
+        type: "danger"
+        title: qsTr("Replace %1?").arg(project)
+        text: qsTr("A project of this name is on this computer. With all that was changed in it, it gives way to the "
+                   + "store's.")
+        acceptText: qsTr("Replace")
+        rejectText: qsTr("Keep")
+        onAccepted: transfer.getArchive(source, project)
     }
 
     Imports {

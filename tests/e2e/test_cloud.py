@@ -195,7 +195,17 @@ class CloudTest(ProgramTest):
         self.cloud.put("NUVEX/Demos/Museum.zip", archive.getvalue())
         editor.click("Store")
         editor.click("Museum")
-        editor.click("Delete Museum")  # the list of what is here, once it has come
+        wait_for(lambda: editor.find("Delete Museum"), "the list of what is here, once it has come")
+        mine = self.profile.work / "Museum/main.qml"
+        mine.write_text("import QtQuick 2.15\nItem { x: 7 }\n", "utf-8")
+        for answer, text in (("Keep", "x: 7"), ("Replace", "Item {}")):
+            editor.click("Store")
+            editor.click("Museum")
+            editor.wait_text("Replace Museum?")
+            editor.click(answer)
+            wait_for(lambda: not editor.find("Replace Museum?"), "the question to go")
+            wait_for(lambda text=text: text in mine.read_text("utf-8"), text)
+        editor.click("Delete Museum")
         editor.click("Delete")
         wait_for(lambda: not (self.profile.work / "Museum").exists(), "the project to go again")
         editor.click("Delete Shop")
