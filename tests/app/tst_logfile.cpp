@@ -86,9 +86,10 @@ void TestLogFile::messagesHaveBoundsAndNoSecrets_data()
                            << "a=b, Signature=x";
     QTest::newRow("picture")
         << "Error transferring https://h/b/o.jpg?GoogleAccessId=a@b&Expires=1&Signature=ab%2Bc - "
-           "server replied: Not Found"
-        << "Error transferring https://h/b/o.jpg?GoogleAccessId=a@b&Expires=1&Signature=... - "
-           "server replied: Not Found";
+           "server replied: Not Found\nnext"
+        << "Error transferring https://h/b/o.jpg?GoogleAccessId=a@b&Expires=1&Signature=...\nnext";
+    QTest::newRow("picture that a library names") << "QImageReader: o.jpg?Signature=ab Cannot open: c+/d"
+                                                  << "QImageReader: o.jpg?Signature=...";
     QTest::newRow("database") << "\"http://h/x.json?auth=secret&shallow=true\" and ?key=other\n"
                               << "\"http://h/x.json?auth=...&shallow=true\" and ?key=...\n";
     QTest::newRow("huge") << QString(9'000'000, 'x')
