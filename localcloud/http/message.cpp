@@ -6,6 +6,7 @@
 #include "localcloud/base/encoding.h"
 
 #include <algorithm>
+#include <ctime>
 
 #include <strings.h>
 
@@ -139,10 +140,22 @@ std::optional<std::int64_t> Answer::length() const
     return {};
 }
 
+std::string httpDate(UnixMs time)
+{
+    const std::time_t seconds = time / 1000;
+    std::tm parts{};
+    gmtime_r(&seconds, &parts);
+    char text[32];
+    std::strftime(text, sizeof text, "%a, %d %b %Y %H:%M:%S GMT", &parts);
+    return text;
+}
+
 std::string Answer::head(bool keepAlive, std::int64_t lengthError) const
 {
     std::string text = "HTTP/1.1 " + std::to_string(status) + " ";
     text.append(reasonOf(status)).append("\r\n");
+    if (!headers.has("Date"))
+        text.append("Date: ").append(httpDate(unixNow())).append("\r\n");
     for (const auto& [name, value] : headers)
         text.append(name).append(": ").append(value).append("\r\n");
     const std::optional<std::int64_t> bytes = length();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "localcloud/base/file.h"
+#include "localcloud/base/unixtime.h"
 
 #include <functional>
 #include <memory>
@@ -42,6 +43,9 @@ public:
 private:
     std::vector<Field> m_fields;
 };
+
+/// A time as header fields have it (RFC 9110, section 5.6.7).
+std::string httpDate(UnixMs time);
 
 /// What a request asks for: a path and a query (RFC 3986).
 struct Target

@@ -7,22 +7,9 @@
 #include "localcloud/http/serviceerror.h"
 #include "localcloud/limits.h"
 
-#include <ctime>
-
 namespace localcloud {
 
 namespace {
-
-// RFC 9110, section 5.6.7.
-std::string httpDate(UnixMs time)
-{
-    const std::time_t seconds = time / 1000;
-    std::tm parts{};
-    gmtime_r(&seconds, &parts);
-    char text[32];
-    std::strftime(text, sizeof text, "%a, %d %b %Y %H:%M:%S GMT", &parts);
-    return text;
-}
 
 Headers mediaFields(const Object& object)
 {

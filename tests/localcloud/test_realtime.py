@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Nuvex developers
 # SPDX-License-Identifier: MIT
 """Database, event streams, sign-in and tokens over real connections."""
+import email.utils
 import pathlib
 import resource
 import subprocess
@@ -188,6 +189,8 @@ class TokenTest(CloudTest):
             answer = self.cloud.grant(**{claim: value})
             error = "invalid_scope" if claim == "scope" else "invalid_grant"
             self.assertEqual((answer.status, answer.body["error"]), (400, error), claim)
+            # by which a client whose clock is wrong can set it
+            self.assertLess(abs(email.utils.parsedate_to_datetime(answer.headers["Date"]).timestamp() - time.time()), 5)
         forms = {"": "invalid_request", "grant_type=password": "unsupported_grant_type",
                  "grant_type=" + cloud.GRANT: "invalid_request",
                  "grant_type=" + cloud.GRANT + "&assertion=%GG": "invalid_request", "x" * 70_000: "invalid_request"}
