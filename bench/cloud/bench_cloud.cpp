@@ -131,7 +131,7 @@ void showAnimation(QQuickView& view)
     QQmlComponent scene(view.engine());
     scene.setData("import QtQuick 2.15\nItem { width: 640; height: 360\nRectangle { width: 90; height: 90; "
                   "color: 'teal'\n"
-                  "NumberAnimation on x { to: 500; duration: 2000; loops: Animation.Infinite } } }",
+                  "NumberAnimation on x { from: 0; to: 500; duration: 2000; loops: Animation.Infinite } } }",
                   QUrl());
     view.setContent(QUrl(), &scene, scene.create());
     view.show();
