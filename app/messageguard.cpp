@@ -18,7 +18,8 @@ void passOn(QtMsgType type, const QMessageLogContext& context, const QString& me
 
 } // namespace
 
-// A signature goes to the line's end: libraries that take "%2B" in it for a place to fill in write words there.
+// A signature goes to the line's end: libraries that take "%2B" in it for a place to fill in write words
+// there.
 QString loggable(const QString& message)
 {
     static const QRegularExpression secret(

@@ -153,6 +153,11 @@ function childrenByElement(parent, element) {
     return LiveItems.numbered(parent, element);
 }
 
+/// A Map of the item with each number, the first of it: `parent` and what is below it.
+function firstByElement(parent) {
+    return LiveItems.firstByNumber(parent, new Map());
+}
+
 /// Lists a file of the project, given by its relative path, or raises its revision when it is listed, and saves
 /// the directory map. False when it was not saved; "", the path of a copy that failed, is not listed.
 function addFileToDirmap(path) {

@@ -126,8 +126,7 @@ QQuickItem* LiveScene::make(const QString& text, const QUrl& url, QQmlContext* c
     const bool isPart = m_root && (m_root == &parent || m_root->isAncestorOf(&parent));
     if (!comesToRest(isPart ? *m_root : *item))
         return nullptr;
-    object.release();
-    return item;
+    return qobject_cast<QQuickItem*>(object.release());
 }
 
 QList<QQmlError> LiveScene::check(const QString& text, const QUrl& url) const

@@ -64,8 +64,15 @@ void TestGuardedNetwork::answers_data()
                             24); // "aaaa"
     QTest::newRow("plain") << HttpAnswer::complete(200, "12345") << "200 5";
     QTest::newRow("largest") << HttpAnswer::complete(200, largest) << "200 67108864";
-    QTest::newRow("too large") << HttpAnswer::complete(200, largest + largest) << "0 0";
-    QTest::newRow("endless") << HttpAnswer::raw("HTTP/1.1 200 OK\r\n\r\n" + largest + largest) << "0 0";
+    // The network tells how far it is ten times a second.
+    const HttpAnswer::Piece pause{std::chrono::milliseconds(300), "y"};
+    HttpAnswer tooLarge = HttpAnswer::complete(200, largest + largest + 'y');
+    tooLarge.pieces.last().bytes.chop(1);
+    tooLarge.pieces.append(pause);
+    QTest::newRow("too large") << tooLarge << "0 0";
+    HttpAnswer endless = HttpAnswer::raw("HTTP/1.1 200 OK\r\n\r\n" + largest + largest);
+    endless.pieces.append(pause);
+    QTest::newRow("endless") << endless << "0 0";
     QTest::newRow("packed") << HttpAnswer::complete(200, packed, "Content-Encoding: gzip\r\n")
                             << "200 22"; // as UTF-8
 }

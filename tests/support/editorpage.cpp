@@ -65,7 +65,7 @@ void copyFolder(const QString& from, const QString& to)
 
 } // namespace
 
-EditorPage::EditorPage(const QString& source, const QString& media, const QString& pageName)
+EditorPage::EditorPage(const QString& source, const QString& media)
     : m_isHome(useHome(m_home.path()))
 {
     m_capi.createProject(QStringLiteral("Test"));
@@ -78,7 +78,7 @@ EditorPage::EditorPage(const QString& source, const QString& media, const QStrin
     m_context = std::make_unique<QmlContext>(*m_view.engine(), m_capi, QSize(1280, 720), 96);
     m_view.resize(1280, 720);
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view.setSource(QUrl(QStringLiteral("qrc:/Nuvex/PlayerQML/%1.qml").arg(pageName)));
+    m_view.setSource(QUrl(QStringLiteral("qrc:/Nuvex/PlayerQML/RADEditorPage.qml")));
     m_view.show();
     QQmlComponent component(m_view.engine());
     component.setData(probe, QUrl());

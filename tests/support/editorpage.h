@@ -11,14 +11,13 @@
 
 #include <memory>
 
-/// The desktop editor's page, or another one, in a window of its own, with a project whose main document it
-/// has opened. GUI thread.
+/// The desktop editor's page in a window of its own, with a project whose main document it has opened. GUI
+/// thread.
 class EditorPage
 {
 public:
     /// Opens a project with the document `source` and, if named, all files of the folder `media`.
-    explicit EditorPage(const QString& source, const QString& media = QString(),
-                        const QString& pageName = QStringLiteral("RADEditorPage"));
+    explicit EditorPage(const QString& source, const QString& media = QString());
     ~EditorPage();
 
     QQuickView& window() { return m_view; }

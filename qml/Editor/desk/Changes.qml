@@ -19,8 +19,9 @@ QtObject {
 
     // Writes places and sizes that the live items have already: maps of an "item" and its "values" by name.
     function place(entries) {
-        const changes = entries.reduce((all, entry) => all.concat(Object.keys(entry.values).map(name =>
-            ({ element: entry.item.element, name: name, text: String(entry.values[name]) }))), []);
+        const changes = [];
+        entries.forEach(entry => Object.keys(entry.values).forEach(name =>
+            changes.push({ element: entry.item.element, name: name, text: String(entry.values[name]) })));
         if (changes.length === 0)
             return;
         const before = CAPI.editedSourceCode();
@@ -64,7 +65,7 @@ QtObject {
         if (!desk.showSource(before))
             return false;
         const record = Ejs.map.find(record => Outline.idOf(record) === id);
-        desk.selection.set(record ? [desk.selection.itemAt(record.pfirst)] : []);
+        desk.selection.set(record ? desk.selection.itemsAt([record.pfirst]) : []);
         desk.finish();
         return true;
     }

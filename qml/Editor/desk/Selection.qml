@@ -166,13 +166,14 @@ QtObject {
 
     /// The items that stood at `places` of the source `before`, as far as they are in the present one.
     function foundAt(places, before) {
-        const after = CAPI.editedSourceCode();
-        return places.map(place => itemAt(Places.moved(place, before, after))).filter(item => item !== null);
+        return places.length > 0 ? itemsAt(places.map(Places.mover(before, CAPI.editedSourceCode()))) : [];
     }
 
-    /// The item that begins at `place` of the source; null when none does.
-    function itemAt(place) {
-        const element = Ejs.map.findIndex(record => record.pfirst === place && record.plast > place);
-        return element < 0 ? null : Ejs.childrenByElement(desk.live.root, element);
+    /// The items that begin at `places` of the source, as far as there are such.
+    function itemsAt(places) {
+        const elements = new Map(Ejs.map.map((record, element) => [record.pfirst, element])
+                                        .filter(([place, element]) => Ejs.map[element].plast > place).reverse());
+        const items = Ejs.firstByElement(desk.live.root);
+        return places.map(place => items.get(elements.get(place))).filter(item => item !== undefined);
     }
 }

@@ -33,6 +33,16 @@ function numbered(parent, element) {
     return null;
 }
 
+/// Adds the first item with each number, of `parent` and what is below it, to the Map `found`.
+function firstByNumber(parent, found) {
+    if (_isNumbered(parent) && !found.has(parent.element))
+        found.set(parent.element, parent);
+    const children = parent.children;
+    for (let i = 0, count = children.length; i < count; ++i)
+        firstByNumber(children[i], found);
+    return found;
+}
+
 /// All items with the number `element` below `parent`: an item that shows several times has one number.
 function allNumbered(parent, element) {
     return Array.prototype.reduce.call(parent.children, (found, child) =>
