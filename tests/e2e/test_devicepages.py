@@ -3,6 +3,7 @@
 """A project's files as text, and the editor for touch: found, changed, refused, saved, played."""
 
 import sys
+import time
 from contextlib import ExitStack
 from pathlib import Path
 
@@ -223,6 +224,7 @@ class FingersTest(TouchPageTest):
         wait_for(lambda: self.rect("page")[2] > 1.5 * page[2], "a larger page")
         self.tap("Whole page")
         wait_for(lambda: self.rect("page") == page, "the whole page")
+        time.sleep(0.6)  # two quick taps are a double tap, wherever they are
         program.tap("red")
         self.wait_selected("red")
         scale = page[2] / 600

@@ -104,7 +104,7 @@ QtObject {
         const moved = elements.map(element => Ejs.map[element].pfirst);
         if (!desk.showSource(source))
             return;
-        desk.selection.set(moved.map(desk.selection.itemAt).filter(item => item !== null));
+        desk.selection.set(desk.selection.itemsAt(moved));
         desk.finish();
     }
 
